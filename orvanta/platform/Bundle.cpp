@@ -1,0 +1,26 @@
+#include <orvanta/platform/Bundle.h>
+
+namespace orvanta::platform {
+
+Bundle::~Bundle() = default;
+BundleRegistry::~BundleRegistry() = default;
+
+String Bundle::localizedStringForKey(const String& key, const String& value,
+                                     const String& table) const {
+  String text = key.isAbsent() ? String() : textForKey(HashedKey(key.view()), table);
+  if (text.isPresent()) {
+    return text;
+  }
+  return value.empty() ? key : value;
+}
+
+std::vector<String> Bundle::textsForKeys(std::span<const HashedKey> keys) const {
+  std::vector<String> texts;
+  texts.reserve(keys.size());
+  for (const HashedKey& key : keys) {
+    texts.push_back(textForKey(key, {}));
+  }
+  return texts;
+}
+
+}  // namespace orvanta::platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/Calendar.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/StringList.h>
+
+namespace orvanta::platform {
+
+/// The direction in which a language's lines run.
+enum class LanguageDirection { unknown = 0, leftToRight = 1, rightToLeft = 2 };
+
+/// What the platform knows about languages. Safe to ask from any thread.
+class ORVANTA_EXPORT LocaleData {
+ public:
+  virtual ~LocaleData();
+  LocaleData(const LocaleData&) = delete;
+  LocaleData& operator=(const LocaleData&) = delete;
+
+  /// The device's languages in order of preference, unfiltered; possibly none, never absent.
+  [[nodiscard]] virtual StringList preferredLanguages() = 0;
+
+  /// The direction of a bare language code ("ar", not "ar-EG"); unknown for anything else.
+  [[nodiscard]] virtual LanguageDirection characterDirectionForLanguage(const String& language) = 0;
+
+  /// `text` in lower case whatever the device's language is; absent for absent.
+  [[nodiscard]] virtual String lowercaseString(const String& text) = 0;
+
+  /// A new object at every call, which the caller may change.
+  [[nodiscard]] virtual std::shared_ptr<Calendar> currentCalendar() = 0;
+
+ protected:
+  LocaleData() = default;
+};
+
+}  // namespace orvanta::platform

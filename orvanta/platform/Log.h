@@ -1,0 +1,22 @@
+#pragma once
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+
+namespace orvanta::platform {
+
+/// Where the library's few messages go. Safe to call from any thread.
+class ORVANTA_EXPORT Log {
+ public:
+  virtual ~Log();
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
+
+  /// One message, without a line feed at its end.
+  virtual void log(const String& message) = 0;
+
+ protected:
+  Log() = default;
+};
+
+}  // namespace orvanta::platform

@@ -1,0 +1,45 @@
+#include <orvanta/platform/Platform.h>
+
+#include <atomic>
+#include <mutex>
+
+#include <orvanta/platform/DefaultPlatform.h>
+
+namespace orvanta::platform {
+
+LocaleData::~LocaleData() = default;
+Log::~Log() = default;
+MainQueue::~MainQueue() = default;
+NotificationCenter::~NotificationCenter() = default;
+ProcessInfo::~ProcessInfo() = default;
+FileManager::~FileManager() = default;
+ReadableFile::~ReadableFile() = default;
+WritableFile::~WritableFile() = default;
+
+namespace {
+
+std::atomic<const Platform*> installed{nullptr};
+std::mutex installing;
+
+// Platforms are never freed: bundles and memos made from one may be in use until the process ends.
+const Platform* keep(Platform platform) { return new Platform(std::move(platform)); }
+
+}  // namespace
+
+const Platform& Platform::current() {
+  if (const Platform* platform = installed.load(std::memory_order_acquire)) {
+    return *platform;
+  }
+  const std::scoped_lock lock(installing);
+  if (installed.load(std::memory_order_relaxed) == nullptr) {
+    installed.store(keep(makeDefaultPlatform()), std::memory_order_release);
+  }
+  return *installed.load(std::memory_order_relaxed);
+}
+
+void Platform::install(Platform platform) {
+  const std::scoped_lock lock(installing);
+  installed.store(keep(std::move(platform)), std::memory_order_release);
+}
+
+}  // namespace orvanta::platform
