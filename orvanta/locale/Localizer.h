@@ -10,6 +10,7 @@
 #include <orvanta/platform/StringList.h>
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace orvanta {
@@ -76,6 +77,9 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] String localizedStringForKey(const String& key);
   /// The same; a key that is found nowhere is copied.
   [[nodiscard]] String localizedStringForKey(std::string_view key);
+  [[nodiscard]] String localizedStringForKey(const std::string& key) {
+    return localizedStringForKey(std::string_view(key));
+  }
   [[nodiscard]] String localizedStringForKey(const char* key) {
     return key == nullptr ? localizedStringForKey(String())
                           : localizedStringForKey(std::string_view(key));
