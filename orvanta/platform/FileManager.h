@@ -1,5 +1,9 @@
 #pragma once
 
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/URL.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -8,10 +12,6 @@
 #include <span>
 #include <string_view>
 #include <vector>
-
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/URL.h>
 
 namespace orvanta::platform {
 
@@ -31,7 +31,7 @@ enum class ItemKind { missing, file, directory, symbolicLink, other };
 struct FileStamp {
   std::uint64_t device;
   std::uint64_t item;
-  std::uint64_t size;                     ///< In bytes.
+  std::uint64_t size;                    ///< In bytes.
   std::int64_t modificationNanoseconds;  ///< Since the epoch.
 
   friend bool operator==(const FileStamp&, const FileStamp&) = default;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/FileManager.h>
@@ -10,6 +8,8 @@
 #include <orvanta/platform/MainQueue.h>
 #include <orvanta/platform/NotificationCenter.h>
 #include <orvanta/platform/ProcessInfo.h>
+
+#include <memory>
 
 namespace orvanta::platform {
 
