@@ -81,7 +81,8 @@ TEST(DependencyLaw, OnlyTheQtPlatformIncludesQt) {
   static const std::regex kQtHeader("^(Q[A-Z][A-Za-z]*|Qt[A-Z][A-Za-z]*/.*)$");
   for (const auto& [file, list] : includesOfTheLibrary()) {
     for (const std::string& included : list) {
-      EXPECT_TRUE(file.starts_with("orvanta/platform/qt/") || !std::regex_match(included, kQtHeader))
+      EXPECT_TRUE(file.starts_with("orvanta/platform/qt/") ||
+                  !std::regex_match(included, kQtHeader))
           << file << " includes " << included;
     }
   }

@@ -16,7 +16,8 @@ StringList adopt(const Request& request) {
   if (requested.isAbsent()) {
     requested = localizer.devicePreferredLocales();
   }
-  localizer.updatePreferredLocales(requested, request.country ? String(*request.country) : String());
+  localizer.updatePreferredLocales(requested,
+                                   request.country ? String(*request.country) : String());
   return localizer.originalLocales();
 }
 

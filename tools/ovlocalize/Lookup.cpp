@@ -5,8 +5,7 @@
 
 namespace ovlocalize {
 
-int lookup(const Settings& settings, const Request& request,
-           const std::vector<std::string>& keys) {
+int lookup(const Settings& settings, const Request& request, const std::vector<std::string>& keys) {
   installPlatform(settings);
   adopt(request);
   orvanta::Localizer& localizer = orvanta::Localizer::sharedLocalizer();

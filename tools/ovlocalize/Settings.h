@@ -9,8 +9,8 @@ namespace ovlocalize {
 
 /// What the options before the command say.
 struct Settings {
-  std::string bundle;                               ///< The main bundle's folder; empty: none given.
-  std::string cache;                                ///< The caches directory; empty: the user's.
+  std::string bundle;  ///< The main bundle's folder; empty: none given.
+  std::string cache;   ///< The caches directory; empty: the user's.
   std::optional<std::vector<std::string>> devices;  ///< The device's languages.
   bool json = false;
 };

@@ -23,9 +23,10 @@ constexpr const char* kFooter =
     "standard error when it could not be.";
 
 void addRequestCountry(CLI::App& command, Request& request) {
-  command.add_option_function<std::string>(
-      "--country", [&request](const std::string& country) { request.country = country; },
-      "A country: each two-letter language is first tried with it (fr: fr-CA, then fr)")
+  command
+      .add_option_function<std::string>(
+          "--country", [&request](const std::string& country) { request.country = country; },
+          "A country: each two-letter language is first tried with it (fr: fr-CA, then fr)")
       ->type_name("CC");
 }
 
@@ -62,15 +63,17 @@ int run(int argc, char** argv) {
       ->callback([&] { chosen = [&] { return ovlocalize::languages(settings); }; });
 
   CLI::App* match = app.add_subcommand("match", "Show what a request for languages comes to");
-  match->add_option("locales", request.locales,
-                    "What is asked for, best first (default: the device's languages)")
+  match
+      ->add_option("locales", request.locales,
+                   "What is asked for, best first (default: the device's languages)")
       ->type_name("LOCALE");
   addRequestCountry(*match, request);
   match->callback([&] { chosen = [&] { return ovlocalize::match(settings, request); }; });
 
   CLI::App* lookup = app.add_subcommand("lookup", "Print the texts of keys, one a line");
-  lookup->add_option("--locales", request.locales,
-                     "The languages to look in, best first (default: the device's languages)")
+  lookup
+      ->add_option("--locales", request.locales,
+                   "The languages to look in, best first (default: the device's languages)")
       ->delimiter(',')
       ->type_name("a,b");
   addRequestCountry(*lookup, request);
