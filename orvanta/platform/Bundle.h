@@ -68,6 +68,10 @@ class ORVANTA_EXPORT BundleRegistry {
   /// The application's own bundle; always present, also when its folder holds nothing.
   [[nodiscard]] virtual std::shared_ptr<Bundle> mainBundle() = 0;
 
+  /// The folder of the library's own resources, which stands apart from the application's; absent
+  /// when the library was installed without one.
+  [[nodiscard]] virtual std::shared_ptr<Bundle> bundleForLibrary() = 0;
+
   /// The bundle of a folder, absent when there is no folder there (any more). Opening one again
   /// gives the same object; it reads its tables afresh if their files have changed meanwhile.
   [[nodiscard]] virtual std::shared_ptr<Bundle> bundleWithPath(const String& path) = 0;
