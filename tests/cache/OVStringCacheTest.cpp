@@ -50,7 +50,7 @@ TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
 }
 
 TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   OVStringCache cache;
   const OVLocaleDictionary first = cache.availableLanguages();
   EXPECT_TRUE(first.isSameObject(cache.availableLanguages()));
@@ -112,7 +112,7 @@ TEST(CacheStorage, MakesItsFolderAndLeavesWhatIsThere) {
 }
 
 TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   app.download("fr", {});
   test::writeFile(app.cacheFolder() / ".hidden", "x");
   test::writeFile(app.cacheFolder() / "odd name?", "x");

@@ -108,7 +108,7 @@ TEST(Localizer, PostsOnceForEachChange) {
 }
 
 TEST(Localizer, UpdatesFromAnAbsentList) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   Localizer localizer;
   Listener listener(app);
   listener.hear();
@@ -184,7 +184,7 @@ TEST(Localizer, NamesItsLocales) {
 }
 
 TEST(Localizer, IsSharedByAllThreads) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   Localizer* fromThread = nullptr;
   std::thread([&] { fromThread = &Localizer::sharedLocalizer(); }).join();
   EXPECT_EQ(fromThread, &Localizer::sharedLocalizer());
