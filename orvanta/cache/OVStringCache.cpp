@@ -1,8 +1,11 @@
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/cache/ReplacingWriter.h>
+#include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/platform/Platform.h>
 
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -21,6 +24,10 @@ StringList codesOf(const OVLocaleDictionary& languages) {
     codes.push_back(locale->orvantaLocaleName());
   }
   return StringList(codes);
+}
+
+std::string formatted(const String& text) {
+  return text.isAbsent() ? "(null)" : text.str();
 }
 
 std::shared_ptr<Bundle> bundleUnder(std::string_view key, const OVLocaleDictionary& languages) {
@@ -146,6 +153,32 @@ String OVStringCache::localizedStringForKey(const String& key, const String& lan
   const auto bundle =
       bundleUnder(OVStringCacheUtilities::cleanedString(language).view(), availableLanguages());
   return bundle == nullptr ? String() : bundle->localizedStringForKey(key);
+}
+
+void OVStringCache::updateStrings(const StringsPayload& strings, const String& namespaceName,
+                                  const String& bundleName, const UpdateReport& report) {
+  sweepAbandonedFiles(*Platform::current().files, cacheDirectoryURL());
+  const std::string tablePath =
+      formatted(bundleName) + '.' + formatted(namespaceName) + ".zantorData";
+  for (const auto& [language, payload] : strings.entries()) {
+    const StringsUpdate update = updateLanguage(language, payload.valueForKeyPath(tablePath));
+    if (report) {
+      report(update);
+    }
+  }
+  refreshCache();
+}
+
+StringsUpdate OVStringCache::updateLanguage(const String& language, const StringsPayload* table) {
+  if (table == nullptr || table->entries().empty()) {
+    return {language, StringsUpdate::Result::skipped, {}, "no strings for it in the payload"_s};
+  }
+  const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(cacheDirectoryURL(), language);
+  const auto error =
+      writeTable(OVStringCacheUtilities::localizableStringsFile(*table), file, cacheDirectoryURL());
+  return error ? StringsUpdate{language, StringsUpdate::Result::failed, file,
+                               error->localizedDescription}
+               : StringsUpdate{language, StringsUpdate::Result::written, file, {}};
 }
 
 void OVStringCache::refreshCache() {

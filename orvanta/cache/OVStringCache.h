@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orvanta/Export.h>
+#include <orvanta/cache/StringsPayload.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/String.h>
@@ -19,6 +20,20 @@ inline constexpr std::intptr_t OVLocaleNotAvailable = 1000;
 
 /// The comment of a table entry that nobody commented. For applications; the library writes none.
 inline constexpr std::string_view defaultComment = "No comment provided by engineer.";
+
+/// How one language fared in an update.
+struct StringsUpdate {
+  enum class Result {
+    written,
+    skipped,  ///< The payload holds no table, or an empty one; what was cached stays.
+    failed,   ///< What was cached stays.
+  };
+
+  String language;
+  Result result;
+  platform::URL file;  ///< Absent when skipped, or when the language's name fits in no URL.
+  String reason;       ///< For people; absent when written.
+};
 
 /// The catalogue of the languages that the application can run in, and the cache of downloaded
 /// tables on disk:
@@ -77,6 +92,22 @@ class ORVANTA_EXPORT OVStringCache {
   /// language part is not tried.
   [[nodiscard]] String localizedStringForKey(const String& key, const String& language);
 
+  using UpdateReport = std::function<void(const StringsUpdate&)>;
+  /// Writes downloaded tables into the cache and forgets the catalogue, so that the next change of
+  /// language, also to the same one, reads the new files; until then look-ups answer from the
+  /// tables in memory.
+  ///
+  /// `strings` is a dictionary from language to payload; a payload is a dictionary in which the
+  /// path "bundleName.namespaceName.zantorData", taken apart at every ".", leads to the table, a
+  /// dictionary from key to text. Each table replaces the one that was cached; a language without
+  /// one, or with an empty one, is passed over. A write that fails is logged, leaves what was
+  /// cached, and the update goes on. `report`, if given, is told of each language.
+  ///
+  /// Keys and values are source text of the strings format: they are written as they are, and
+  /// escapes in them are resolved when the file is read.
+  void updateStrings(const StringsPayload& strings, const String& namespaceName,
+                     const String& bundleName, const UpdateReport& report = {});
+
   /// Forgets the catalogue, so that the next read sees what is on disk then.
   void refreshCache();
 
@@ -84,6 +115,8 @@ class ORVANTA_EXPORT OVStringCache {
   void clearCache();
 
  private:
+  StringsUpdate updateLanguage(const String& language, const StringsPayload* table);
+
   platform::URL cacheDirectoryURL_;
   OVLocaleDictionary cachedLanguages_;
   OVLocaleDictionary availableLanguages_;

@@ -1,4 +1,5 @@
 #include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/cache/TableWriter.h>
 #include <orvanta/platform/CharacterSet.h>
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/Platform.h>
@@ -54,6 +55,26 @@ URL stringsFileURLForLanguage(const URL& directory, const String& language) {
   text += language.isAbsent() ? std::string_view("(null)") : language.view();
   text += ".lproj/Localizable.strings";
   return URL::URLWithString(text);
+}
+
+String localizableStringsFile(const StringsPayload& table) {
+  std::string text;
+  for (const auto& [key, value] : table.entries()) {
+    if (value.text().empty() || key.empty()) {
+      continue;
+    }
+    text += "/* */\n\"";
+    text += key.view();
+    text += "\" = \"";
+    text += value.text().view();
+    text += "\";\n\n";
+  }
+  return text;
+}
+
+void saveLanguageStringForLanguage(const String& text, const String& /*language*/, const URL& file,
+                                   const URL& within) {
+  static_cast<void>(writeTable(text, file, within));
 }
 
 String cleanedString(const String& text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orvanta/Export.h>
+#include <orvanta/cache/StringsPayload.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/URL.h>
 
@@ -37,6 +38,19 @@ ORVANTA_EXPORT void clearFilesFromDirectory(const platform::URL& directory);
 /// that one with a character that no URL holds gives absent.
 [[nodiscard]] ORVANTA_EXPORT platform::URL stringsFileURLForLanguage(const platform::URL& directory,
                                                                      const String& language);
+
+/// The text of a strings file with the table's pairs, one after the other in the table's order:
+/// an empty comment, the assignment, a blank line. Pairs with an empty key or value, and values
+/// that are no text, are left out. Keys and values go in as they are: what a service sends is
+/// source text of the format, whose escapes the reader resolves.
+[[nodiscard]] ORVANTA_EXPORT String localizableStringsFile(const StringsPayload& table);
+
+/// Writes a table's text to `file` as UTF-16 with a byte-order mark, replacing an earlier table
+/// whole, and logs how that ended. A write that would leave the folder `within`, and text that is
+/// not valid UTF-8, fail and touch nothing. `language` is not used: the URL alone names the file.
+ORVANTA_EXPORT void saveLanguageStringForLanguage(
+    const String& text, const String& language, const platform::URL& file,
+    const platform::URL& within = cacheDirectoryURL());
 
 /// The text in lower case, then without white space and line breaks at both ends.
 [[nodiscard]] ORVANTA_EXPORT String cleanedString(const String& text);
