@@ -1,7 +1,5 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -11,6 +9,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::tests {
 
@@ -93,6 +93,10 @@ class ForwardingFileManager final : public platform::FileManager {
       creation.file = std::make_unique<Writing>(std::move(creation.file), hook_, path);
     }
     return creation;
+  }
+  platform::FileOutcome removeFileUnlessInUse(const String& path) override {
+    const Fault fault = ask("removeFileUnlessInUse", path);
+    return fault.failure ? fault.failure : target_->removeFileUnlessInUse(path);
   }
   platform::FileOutcome moveItemReplacing(const String& from, const String& to) override {
     const Fault fault = ask("moveItemReplacing", to);

@@ -1,8 +1,10 @@
 #include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/OpenFiles.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/OpenFiles.h>
 
 namespace orvanta::platform::standard {
 
@@ -70,16 +72,38 @@ std::unique_ptr<ReadableFile> openForReading(const std::string& path) {
   return std::make_unique<PosixReadableFile>(std::move(file));
 }
 
+// A file is in use while its maker holds its lock, which the system gives back when the maker ends
+// in whatever way. Where the file system has no locks, every file counts as in use.
 FileManager::Creation createForWriting(const std::string& path) {
   constexpr mode_t kWhatTheUmaskLeaves = 0666;
-  FileDescriptor file(uninterrupted([&] {
-    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                  kWhatTheUmaskLeaves);
+  for (;;) {
+    FileDescriptor file(uninterrupted([&] {
+      return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                    kWhatTheUmaskLeaves);
+    }));
+    if (!file.isOpen()) {
+      return {nullptr, systemError(errno)};
+    }
+    uninterrupted([&] { return ::flock(file.get(), LOCK_EX); });
+    struct stat status {};
+    // Whoever came between making and locking may have removed the file as abandoned.
+    if (::fstat(file.get(), &status) != 0 || status.st_nlink > 0) {
+      return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
+    }
+  }
+}
+
+FileOutcome removeUnlessInUse(const std::string& path) {
+  const FileDescriptor file(uninterrupted([&] {
+    return ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   }));
   if (!file.isOpen()) {
-    return {nullptr, systemError(errno)};
+    return systemError(errno);
   }
-  return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
+  if (uninterrupted([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0) {
+    return std::nullopt;
+  }
+  return outcomeOfCall(::unlink(path.c_str()));
 }
 
 }  // namespace orvanta::platform::standard

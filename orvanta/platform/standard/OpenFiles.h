@@ -1,9 +1,9 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <memory>
 #include <string>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 
@@ -12,5 +12,8 @@ namespace orvanta::platform::standard {
 
 /// Makes a new file; never opens what is there already.
 [[nodiscard]] FileManager::Creation createForWriting(const std::string& path);
+
+/// Removes what `createForWriting` made, unless the file object, in whatever process, still lives.
+[[nodiscard]] FileOutcome removeUnlessInUse(const std::string& path);
 
 }  // namespace orvanta::platform::standard

@@ -1,10 +1,11 @@
+#include <filesystem>
+
 #include <gtest/gtest.h>
+#include <tests/support/TemporaryFolder.h>
+
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/StandardFiles.h>
 #include <orvanta/platform/standard/StandardLocaleData.h>
-#include <tests/support/TemporaryFolder.h>
-
-#include <filesystem>
 
 namespace orvanta::platform::standard {
 namespace {
@@ -15,7 +16,7 @@ class StandardBundles : public testing::Test {
  protected:
   std::shared_ptr<BundleRegistry> registryFor(StringList deviceLanguages = {"fr"}) const {
     return makeBundleRegistry(makeFileManager({}), makeLocaleData(std::move(deviceLanguages)),
-                              folder_.path());
+                              folder_.path(), {});
   }
 
   TemporaryFolder folder_;
@@ -108,7 +109,7 @@ TEST_F(StandardBundles, MainBundleFallsBackOnItsPreferredLocalization) {
 
 TEST_F(StandardBundles, MainBundleIsThereWithoutAFolder) {
   const auto registry =
-      makeBundleRegistry(makeFileManager({}), makeLocaleData({}), folder_.path("none"));
+      makeBundleRegistry(makeFileManager({}), makeLocaleData({}), folder_.path("none"), {});
   const auto main = registry->mainBundle();
   ASSERT_NE(main, nullptr);
   EXPECT_EQ(main->bundlePath(), folder_.path("none").c_str());
