@@ -142,6 +142,10 @@ class StandardFileManager final : public FileManager {
 
   Creation createFile(const String& path) override { return createForWriting(systemPath(path)); }
 
+  FileOutcome removeFileUnlessInUse(const String& path) override {
+    return removeUnlessInUse(systemPath(path));
+  }
+
   FileOutcome moveItemReplacing(const String& from, const String& to) override {
     return outcomeOfCall(std::rename(systemPath(from).c_str(), systemPath(to).c_str()));
   }
