@@ -12,7 +12,7 @@
 
 #include <orvanta/platform/FileManager.h>
 
-namespace orvanta::tests {
+namespace orvanta::test {
 
 /// What becomes of one file operation.
 struct Fault {
@@ -164,4 +164,4 @@ class ForwardingFileManager final : public platform::FileManager {
   std::shared_ptr<Hook> hook_;
 };
 
-}  // namespace orvanta::tests
+}  // namespace orvanta::test

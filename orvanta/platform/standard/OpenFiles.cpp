@@ -60,20 +60,36 @@ class PosixWritableFile final : public WritableFile {
   FileDescriptor file_;
 };
 
+// Closed when it cannot be opened or is no regular file; errno then says why.
+FileDescriptor openRegularFile(const std::string& path, int moreFlags) {
+  FileDescriptor file(uninterrupted([&] {
+    return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | moreFlags);
+  }));
+  struct stat status {};
+  if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
+    return FileDescriptor();
+  }
+  if (!S_ISREG(status.st_mode)) {
+    file = FileDescriptor();
+    errno = EINVAL;
+  }
+  return file;
+}
+
+bool isStillAt(const std::string& path, int file) {
+  struct stat opened {};
+  struct stat found {};
+  return ::fstat(file, &opened) == 0 && ::lstat(path.c_str(), &found) == 0 &&
+         opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
+}
+
 }  // namespace
 
 std::unique_ptr<ReadableFile> openForReading(const std::string& path) {
-  FileDescriptor file(uninterrupted(
-      [&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
-  struct stat status {};
-  if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) {
-    return nullptr;
-  }
-  return std::make_unique<PosixReadableFile>(std::move(file));
+  FileDescriptor file = openRegularFile(path, 0);
+  return file.isOpen() ? std::make_unique<PosixReadableFile>(std::move(file)) : nullptr;
 }
 
-// A file is in use while its maker holds its lock, which the system gives back when the maker ends
-// in whatever way. Where the file system has no locks, every file counts as in use.
 FileManager::Creation createForWriting(const std::string& path) {
   constexpr mode_t kWhatTheUmaskLeaves = 0666;
   for (;;) {
@@ -84,26 +100,25 @@ FileManager::Creation createForWriting(const std::string& path) {
     if (!file.isOpen()) {
       return {nullptr, systemError(errno)};
     }
-    uninterrupted([&] { return ::flock(file.get(), LOCK_EX); });
-    struct stat status {};
-    // Whoever came between making and locking may have removed the file as abandoned.
-    if (::fstat(file.get(), &status) != 0 || status.st_nlink > 0) {
+    // A file system without locks makes files all the same.
+    static_cast<void>(uninterrupted([&] { return ::flock(file.get(), LOCK_EX); }));
+    // Somebody who looks for abandoned files may have come before the lock and removed it.
+    if (isStillAt(path, file.get())) {
       return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
     }
   }
 }
 
 FileOutcome removeUnlessInUse(const std::string& path) {
-  const FileDescriptor file(uninterrupted([&] {
-    return ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  }));
+  const FileDescriptor file(openRegularFile(path, O_NOFOLLOW));
   if (!file.isOpen()) {
     return systemError(errno);
   }
   if (uninterrupted([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0) {
-    return std::nullopt;
+    return errno == EWOULDBLOCK ? std::nullopt : FileOutcome(systemError(errno));
   }
-  return outcomeOfCall(::unlink(path.c_str()));
+  // Whoever had it open may have moved it meanwhile.
+  return isStillAt(path, file.get()) ? outcomeOfCall(::unlink(path.c_str())) : std::nullopt;
 }
 
 }  // namespace orvanta::platform::standard

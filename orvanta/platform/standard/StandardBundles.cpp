@@ -176,9 +176,9 @@ class StandardBundleRegistry final : public BundleRegistry {
 std::shared_ptr<BundleRegistry> makeBundleRegistry(std::shared_ptr<FileManager> files,
                                                    std::shared_ptr<LocaleData> locales,
                                                    const String& mainBundlePath,
-                                                   const String& libraryPath) {
+                                                   String libraryPath) {
   return std::make_shared<StandardBundleRegistry>(std::move(files), std::move(locales),
-                                                  mainBundlePath, libraryPath);
+                                                  mainBundlePath, std::move(libraryPath));
 }
 
 }  // namespace orvanta::platform::standard

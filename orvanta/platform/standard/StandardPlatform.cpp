@@ -54,6 +54,9 @@ Platform makeStandardPlatform(const StandardOptions& options, Platform replaceme
     platform.bundles = makeBundleRegistry(platform.files, platform.locales,
                                           mainBundlePathFor(options), libraryResourcesPath());
   }
+  if (platform.fonts == nullptr) {
+    platform.fonts = makeStandardFonts();
+  }
   if (platform.notifications == nullptr) {
     platform.notifications = makeNotificationCenter();
   }
@@ -62,9 +65,6 @@ Platform makeStandardPlatform(const StandardOptions& options, Platform replaceme
   }
   if (platform.processInfo == nullptr) {
     platform.processInfo = makeProcessInfo(options.systemVersion.value_or(kernelVersion()));
-  }
-  if (platform.fonts == nullptr) {
-    platform.fonts = makeStandardFonts();
   }
   if (platform.log == nullptr) {
     platform.log = makeLog(options.logSink);
