@@ -1,5 +1,6 @@
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/standard/BundlePaths.h>
+#include <orvanta/platform/standard/LibraryResources.h>
 #include <orvanta/platform/standard/LocalizationRanking.h>
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/TableFile.h>
@@ -143,6 +144,10 @@ class StandardBundleRegistry final : public BundleRegistry {
   }
 
   std::shared_ptr<Bundle> mainBundle() override { return main_; }
+
+  std::shared_ptr<Bundle> bundleForLibrary() override {
+    return bundleWithPath(libraryResourcesPath());
+  }
 
   std::shared_ptr<Bundle> bundleWithPath(const String& path) override {
     const String normalized = normalizedBundlePath(path);

@@ -4,6 +4,7 @@
 #include <orvanta/platform/standard/RunLoop.h>
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/StandardFiles.h>
+#include <orvanta/platform/standard/StandardFonts.h>
 #include <orvanta/platform/standard/StandardLocaleData.h>
 #include <orvanta/platform/standard/StandardLog.h>
 #include <orvanta/platform/standard/StandardNotificationCenter.h>
@@ -51,6 +52,9 @@ Platform makeStandardPlatform(const StandardOptions& options, Platform replaceme
   if (platform.bundles == nullptr) {
     platform.bundles =
         makeBundleRegistry(platform.files, platform.locales, mainBundlePathFor(options));
+  }
+  if (platform.fonts == nullptr) {
+    platform.fonts = makeStandardFonts();
   }
   if (platform.notifications == nullptr) {
     platform.notifications = makeNotificationCenter();
