@@ -1,9 +1,10 @@
-#include <orvanta/platform/standard/strings/BinaryTable.h>
-
-#include <string>
-
 #include <orvanta/platform/standard/strings/BinaryObjects.h>
+#include <orvanta/platform/standard/strings/BinaryTable.h>
 #include <orvanta/platform/standard/strings/BinaryText.h>
+
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace orvanta::platform::standard {
 
@@ -91,7 +92,9 @@ class BinaryTableReader {
 
 }  // namespace
 
-bool looksLikeBinaryTable(std::string_view bytes) noexcept { return bytes.starts_with(kMagic); }
+bool looksLikeBinaryTable(std::string_view bytes) noexcept {
+  return bytes.starts_with(kMagic);
+}
 
 bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
                      const ProblemCollector& problems) {

@@ -1,12 +1,13 @@
-#include <orvanta/platform/standard/strings/XmlTable.h>
-
-#include <algorithm>
-#include <array>
-
 #include <orvanta/platform/standard/strings/XmlNesting.h>
 #include <orvanta/platform/standard/strings/XmlProblems.h>
 #include <orvanta/platform/standard/strings/XmlScanner.h>
+#include <orvanta/platform/standard/strings/XmlTable.h>
 #include <orvanta/platform/standard/strings/XmlText.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
 
 namespace orvanta::platform::standard {
 
@@ -16,6 +17,7 @@ constexpr std::string_view kList = "plist";
 constexpr std::string_view kDictionary = "dict";
 constexpr std::string_view kKey = "key";
 constexpr std::string_view kValue = "string";
+constexpr std::string_view kNoList = "no property list";
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
                                                          "<!--"};
@@ -58,7 +60,7 @@ class XmlTableReader {
   bool enterDictionary() {
     const XmlToken list = nextTag();
     if (!list.opens(kList) || list.selfClosing) {
-      problems_.add(list.offset, "no property list");
+      problems_.add(list.offset, kNoList);
       return false;
     }
     const XmlToken dictionary = nextTag();
@@ -223,8 +225,7 @@ class XmlTableReader {
         nesting.endLeaf();
       }
       const bool isForeign = token.piece == XmlPiece::kEnd || token.closes(kList) ||
-                             nesting.isEmpty() ||
-                             (token.opens(kKey) && !nesting.isInDictionary());
+                             nesting.isEmpty() || (token.opens(kKey) && !nesting.isInDictionary());
       if (isForeign || (token.piece == XmlPiece::kClosing && !nesting.close(token.text) &&
                         token.closes(kDictionary))) {
         scanner_.giveBack(token);
@@ -252,15 +253,18 @@ class XmlTableReader {
 bool looksLikeXmlTable(std::string_view utf8) noexcept {
   const std::size_t begin = std::min(utf8.find_first_not_of(kWhiteSpace), utf8.size());
   const std::string_view text = utf8.substr(begin);
-  return std::any_of(kBeginnings.begin(), kBeginnings.end(), [&](std::string_view beginning) {
-    return text.starts_with(beginning);
-  });
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&](std::string_view beginning) { return text.starts_with(beginning); });
 }
 
 bool readXmlTable(std::string_view utf8, StringTableBuilder& table,
                   const ProblemCollector& problems) {
   XmlProblems found(utf8, problems);
-  const bool isTable = XmlTableReader(utf8, table, found).read();
+  const bool isXml = looksLikeXmlTable(utf8);
+  if (!isXml) {
+    found.add(0, kNoList);
+  }
+  const bool isTable = isXml && XmlTableReader(utf8, table, found).read();
   found.handOver();
   return isTable;
 }
