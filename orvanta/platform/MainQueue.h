@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
-
 #include <orvanta/Export.h>
+
+#include <functional>
 
 namespace orvanta::platform {
 

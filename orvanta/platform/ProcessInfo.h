@@ -1,8 +1,8 @@
 #pragma once
 
-#include <compare>
-
 #include <orvanta/Export.h>
+
+#include <compare>
 
 namespace orvanta::platform {
 

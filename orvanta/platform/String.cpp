@@ -1,8 +1,7 @@
 #include <orvanta/platform/String.h>
+#include <orvanta/platform/Utf8.h>
 
 #include <algorithm>
-
-#include <orvanta/platform/Utf8.h>
 
 namespace orvanta {
 

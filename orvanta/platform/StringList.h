@@ -1,5 +1,8 @@
 #pragma once
 
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+
 #include <cstddef>
 #include <initializer_list>
 #include <memory>
@@ -7,9 +10,6 @@
 #include <span>
 #include <string_view>
 #include <vector>
-
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
 
 namespace orvanta {
 

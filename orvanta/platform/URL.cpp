@@ -65,7 +65,9 @@ std::string escapedPath(std::string_view path) {
 
 }  // namespace
 
-URL URL::URLWithString(const String& text) { return isURLText(text.view()) ? URL(text) : URL(); }
+URL URL::URLWithString(const String& text) {
+  return isURLText(text.view()) ? URL(text) : URL();
+}
 
 URL URL::fileURLWithPath(const String& path, bool isDirectory) {
   if (path.isAbsent()) {

@@ -79,7 +79,9 @@ StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
   static_cast<void>(reserve(expectedBytes));
 }
 
-StringTableBuilder::~StringTableBuilder() { std::free(arena_); }
+StringTableBuilder::~StringTableBuilder() {
+  std::free(arena_);
+}
 
 bool StringTableBuilder::reserve(std::size_t more) {
   if (more > kLargestArena - used_) {
@@ -121,11 +123,11 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   if (void* exact = std::realloc(arena_, used_)) {
     arena_ = static_cast<char*>(exact);
   }
-  table->arena_ = std::shared_ptr<const char>(std::exchange(arena_, nullptr),
-                                              [](const char* p) { std::free(const_cast<char*>(p)); });
+  table->arena_ = std::shared_ptr<const char>(
+      std::exchange(arena_, nullptr), [](const char* p) { std::free(const_cast<char*>(p)); });
   table->arenaSize_ = static_cast<std::uint32_t>(used_);
-  table->slotCount_ = static_cast<std::uint32_t>(std::min<std::size_t>(
-      2 * records_.size(), std::numeric_limits<std::uint32_t>::max()));
+  table->slotCount_ = static_cast<std::uint32_t>(
+      std::min<std::size_t>(2 * records_.size(), std::numeric_limits<std::uint32_t>::max()));
   table->slots_ = std::make_unique_for_overwrite<std::uint64_t[]>(table->slotCount_);
   std::fill_n(table->slots_.get(), table->slotCount_, kFree);
   for (const std::uint32_t offset : records_) {
