@@ -1,9 +1,9 @@
 // The current language: start-up, change, look-up, and the plain properties.
+#include <utility>
+
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/platform/Platform.h>
-
-#include <utility>
 
 namespace orvanta {
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <string_view>
+
 #include <orvanta/Export.h>
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/locale/FallbackTable.h>
@@ -8,10 +12,6 @@
 #include <orvanta/platform/Calendar.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
-
-#include <memory>
-#include <string>
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,9 +1,10 @@
+#include <thread>
+
 #include <gtest/gtest.h>
+
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/locale/Version.h>
-
-#include <thread>
 
 #include "../support/TestApplication.h"
 

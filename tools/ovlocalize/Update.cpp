@@ -1,8 +1,8 @@
-#include <orvanta/cache/OVStringCache.h>
-
 #include <fstream>
 #include <iostream>
 #include <iterator>
+
+#include <orvanta/cache/OVStringCache.h>
 
 #include "Commands.h"
 #include "PayloadFromJson.h"

@@ -1,7 +1,8 @@
 // ovlocalize: what the library knows about a folder of languages, from a shell.
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <iostream>
+
+#include <CLI/CLI.hpp>
 
 #include "Commands.h"
 

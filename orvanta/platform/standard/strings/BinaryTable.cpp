@@ -1,10 +1,10 @@
-#include <orvanta/platform/standard/strings/BinaryObjects.h>
-#include <orvanta/platform/standard/strings/BinaryTable.h>
-#include <orvanta/platform/standard/strings/BinaryText.h>
-
 #include <optional>
 #include <string>
 #include <utility>
+
+#include <orvanta/platform/standard/strings/BinaryObjects.h>
+#include <orvanta/platform/standard/strings/BinaryTable.h>
+#include <orvanta/platform/standard/strings/BinaryText.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/platform/standard/strings/StringTable.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
-
-#include <string_view>
 
 namespace orvanta::platform::standard {
 

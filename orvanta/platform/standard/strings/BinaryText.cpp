@@ -1,11 +1,11 @@
-#include <orvanta/platform/Utf8.h>
-#include <orvanta/platform/standard/strings/BinaryText.h>
-
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string>
+
+#include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/strings/BinaryText.h>
 
 namespace orvanta::platform::standard {
 

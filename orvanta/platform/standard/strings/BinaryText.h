@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/platform/standard/strings/BinaryObjects.h>
-
 #include <cstddef>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/platform/standard/strings/BinaryObjects.h>
 
 namespace orvanta::platform::standard {
 

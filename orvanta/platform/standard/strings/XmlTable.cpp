@@ -1,13 +1,13 @@
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
 #include <orvanta/platform/standard/strings/XmlNesting.h>
 #include <orvanta/platform/standard/strings/XmlProblems.h>
 #include <orvanta/platform/standard/strings/XmlScanner.h>
 #include <orvanta/platform/standard/strings/XmlTable.h>
 #include <orvanta/platform/standard/strings/XmlText.h>
-
-#include <algorithm>
-#include <array>
-#include <optional>
-#include <utility>
 
 namespace orvanta::platform::standard {
 

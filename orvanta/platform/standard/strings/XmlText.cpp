@@ -1,10 +1,10 @@
-#include <orvanta/platform/Utf8.h>
-#include <orvanta/platform/standard/strings/XmlText.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <utility>
+
+#include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/strings/XmlText.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,11 +1,12 @@
-#include <gtest/gtest.h>
-#include <orvanta/platform/standard/strings/BinaryTable.h>
-
 #include <chrono>
 #include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/platform/standard/strings/BinaryTable.h>
 
 namespace orvanta::platform::standard {
 namespace {

@@ -1,10 +1,11 @@
-#include <gtest/gtest.h>
-#include <orvanta/platform/standard/strings/XmlTable.h>
-
 #include <chrono>
 #include <map>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/platform/standard/strings/XmlTable.h>
 
 namespace orvanta::platform::standard {
 namespace {
