@@ -1,8 +1,8 @@
-#include <orvanta/platform/DefaultPlatform.h>
-#include <orvanta/platform/Platform.h>
-
 #include <atomic>
 #include <mutex>
+
+#include <orvanta/platform/DefaultPlatform.h>
+#include <orvanta/platform/Platform.h>
 
 namespace orvanta::platform {
 

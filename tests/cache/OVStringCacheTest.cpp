@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 
@@ -50,7 +51,7 @@ TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
 }
 
 TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   OVStringCache cache;
   const OVLocaleDictionary first = cache.availableLanguages();
   EXPECT_TRUE(first.isSameObject(cache.availableLanguages()));
@@ -112,7 +113,7 @@ TEST(CacheStorage, MakesItsFolderAndLeavesWhatIsThere) {
 }
 
 TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   app.download("fr", {});
   test::writeFile(app.cacheFolder() / ".hidden", "x");
   test::writeFile(app.cacheFolder() / "odd name?", "x");

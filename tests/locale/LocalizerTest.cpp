@@ -1,9 +1,10 @@
+#include <thread>
+
 #include <gtest/gtest.h>
+
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/locale/Version.h>
-
-#include <thread>
 
 #include "../support/TestApplication.h"
 
@@ -108,7 +109,7 @@ TEST(Localizer, PostsOnceForEachChange) {
 }
 
 TEST(Localizer, UpdatesFromAnAbsentList) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   Localizer localizer;
   Listener listener(app);
   listener.hear();
@@ -152,6 +153,14 @@ TEST(Localizer, WithoutAnyBundleAsksAgainAtEveryLookUp) {
       << "an absent bundle is not remembered";
 }
 
+TEST(Localizer, EndsInEnglishWhereAFallbackTableLeadsOn) {
+  TestApplication app({{"en", {}}, {"fr", {}}}, {"fr"});
+  Localizer localizer;
+  localizer.setFallbackTable({{"fr", "en"}, {"en", "tlh"}});
+  localizer.changeOrvantaLanguageToPreferredLocales({"xx"});
+  EXPECT_EQ(localizer.preferredLocales(), StringList({"en"}));
+}
+
 TEST(Localizer, KeepsTheEnglishBundleThatItFoundFirst) {
   TestApplication app({{"en", {{"a", "shipped"}}}, {"fr", {}}}, {"fr"});
   Localizer localizer;
@@ -184,7 +193,7 @@ TEST(Localizer, NamesItsLocales) {
 }
 
 TEST(Localizer, IsSharedByAllThreads) {
-  TestApplication app({{"en", {}}});
+  TestApplication app(test::Languages{{"en", {}}});
   Localizer* fromThread = nullptr;
   std::thread([&] { fromThread = &Localizer::sharedLocalizer(); }).join();
   EXPECT_EQ(fromThread, &Localizer::sharedLocalizer());

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -11,6 +9,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::test {
 

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/RunLoop.h>
-#include <orvanta/platform/standard/StandardPlatform.h>
-
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -12,9 +8,16 @@
 #include <string_view>
 #include <vector>
 
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/standard/RunLoop.h>
+#include <orvanta/platform/standard/StandardPlatform.h>
+
 namespace orvanta::test {
 
 using Strings = std::map<std::string, std::string>;
+
+/// Languages to ship, under their names.
+using Languages = std::map<std::string, Strings>;
 
 /// A folder that goes with the object. Its name holds a blank and a non-ASCII letter, so that
 /// every test shows that paths may.
@@ -45,7 +48,7 @@ inline void writeFile(const std::filesystem::path& file, std::string_view text) 
 inline void writeTable(const std::filesystem::path& folder, const Strings& strings) {
   std::string text;
   for (const auto& [key, value] : strings) {
-    text += '"' + key + "\" = \"" + value + "\";\n";
+    text.append("\"").append(key).append("\" = \"").append(value).append("\";\n");
   }
   writeFile(folder / "Localizable.strings", text);
 }
@@ -53,7 +56,7 @@ inline void writeTable(const std::filesystem::path& folder, const Strings& strin
 /// An application with a bundle and caches of its own, on the standard platform, which it installs.
 class TestApplication {
  public:
-  explicit TestApplication(const std::map<std::string, Strings>& shipped = {},
+  explicit TestApplication(const Languages& shipped = {},
                            std::vector<std::string> deviceLanguages = {"en"},
                            platform::Platform replacements = {}) {
     std::filesystem::create_directories(bundle());

@@ -20,6 +20,16 @@ struct Request {
 int languages(const Settings& settings);
 int match(const Settings& settings, const Request& request);
 int lookup(const Settings& settings, const Request& request, const std::vector<std::string>& keys);
+/// Where in a service's answer the tables are, and the file that holds the answer ("-": standard
+/// input).
+struct Download {
+  std::string bundleName;
+  std::string namespaceName;
+  std::string file;
+};
+
+/// The status is 1 when a language's table could not be written.
+int update(const Settings& settings, const Download& download);
 int clear(const Settings& settings);
 
 }  // namespace ovlocalize

@@ -1,8 +1,8 @@
 #include "Settings.h"
 
-#include <orvanta/platform/standard/StandardPlatform.h>
-
 #include <filesystem>
+
+#include <orvanta/platform/standard/StandardPlatform.h>
 
 namespace ovlocalize {
 
@@ -15,6 +15,7 @@ void installPlatform(const Settings& settings) {
   options.mainBundlePath = settings.bundle;
   options.cachesPath = settings.cache;
   options.deviceLanguages = settings.devices;
+  options.logSink = settings.logSink;
   orvanta::platform::Platform::install(orvanta::platform::standard::makeStandardPlatform(options));
 }
 

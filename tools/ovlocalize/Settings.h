@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovlocalize {
@@ -13,6 +15,7 @@ struct Settings {
   std::string cache;   ///< The caches directory; empty: the user's.
   std::optional<std::vector<std::string>> devices;  ///< The device's languages.
   bool json = false;
+  std::function<void(std::string_view)> logSink;  ///< Absent: standard error.
 };
 
 /// Why a command could not answer: one line for standard error.

@@ -1,7 +1,8 @@
 // ovlocalize: what the library knows about a folder of languages, from a shell.
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <iostream>
+
+#include <CLI/CLI.hpp>
 
 #include "Commands.h"
 
@@ -79,6 +80,22 @@ int run(int argc, char** argv) {
   addRequestCountry(*lookup, request);
   lookup->add_option("keys", keys, "The keys to look up")->required()->type_name("KEY");
   lookup->callback([&] { chosen = [&] { return ovlocalize::lookup(settings, request, keys); }; });
+
+  ovlocalize::Download download;
+  CLI::App* update = app.add_subcommand(
+      "update",
+      "Write downloaded tables into the cache: an object from language to payload, as the\n"
+      "network gave it; the table of a payload is found under B.N.zantorData");
+  update->add_option("--bundle-name", download.bundleName, "B, the first level of a payload")
+      ->required()
+      ->type_name("B");
+  update->add_option("--namespace", download.namespaceName, "N, the second level of a payload")
+      ->required()
+      ->type_name("N");
+  update->add_option("file", download.file, "The JSON file, or - for standard input")
+      ->required()
+      ->type_name("FILE.json");
+  update->callback([&] { chosen = [&] { return ovlocalize::update(settings, download); }; });
 
   app.add_subcommand("clear", "Delete every downloaded table")->callback([&] {
     chosen = [&] { return ovlocalize::clear(settings); };

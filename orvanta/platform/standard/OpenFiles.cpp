@@ -1,9 +1,10 @@
 #include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/OpenFiles.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/OpenFiles.h>
 
 namespace orvanta::platform::standard {
 
@@ -91,20 +92,21 @@ std::unique_ptr<ReadableFile> openForReading(const std::string& path) {
 
 FileManager::Creation createForWriting(const std::string& path) {
   constexpr mode_t kWhatTheUmaskLeaves = 0666;
-  FileDescriptor file(uninterrupted([&] {
-    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                  kWhatTheUmaskLeaves);
-  }));
-  if (!file.isOpen()) {
-    return {nullptr, systemError(errno)};
+  for (;;) {
+    FileDescriptor file(uninterrupted([&] {
+      return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                    kWhatTheUmaskLeaves);
+    }));
+    if (!file.isOpen()) {
+      return {nullptr, systemError(errno)};
+    }
+    // A file system without locks makes files all the same.
+    static_cast<void>(uninterrupted([&] { return ::flock(file.get(), LOCK_EX); }));
+    // Somebody who looks for abandoned files may have come before the lock and removed it.
+    if (isStillAt(path, file.get())) {
+      return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
+    }
   }
-  // Somebody who looks for abandoned files may have come in between, and holds the lock for the
-  // moment in which the file goes. A file system without locks makes files all the same.
-  static_cast<void>(uninterrupted([&] { return ::flock(file.get(), LOCK_EX); }));
-  if (!isStillAt(path, file.get())) {
-    return {nullptr, systemError(ENOENT)};
-  }
-  return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
 }
 
 FileOutcome removeUnlessInUse(const std::string& path) {

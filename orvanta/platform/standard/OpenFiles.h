@@ -1,9 +1,9 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <memory>
 #include <string>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 

@@ -30,9 +30,6 @@
 //
 // A chunk of the file is looked at together with the end of the one before, longer than any of
 // these, so that nothing is missed where two chunks meet.
-#include <orvanta/platform/standard/PrefixProbe.h>
-#include <orvanta/platform/standard/SampledSearch.h>
-
 #include <algorithm>
 #include <array>
 #include <bitset>
@@ -41,6 +38,9 @@
 #include <memory>
 #include <optional>
 #include <vector>
+
+#include <orvanta/platform/standard/PrefixProbe.h>
+#include <orvanta/platform/standard/SampledSearch.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <span>
 #include <string>
 #include <string_view>
+
+#include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
-#include <orvanta/platform/standard/SampledSearch.h>
-
 #include <algorithm>
 #include <cstring>
 #include <utility>
+
+#include <orvanta/platform/standard/SampledSearch.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,15 +1,15 @@
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/standard/BundlePaths.h>
 #include <orvanta/platform/standard/LocalizationRanking.h>
 #include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/TableFile.h>
-
-#include <algorithm>
-#include <string>
-#include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace orvanta::platform::standard {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <memory>
+
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/FileManager.h>
 #include <orvanta/platform/LocaleData.h>
-
-#include <memory>
 
 namespace orvanta::platform::standard {
 

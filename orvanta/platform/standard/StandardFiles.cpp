@@ -1,16 +1,17 @@
-#include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/Folders.h>
-#include <orvanta/platform/standard/OpenFiles.h>
-#include <orvanta/platform/standard/StandardFiles.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/Folders.h>
+#include <orvanta/platform/standard/OpenFiles.h>
+#include <orvanta/platform/standard/StandardFiles.h>
 
 namespace orvanta::platform::standard {
 

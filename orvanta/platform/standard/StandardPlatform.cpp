@@ -1,3 +1,5 @@
+#include <utility>
+
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/standard/ApplicationPaths.h>
 #include <orvanta/platform/standard/DeviceLanguages.h>
@@ -11,8 +13,6 @@
 #include <orvanta/platform/standard/StandardNotificationCenter.h>
 #include <orvanta/platform/standard/StandardPlatform.h>
 #include <orvanta/platform/standard/StandardProcessInfo.h>
-
-#include <utility>
 
 namespace orvanta::platform::standard {
 

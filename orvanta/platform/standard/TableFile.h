@@ -1,14 +1,14 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-#include <orvanta/platform/standard/strings/StringTable.h>
-
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

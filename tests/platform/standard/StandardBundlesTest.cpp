@@ -1,10 +1,11 @@
+#include <filesystem>
+
 #include <gtest/gtest.h>
+#include <tests/support/TestApplication.h>
+
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/StandardFiles.h>
 #include <orvanta/platform/standard/StandardLocaleData.h>
-#include <tests/support/TestApplication.h>
-
-#include <filesystem>
 
 namespace orvanta::platform::standard {
 namespace {
