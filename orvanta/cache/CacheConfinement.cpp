@@ -1,9 +1,9 @@
-#include <orvanta/cache/CacheConfinement.h>
-
 #include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/cache/CacheConfinement.h>
 
 namespace orvanta {
 

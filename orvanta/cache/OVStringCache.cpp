@@ -1,13 +1,13 @@
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/ReplacingWriter.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/platform/Platform.h>
-
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace orvanta {
 

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
 #include <orvanta/Export.h>
 #include <orvanta/cache/StringsPayload.h>
 #include <orvanta/locale/OVLocale.h>
@@ -7,11 +12,6 @@
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
 #include <orvanta/platform/URL.h>
-
-#include <cstdint>
-#include <functional>
-#include <memory>
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,10 +1,10 @@
+#include <string>
+
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/platform/CharacterSet.h>
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/Platform.h>
-
-#include <string>
 
 namespace orvanta::OVStringCacheUtilities {
 

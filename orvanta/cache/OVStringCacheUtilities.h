@@ -1,11 +1,11 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/Export.h>
 #include <orvanta/cache/StringsPayload.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/URL.h>
-
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,13 +1,13 @@
-#include <orvanta/cache/ReplacingWriter.h>
-#include <orvanta/platform/PathString.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <array>
 #include <atomic>
 #include <charconv>
 #include <chrono>
 #include <string>
 #include <vector>
+
+#include <orvanta/cache/ReplacingWriter.h>
+#include <orvanta/platform/PathString.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/platform/FileManager.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/URL.h>
-
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,6 +1,6 @@
-#include <orvanta/cache/StringsPayload.h>
-
 #include <algorithm>
+
+#include <orvanta/cache/StringsPayload.h>
 
 namespace orvanta {
 

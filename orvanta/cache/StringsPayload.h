@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
 
 namespace orvanta {
 

@@ -1,3 +1,7 @@
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+
 #include <orvanta/cache/CacheConfinement.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/ReplacingWriter.h>
@@ -5,10 +9,6 @@
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/platform/Utf8.h>
-
-#include <cerrno>
-#include <cstdint>
-#include <cstring>
 
 namespace orvanta {
 

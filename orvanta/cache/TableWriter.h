@@ -1,11 +1,11 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include <orvanta/platform/FileManager.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/URL.h>
-
-#include <string>
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,8 +1,7 @@
-#include <orvanta/controls/LocalizedControl.h>
-
 #include <functional>
 #include <utility>
 
+#include <orvanta/controls/LocalizedControl.h>
 #include <orvanta/controls/MainThreadAnchor.h>
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/locale/Localizer.h>
@@ -15,7 +14,9 @@ namespace {
 using platform::MainQueue;
 using platform::Platform;
 
-MainQueue& mainQueue() { return *Platform::current().mainQueue; }
+MainQueue& mainQueue() {
+  return *Platform::current().mainQueue;
+}
 
 // The first current locale; absent when there is none.
 String currentLocale() {

@@ -1,8 +1,7 @@
-#include <orvanta/controls/UILocalizedButton.h>
-
 #include <utility>
 
 #include <orvanta/controls/DeferredConfiguration.h>
+#include <orvanta/controls/UILocalizedButton.h>
 
 namespace orvanta {
 

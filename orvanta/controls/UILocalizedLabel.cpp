@@ -1,8 +1,7 @@
-#include <orvanta/controls/UILocalizedLabel.h>
-
 #include <utility>
 
 #include <orvanta/controls/DeferredConfiguration.h>
+#include <orvanta/controls/UILocalizedLabel.h>
 
 namespace orvanta {
 

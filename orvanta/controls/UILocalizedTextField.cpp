@@ -1,7 +1,6 @@
-#include <orvanta/controls/UILocalizedTextField.h>
-
 #include <utility>
 
+#include <orvanta/controls/UILocalizedTextField.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/platform/Platform.h>
 

@@ -1,12 +1,12 @@
-#include <orvanta/fonts/ResourceFace.h>
-#include <orvanta/platform/Platform.h>
-
 #include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <span>
 #include <vector>
+
+#include <orvanta/fonts/ResourceFace.h>
+#include <orvanta/platform/Platform.h>
 
 namespace orvanta::localizationUtilities {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include <memory>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/FontSystem.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/TextAlignment.h>
-
-#include <memory>
 
 /// The fonts and the alignment that texts get in the current language.
 ///

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/String.h>
-
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,10 +1,10 @@
 // Localizer's matching of requested identifiers against the languages that exist.
+#include <string>
+#include <vector>
+
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/CharacterSet.h>
-
-#include <string>
-#include <vector>
 
 namespace orvanta {
 

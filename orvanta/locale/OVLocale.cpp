@@ -1,8 +1,8 @@
-#include <orvanta/locale/OVLocale.h>
-#include <orvanta/platform/PathString.h>
-
 #include <array>
 #include <utility>
+
+#include <orvanta/locale/OVLocale.h>
+#include <orvanta/platform/PathString.h>
 
 namespace orvanta {
 

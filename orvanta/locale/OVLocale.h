@@ -1,14 +1,14 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/Dictionary.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
-
-#include <cstddef>
-#include <memory>
-#include <string_view>
 
 namespace orvanta {
 

@@ -1,8 +1,8 @@
 // Localizer's punctuation and mirroring.
+#include <string>
+
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
-
-#include <string>
 
 namespace orvanta {
 

@@ -1,14 +1,14 @@
 #pragma once
 
+#include <memory>
+#include <span>
+#include <vector>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
 #include <orvanta/platform/TextHash.h>
 #include <orvanta/platform/URL.h>
-
-#include <memory>
-#include <span>
-#include <vector>
 
 namespace orvanta::platform {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <utility>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/String.h>
-
-#include <utility>
 
 namespace orvanta::platform {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <cstddef>
 #include <initializer_list>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
+
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta {
 

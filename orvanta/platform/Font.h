@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-
 #include <cstdint>
 #include <memory>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
 
 namespace orvanta::platform {
 

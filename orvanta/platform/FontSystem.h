@@ -1,12 +1,12 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/Font.h>
-#include <orvanta/platform/String.h>
-
 #include <cstddef>
 #include <memory>
 #include <span>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/Font.h>
+#include <orvanta/platform/String.h>
 
 namespace orvanta::platform {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <memory>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/Calendar.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
-
-#include <memory>
 
 namespace orvanta::platform {
 

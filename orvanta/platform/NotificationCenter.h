@@ -1,11 +1,11 @@
 #pragma once
 
+#include <functional>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/Dictionary.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
-
-#include <functional>
 
 namespace orvanta::platform {
 

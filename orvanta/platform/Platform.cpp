@@ -1,8 +1,9 @@
+#include <atomic>
+#include <deque>
+#include <mutex>
+
 #include <orvanta/platform/DefaultPlatform.h>
 #include <orvanta/platform/Platform.h>
-
-#include <atomic>
-#include <mutex>
 
 namespace orvanta::platform {
 

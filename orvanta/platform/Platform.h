@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/FileManager.h>
@@ -9,8 +11,6 @@
 #include <orvanta/platform/MainQueue.h>
 #include <orvanta/platform/NotificationCenter.h>
 #include <orvanta/platform/ProcessInfo.h>
-
-#include <memory>
 
 namespace orvanta::platform {
 

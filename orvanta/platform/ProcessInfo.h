@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/Export.h>
-
 #include <compare>
+
+#include <orvanta/Export.h>
 
 namespace orvanta::platform {
 

@@ -1,7 +1,7 @@
+#include <algorithm>
+
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/Utf8.h>
-
-#include <algorithm>
 
 namespace orvanta {
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <orvanta/Export.h>
-
 #include <cstddef>
 #include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include <orvanta/Export.h>
 
 namespace orvanta {
 

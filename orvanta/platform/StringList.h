@@ -1,8 +1,5 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-
 #include <cstddef>
 #include <initializer_list>
 #include <memory>
@@ -10,6 +7,9 @@
 #include <span>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
-#include <orvanta/platform/URL.h>
-
 #include <optional>
 #include <string>
+
+#include <orvanta/platform/URL.h>
 
 namespace orvanta::platform {
 

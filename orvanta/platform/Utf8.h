@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/Export.h>
-
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+#include <orvanta/Export.h>
 
 /// UTF-8 as the Unicode Standard defines it (section 3.9, table 3-7): no overlong forms, no
 /// surrogates, nothing above U+10FFFF.

@@ -1,11 +1,12 @@
+#include <fstream>
+#include <iterator>
+
 #include <gtest/gtest.h>
+
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/Localizer.h>
-
-#include <fstream>
-#include <iterator>
 
 #include "../support/TestApplication.h"
 #include "../support/UpdateFixture.h"

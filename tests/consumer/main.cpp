@@ -1,7 +1,7 @@
+#include <iostream>
+
 #include <orvanta/orvanta.h>
 #include <orvanta/platform/standard/StandardPlatform.h>
-
-#include <iostream>
 
 // Prints the text of one key of the bundle given, in the language given.
 int main(int argc, char** argv) {

@@ -1,11 +1,12 @@
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
+
 #include <orvanta/fonts/ResourceFace.h>
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/standard/StandardFonts.h>
-
-#include <string>
-#include <vector>
 
 #include "../support/TestApplication.h"
 

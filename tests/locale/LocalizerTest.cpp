@@ -1,9 +1,10 @@
+#include <thread>
+
 #include <gtest/gtest.h>
+
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/locale/Version.h>
-
-#include <thread>
 
 #include "../support/TestApplication.h"
 
@@ -150,6 +151,14 @@ TEST(Localizer, WithoutAnyBundleAsksAgainAtEveryLookUp) {
   localizer.stringCache().refreshCache();
   EXPECT_EQ(localizer.localizedStringForKey("key"), "found")
       << "an absent bundle is not remembered";
+}
+
+TEST(Localizer, EndsInEnglishWhereAFallbackTableLeadsOn) {
+  TestApplication app({{"en", {}}, {"fr", {}}}, {"fr"});
+  Localizer localizer;
+  localizer.setFallbackTable({{"fr", "en"}, {"en", "tlh"}});
+  localizer.changeOrvantaLanguageToPreferredLocales({"xx"});
+  EXPECT_EQ(localizer.preferredLocales(), StringList({"en"}));
 }
 
 TEST(Localizer, KeepsTheEnglishBundleThatItFoundFirst) {

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <orvanta/locale/Localizer.h>
 
 #include "../support/TestApplication.h"

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <orvanta/locale/OVLocale.h>
 
 #include "../support/TestApplication.h"

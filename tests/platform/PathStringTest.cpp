@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <orvanta/platform/PathString.h>
 
 namespace orvanta {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -12,7 +10,9 @@
 #include <utility>
 #include <vector>
 
-namespace orvanta::tests {
+#include <orvanta/platform/FileManager.h>
+
+namespace orvanta::test {
 
 /// What becomes of one file operation.
 struct Fault {
@@ -94,6 +94,10 @@ class ForwardingFileManager final : public platform::FileManager {
     }
     return creation;
   }
+  platform::FileOutcome removeFileUnlessInUse(const String& path) override {
+    const Fault fault = ask("removeFileUnlessInUse", path);
+    return fault.failure ? fault.failure : target_->removeFileUnlessInUse(path);
+  }
   platform::FileOutcome moveItemReplacing(const String& from, const String& to) override {
     const Fault fault = ask("moveItemReplacing", to);
     return fault.failure ? fault.failure : target_->moveItemReplacing(from, to);
@@ -160,4 +164,4 @@ class ForwardingFileManager final : public platform::FileManager {
   std::shared_ptr<Hook> hook_;
 };
 
-}  // namespace orvanta::tests
+}  // namespace orvanta::test

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/RunLoop.h>
-#include <orvanta/platform/standard/StandardPlatform.h>
-
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -11,6 +7,10 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/standard/RunLoop.h>
+#include <orvanta/platform/standard/StandardPlatform.h>
 
 namespace orvanta::test {
 

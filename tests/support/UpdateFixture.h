@@ -1,7 +1,5 @@
 #pragma once
 
-#include <orvanta/cache/StringsPayload.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -10,6 +8,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <orvanta/cache/StringsPayload.h>
 
 namespace orvanta::test {
 

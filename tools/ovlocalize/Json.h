@@ -1,9 +1,9 @@
 #pragma once
 
+#include <nlohmann/json.hpp>
+
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
-
-#include <nlohmann/json.hpp>
 
 namespace ovlocalize {
 

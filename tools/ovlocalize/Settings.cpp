@@ -1,8 +1,8 @@
 #include "Settings.h"
 
-#include <orvanta/platform/standard/StandardPlatform.h>
-
 #include <filesystem>
+
+#include <orvanta/platform/standard/StandardPlatform.h>
 
 namespace ovlocalize {
 

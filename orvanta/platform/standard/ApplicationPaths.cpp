@@ -1,9 +1,9 @@
-#include <orvanta/platform/PathString.h>
-#include <orvanta/platform/standard/ApplicationPaths.h>
-
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+
+#include <orvanta/platform/PathString.h>
+#include <orvanta/platform/standard/ApplicationPaths.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/standard/Environment.h>
-
-#include <string>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
-#include <orvanta/platform/StringList.h>
-#include <orvanta/platform/standard/BundlePaths.h>
-
 #include <cstddef>
 #include <string>
+
+#include <orvanta/platform/StringList.h>
+#include <orvanta/platform/standard/BundlePaths.h>
 
 namespace orvanta::platform::standard {
 

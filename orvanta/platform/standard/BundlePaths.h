@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/String.h>
-
 #include <string_view>
+
+#include <orvanta/platform/String.h>
 
 namespace orvanta::platform::standard {
 

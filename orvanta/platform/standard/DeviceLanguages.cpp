@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/DeviceLanguages.h>
-
 #include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/platform/standard/DeviceLanguages.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,6 +1,6 @@
-#include <orvanta/platform/standard/Environment.h>
-
 #include <cstdlib>
+
+#include <orvanta/platform/standard/Environment.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/String.h>
-
 #include <functional>
+
+#include <orvanta/platform/String.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/FileBytes.h>
-
 #include <algorithm>
 #include <limits>
 #include <new>
 #include <utility>
+
+#include <orvanta/platform/standard/FileBytes.h>
 
 namespace orvanta::platform::standard {
 

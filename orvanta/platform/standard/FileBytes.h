@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <string_view>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,7 +1,8 @@
-#include <orvanta/platform/standard/FileDescriptor.h>
+#include <system_error>
+
 #include <unistd.h>
 
-#include <system_error>
+#include <orvanta/platform/standard/FileDescriptor.h>
 
 namespace orvanta::platform::standard {
 

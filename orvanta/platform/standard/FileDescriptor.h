@@ -1,9 +1,9 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <cerrno>
 #include <utility>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 

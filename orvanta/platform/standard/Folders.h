@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <optional>
 #include <string>
 #include <vector>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,7 +1,7 @@
-#include <orvanta/platform/standard/LanguageDirections.h>
-
 #include <algorithm>
 #include <iterator>
+
+#include <orvanta/platform/standard/LanguageDirections.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/LocaleData.h>
-
 #include <string_view>
+
+#include <orvanta/platform/LocaleData.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,9 @@
-#include <dlfcn.h>
-#include <orvanta/platform/standard/LibraryResources.h>
-
 #include <filesystem>
 #include <system_error>
+
+#include <dlfcn.h>
+
+#include <orvanta/platform/standard/LibraryResources.h>
 
 namespace orvanta::platform::standard {
 

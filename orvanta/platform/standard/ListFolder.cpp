@@ -1,10 +1,11 @@
+#include <memory>
+
 #include <dirent.h>
 #include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/Folders.h>
 #include <sys/stat.h>
 
-#include <memory>
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/Folders.h>
 
 namespace orvanta::platform::standard {
 

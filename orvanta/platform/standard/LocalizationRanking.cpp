@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/LocalizationRanking.h>
-
 #include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/platform/standard/LocalizationRanking.h>
 
 namespace orvanta::platform::standard {
 

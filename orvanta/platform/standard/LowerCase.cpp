@@ -1,10 +1,11 @@
-#include <locale.h>
-#include <orvanta/platform/Utf8.h>
-#include <orvanta/platform/standard/LowerCase.h>
-#include <wctype.h>
-
 #include <clocale>
 #include <cwctype>
+
+#include <locale.h>
+#include <wctype.h>
+
+#include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/LowerCase.h>
 
 namespace orvanta::platform::standard {
 

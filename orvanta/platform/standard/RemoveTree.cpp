@@ -1,11 +1,12 @@
+#include <memory>
+
 #include <dirent.h>
 #include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/Folders.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/Folders.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,5 +1,3 @@
-#include <orvanta/platform/standard/RunLoop.h>
-
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
@@ -8,6 +6,8 @@
 #include <optional>
 #include <thread>
 #include <utility>
+
+#include <orvanta/platform/standard/RunLoop.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/MainQueue.h>
-
 #include <functional>
 #include <memory>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/MainQueue.h>
 
 namespace orvanta::platform::standard {
 

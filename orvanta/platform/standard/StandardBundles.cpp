@@ -1,14 +1,14 @@
-#include <orvanta/platform/PathString.h>
-#include <orvanta/platform/standard/BundlePaths.h>
-#include <orvanta/platform/standard/LocalizationRanking.h>
-#include <orvanta/platform/standard/StandardBundles.h>
-#include <orvanta/platform/standard/TableFile.h>
-
 #include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <utility>
 #include <vector>
+
+#include <orvanta/platform/PathString.h>
+#include <orvanta/platform/standard/BundlePaths.h>
+#include <orvanta/platform/standard/LocalizationRanking.h>
+#include <orvanta/platform/standard/StandardBundles.h>
+#include <orvanta/platform/standard/TableFile.h>
 
 namespace orvanta::platform::standard {
 
@@ -135,14 +135,18 @@ class StandardBundle final : public Bundle {
 class StandardBundleRegistry final : public BundleRegistry {
  public:
   StandardBundleRegistry(std::shared_ptr<FileManager> files, std::shared_ptr<LocaleData> locales,
-                         const String& mainBundlePath)
-      : files_(std::move(files)), locales_(std::move(locales)) {
+                         const String& mainBundlePath, String libraryPath)
+      : files_(std::move(files)),
+        locales_(std::move(locales)),
+        libraryPath_(std::move(libraryPath)) {
     String path = normalizedBundlePath(mainBundlePath);
     main_ = std::make_shared<StandardBundle>(files_, locales_, path, StandardBundle::Role::main);
     bundles_.emplace(std::move(path), main_);
   }
 
   std::shared_ptr<Bundle> mainBundle() override { return main_; }
+
+  std::shared_ptr<Bundle> bundleForLibrary() override { return bundleWithPath(libraryPath_); }
 
   std::shared_ptr<Bundle> bundleWithPath(const String& path) override {
     const String normalized = normalizedBundlePath(path);
@@ -162,6 +166,7 @@ class StandardBundleRegistry final : public BundleRegistry {
  private:
   std::shared_ptr<FileManager> files_;
   std::shared_ptr<LocaleData> locales_;
+  String libraryPath_;
   std::shared_ptr<StandardBundle> main_;
   std::unordered_map<String, std::shared_ptr<StandardBundle>, TextHash, TextEqual> bundles_;
 };
@@ -170,9 +175,10 @@ class StandardBundleRegistry final : public BundleRegistry {
 
 std::shared_ptr<BundleRegistry> makeBundleRegistry(std::shared_ptr<FileManager> files,
                                                    std::shared_ptr<LocaleData> locales,
-                                                   const String& mainBundlePath) {
+                                                   const String& mainBundlePath,
+                                                   String libraryPath) {
   return std::make_shared<StandardBundleRegistry>(std::move(files), std::move(locales),
-                                                  mainBundlePath);
+                                                  mainBundlePath, std::move(libraryPath));
 }
 
 }  // namespace orvanta::platform::standard

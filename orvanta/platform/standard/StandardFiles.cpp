@@ -1,16 +1,17 @@
-#include <fcntl.h>
-#include <orvanta/platform/standard/FileDescriptor.h>
-#include <orvanta/platform/standard/Folders.h>
-#include <orvanta/platform/standard/OpenFiles.h>
-#include <orvanta/platform/standard/StandardFiles.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <orvanta/platform/standard/FileDescriptor.h>
+#include <orvanta/platform/standard/Folders.h>
+#include <orvanta/platform/standard/OpenFiles.h>
+#include <orvanta/platform/standard/StandardFiles.h>
 
 namespace orvanta::platform::standard {
 
@@ -141,6 +142,10 @@ class StandardFileManager final : public FileManager {
   }
 
   Creation createFile(const String& path) override { return createForWriting(systemPath(path)); }
+
+  FileOutcome removeFileUnlessInUse(const String& path) override {
+    return removeUnlessInUse(systemPath(path));
+  }
 
   FileOutcome moveItemReplacing(const String& from, const String& to) override {
     return outcomeOfCall(std::rename(systemPath(from).c_str(), systemPath(to).c_str()));

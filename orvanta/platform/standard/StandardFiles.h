@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-
 #include <memory>
+
+#include <orvanta/platform/FileManager.h>
 
 namespace orvanta::platform::standard {
 

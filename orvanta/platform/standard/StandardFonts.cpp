@@ -1,9 +1,9 @@
+#include <optional>
+#include <utility>
+
 #include <orvanta/platform/Dictionary.h>
 #include <orvanta/platform/standard/StandardFonts.h>
 #include <orvanta/platform/standard/TrueTypeFace.h>
-
-#include <optional>
-#include <utility>
 
 namespace orvanta::platform::standard {
 

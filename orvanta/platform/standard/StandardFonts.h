@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/FontSystem.h>
-
 #include <memory>
+
+#include <orvanta/platform/FontSystem.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
+#include <utility>
+
 #include <orvanta/platform/standard/LanguageDirections.h>
 #include <orvanta/platform/standard/LowerCase.h>
 #include <orvanta/platform/standard/StandardLocaleData.h>
-
-#include <utility>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
-#include <orvanta/platform/standard/StandardLog.h>
-
 #include <cstdio>
 #include <string>
 #include <utility>
+
+#include <orvanta/platform/standard/StandardLog.h>
 
 namespace orvanta::platform::standard {
 

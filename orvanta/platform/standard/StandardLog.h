@@ -1,10 +1,10 @@
 #pragma once
 
-#include <orvanta/platform/Log.h>
-
 #include <functional>
 #include <memory>
 #include <string_view>
+
+#include <orvanta/platform/Log.h>
 
 namespace orvanta::platform::standard {
 

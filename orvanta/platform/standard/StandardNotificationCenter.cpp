@@ -1,5 +1,3 @@
-#include <orvanta/platform/standard/StandardNotificationCenter.h>
-
 #include <atomic>
 #include <cstddef>
 #include <memory>
@@ -7,6 +5,8 @@
 #include <unordered_map>
 #include <utility>
 #include <vector>
+
+#include <orvanta/platform/standard/StandardNotificationCenter.h>
 
 namespace orvanta::platform::standard {
 

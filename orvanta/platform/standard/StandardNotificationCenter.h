@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/NotificationCenter.h>
-
 #include <memory>
+
+#include <orvanta/platform/NotificationCenter.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,16 +1,18 @@
+#include <utility>
+
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/standard/ApplicationPaths.h>
 #include <orvanta/platform/standard/DeviceLanguages.h>
+#include <orvanta/platform/standard/LibraryResources.h>
 #include <orvanta/platform/standard/RunLoop.h>
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/StandardFiles.h>
+#include <orvanta/platform/standard/StandardFonts.h>
 #include <orvanta/platform/standard/StandardLocaleData.h>
 #include <orvanta/platform/standard/StandardLog.h>
 #include <orvanta/platform/standard/StandardNotificationCenter.h>
 #include <orvanta/platform/standard/StandardPlatform.h>
 #include <orvanta/platform/standard/StandardProcessInfo.h>
-
-#include <utility>
 
 namespace orvanta::platform::standard {
 
@@ -49,8 +51,11 @@ Platform makeStandardPlatform(const StandardOptions& options, Platform replaceme
     platform.locales = makeLocaleData(deviceLanguagesFor(options));
   }
   if (platform.bundles == nullptr) {
-    platform.bundles =
-        makeBundleRegistry(platform.files, platform.locales, mainBundlePathFor(options));
+    platform.bundles = makeBundleRegistry(platform.files, platform.locales,
+                                          mainBundlePathFor(options), libraryResourcesPath());
+  }
+  if (platform.fonts == nullptr) {
+    platform.fonts = makeStandardFonts();
   }
   if (platform.notifications == nullptr) {
     platform.notifications = makeNotificationCenter();

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/Platform.h>
-
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/Platform.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,9 @@
-#include <orvanta/platform/standard/StandardProcessInfo.h>
-#include <sys/utsname.h>
-
 #include <charconv>
 #include <system_error>
+
+#include <sys/utsname.h>
+
+#include <orvanta/platform/standard/StandardProcessInfo.h>
 
 namespace orvanta::platform::standard {
 

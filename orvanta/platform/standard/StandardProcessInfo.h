@@ -1,9 +1,9 @@
 #pragma once
 
-#include <orvanta/platform/ProcessInfo.h>
-
 #include <memory>
 #include <string_view>
+
+#include <orvanta/platform/ProcessInfo.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,10 +1,10 @@
+#include <chrono>
+#include <utility>
+
 #include <orvanta/platform/TextHash.h>
 #include <orvanta/platform/standard/FileBytes.h>
 #include <orvanta/platform/standard/TableFile.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
-
-#include <chrono>
-#include <utility>
 
 namespace orvanta::platform::standard {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/platform/FileManager.h>
-#include <orvanta/platform/standard/strings/StringTable.h>
-
 #include <cstdint>
 #include <memory>
 #include <optional>
+
+#include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/TrueTypeFace.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
+
+#include <orvanta/platform/standard/TrueTypeFace.h>
 
 namespace orvanta::platform::standard {
 

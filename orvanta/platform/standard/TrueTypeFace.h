@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/platform/Font.h>
-
 #include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
+
+#include <orvanta/platform/Font.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,14 +1,15 @@
-#include <gtest/gtest.h>
-#include <orvanta/platform/standard/LibraryResources.h>
-#include <orvanta/platform/standard/StandardFonts.h>
-#include <orvanta/platform/standard/TrueTypeFace.h>
-
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/platform/standard/LibraryResources.h>
+#include <orvanta/platform/standard/StandardFonts.h>
+#include <orvanta/platform/standard/TrueTypeFace.h>
 
 namespace orvanta::platform::standard {
 namespace {

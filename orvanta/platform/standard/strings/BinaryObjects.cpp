@@ -18,7 +18,9 @@ std::uint64_t readNumber(std::string_view bytes) noexcept {
   return number;
 }
 
-bool isNumberSize(std::size_t size) noexcept { return size >= 1 && size <= kLargestNumber; }
+bool isNumberSize(std::size_t size) noexcept {
+  return size >= 1 && size <= kLargestNumber;
+}
 
 // The smallest unit that the payload of a kind is counted in; 0 for a kind without payload here.
 std::size_t bytesPerCount(BinaryKind kind, std::size_t referenceSize) noexcept {
@@ -63,8 +65,8 @@ std::optional<BinaryObject> BinaryObjects::at(std::uint64_t reference) const noe
   if (reference >= offsets_.size() / offsetSize_) {
     return std::nullopt;
   }
-  const std::uint64_t offset = readNumber(
-      offsets_.substr(static_cast<std::size_t>(reference) * offsetSize_, offsetSize_));
+  const std::uint64_t offset =
+      readNumber(offsets_.substr(static_cast<std::size_t>(reference) * offsetSize_, offsetSize_));
   if (offset < kMagicSize || offset >= objects_.size()) {
     return std::nullopt;
   }

@@ -1,8 +1,7 @@
-#include <orvanta/platform/standard/strings/BinaryTable.h>
-
 #include <string>
 
 #include <orvanta/platform/standard/strings/BinaryObjects.h>
+#include <orvanta/platform/standard/strings/BinaryTable.h>
 #include <orvanta/platform/standard/strings/BinaryText.h>
 
 namespace orvanta::platform::standard {
@@ -91,7 +90,9 @@ class BinaryTableReader {
 
 }  // namespace
 
-bool looksLikeBinaryTable(std::string_view bytes) noexcept { return bytes.starts_with(kMagic); }
+bool looksLikeBinaryTable(std::string_view bytes) noexcept {
+  return bytes.starts_with(kMagic);
+}
 
 bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
                      const ProblemCollector& problems) {

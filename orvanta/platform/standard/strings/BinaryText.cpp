@@ -1,5 +1,3 @@
-#include <orvanta/platform/standard/strings/BinaryText.h>
-
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -7,6 +5,7 @@
 #include <string>
 
 #include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/strings/BinaryText.h>
 
 namespace orvanta::platform::standard {
 
@@ -41,8 +40,12 @@ char32_t unitAt(const char* bytes) noexcept {
                                static_cast<unsigned char>(bytes[1]));
 }
 
-bool isHighSurrogate(char32_t unit) noexcept { return (unit & 0xFC00) == 0xD800; }
-bool isLowSurrogate(char32_t unit) noexcept { return (unit & 0xFC00) == 0xDC00; }
+bool isHighSurrogate(char32_t unit) noexcept {
+  return (unit & 0xFC00) == 0xD800;
+}
+bool isLowSurrogate(char32_t unit) noexcept {
+  return (unit & 0xFC00) == 0xDC00;
+}
 
 char tailByte(char32_t codePoint, unsigned shift) noexcept {
   return static_cast<char>(0x80 | ((codePoint >> shift) & 0x3F));

@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/strings/StringTable.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+
+#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

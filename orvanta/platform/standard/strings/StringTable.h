@@ -1,15 +1,15 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,7 +1,7 @@
-#include <orvanta/platform/standard/strings/XmlProblems.h>
-
 #include <algorithm>
 #include <string>
+
+#include <orvanta/platform/standard/strings/XmlProblems.h>
 
 namespace orvanta::platform::standard {
 

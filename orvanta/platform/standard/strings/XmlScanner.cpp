@@ -1,6 +1,6 @@
-#include <orvanta/platform/standard/strings/XmlScanner.h>
-
 #include <algorithm>
+
+#include <orvanta/platform/standard/strings/XmlScanner.h>
 
 namespace orvanta::platform::standard {
 

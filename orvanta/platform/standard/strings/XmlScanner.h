@@ -16,8 +16,8 @@ enum class XmlPiece {
 
 struct XmlToken {
   XmlPiece piece = XmlPiece::kEnd;
-  std::size_t offset = 0;     ///< Where the token begins.
-  std::string_view text;      ///< The characters, or the name of the tag.
+  std::size_t offset = 0;  ///< Where the token begins.
+  std::string_view text;   ///< The characters, or the name of the tag.
   bool selfClosing = false;
 
   [[nodiscard]] bool opens(std::string_view name) const noexcept {

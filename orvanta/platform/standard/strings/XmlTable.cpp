@@ -1,11 +1,10 @@
-#include <orvanta/platform/standard/strings/XmlTable.h>
-
 #include <algorithm>
 #include <array>
 
 #include <orvanta/platform/standard/strings/XmlNesting.h>
 #include <orvanta/platform/standard/strings/XmlProblems.h>
 #include <orvanta/platform/standard/strings/XmlScanner.h>
+#include <orvanta/platform/standard/strings/XmlTable.h>
 #include <orvanta/platform/standard/strings/XmlText.h>
 
 namespace orvanta::platform::standard {
@@ -223,8 +222,7 @@ class XmlTableReader {
         nesting.endLeaf();
       }
       const bool isForeign = token.piece == XmlPiece::kEnd || token.closes(kList) ||
-                             nesting.isEmpty() ||
-                             (token.opens(kKey) && !nesting.isInDictionary());
+                             nesting.isEmpty() || (token.opens(kKey) && !nesting.isInDictionary());
       if (isForeign || (token.piece == XmlPiece::kClosing && !nesting.close(token.text) &&
                         token.closes(kDictionary))) {
         scanner_.giveBack(token);
@@ -252,9 +250,8 @@ class XmlTableReader {
 bool looksLikeXmlTable(std::string_view utf8) noexcept {
   const std::size_t begin = std::min(utf8.find_first_not_of(kWhiteSpace), utf8.size());
   const std::string_view text = utf8.substr(begin);
-  return std::any_of(kBeginnings.begin(), kBeginnings.end(), [&](std::string_view beginning) {
-    return text.starts_with(beginning);
-  });
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&](std::string_view beginning) { return text.starts_with(beginning); });
 }
 
 bool readXmlTable(std::string_view utf8, StringTableBuilder& table,

@@ -1,10 +1,9 @@
-#include <orvanta/platform/standard/strings/XmlText.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/strings/XmlText.h>
 
 namespace orvanta::platform::standard {
 
@@ -56,8 +55,8 @@ void appendNumericReference(std::string& out, std::string_view& rest) {
     if (digit < 0 || digit >= base) {
       break;
     }
-    codePoint = std::min(codePoint * static_cast<char32_t>(base) + static_cast<char32_t>(digit),
-                         kBeyondUnicode);
+    codePoint = std::min<char32_t>(
+        codePoint * static_cast<char32_t>(base) + static_cast<char32_t>(digit), kBeyondUnicode);
     rest.remove_prefix(1);
   }
   const bool ended = rest.starts_with(';');
@@ -88,7 +87,9 @@ void XmlText::clear() noexcept {
   isOwn_ = false;
 }
 
-std::string_view XmlText::view() const noexcept { return isOwn_ ? own_ : borrowed_; }
+std::string_view XmlText::view() const noexcept {
+  return isOwn_ ? own_ : borrowed_;
+}
 
 bool XmlText::takeWhole(std::string_view raw, std::string_view special) noexcept {
   if (isOwn_ || !borrowed_.empty() || holdsAny(raw, special)) {
