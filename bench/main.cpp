@@ -1,13 +1,13 @@
 // Measures the library beside what a user would take instead, on the same data in one run.
-#include <gnu/libc-version.h>
-#include <unicode/uvernum.h>
-
 #include <QtGlobal>
 #include <algorithm>
 #include <iostream>
 #include <string>
 #include <thread>
 #include <vector>
+
+#include <gnu/libc-version.h>
+#include <unicode/uvernum.h>
 
 #include "contenders/Gettext.h"
 #include "harness/Check.h"

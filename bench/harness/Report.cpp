@@ -21,7 +21,7 @@ struct Unit {
 
 std::string withUnit(double value, std::span<const Unit> units) {
   const auto unit = std::find_if(units.begin(), units.end() - 1,
-                                  [&](const Unit& candidate) { return value >= candidate.size; });
+                                 [&](const Unit& candidate) { return value >= candidate.size; });
   std::ostringstream text;
   text << std::setprecision(value / unit->size < 1000 ? 3 : 4) << value / unit->size << ' '
        << unit->name;

@@ -1,7 +1,7 @@
 // Look-ups of keys that the current language has.
-#include <sys/single_threaded.h>
-
 #include <thread>
+
+#include <sys/single_threaded.h>
 
 #include "contenders/Application.h"
 #include "contenders/Gettext.h"

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -11,6 +7,10 @@
 #include <span>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta::platform::standard {
 
