@@ -7,11 +7,8 @@ BundleRegistry::~BundleRegistry() = default;
 
 String Bundle::localizedStringForKey(const String& key, const String& value,
                                      const String& table) const {
-  String text = key.isAbsent() ? String() : textForKey(HashedKey(key.view()), table);
-  if (text.isPresent()) {
-    return text;
-  }
-  return value.empty() ? key : value;
+  const String text = key.isAbsent() ? String() : textForKey(HashedKey(key.view()), table);
+  return lookUpResult(text, key, value);
 }
 
 std::vector<String> Bundle::textsForKeys(std::span<const HashedKey> keys) const {

@@ -12,6 +12,13 @@
 
 namespace orvanta::platform {
 
+/// The one rule of string look-up: `text` when it was found, an empty text included; else `value`
+/// when it is not empty; else `key`, as the handle that was passed in.
+[[nodiscard]] inline const String& lookUpResult(const String& text, const String& key,
+                                                const String& value) noexcept {
+  return text.isPresent() ? text : value.empty() ? key : value;
+}
+
 /// A folder of resources: the application's main bundle, or one language's ".lproj" folder.
 ///
 /// A bundle is a shared object with identity, owned by its registry for the life of the process.
@@ -34,9 +41,8 @@ class ORVANTA_EXPORT Bundle {
   /// The path of the resource `name` with the extension `type`; absent when there is none.
   [[nodiscard]] virtual String pathForResource(const String& name, const String& type) const = 0;
 
-  /// The text found under `key` in the table (the table "Localizable" when `table` is absent or
-  /// empty), an empty text included; else `value` when it is not empty; else the key itself, as
-  /// the handle that was passed in.
+  /// What `lookUpResult` makes of the text under `key` in the table; the table "Localizable" when
+  /// `table` is absent or empty. An absent key is found nowhere.
   [[nodiscard]] String localizedStringForKey(const String& key, const String& value = {},
                                              const String& table = {}) const;
 
@@ -61,6 +67,10 @@ class ORVANTA_EXPORT BundleRegistry {
 
   /// The application's own bundle; always present, also when its folder holds nothing.
   [[nodiscard]] virtual std::shared_ptr<Bundle> mainBundle() = 0;
+
+  /// The folder of the library's own resources, which stands apart from the application's; absent
+  /// when the library was installed without one.
+  [[nodiscard]] virtual std::shared_ptr<Bundle> bundleForLibrary() = 0;
 
   /// The bundle of a folder, absent when there is no folder there (any more). Opening one again
   /// gives the same object; it reads its tables afresh if their files have changed meanwhile.

@@ -1,8 +1,7 @@
-#include <orvanta/platform/CharacterSet.h>
-
 #include <cstddef>
 #include <string_view>
 
+#include <orvanta/platform/CharacterSet.h>
 #include <orvanta/platform/Utf8.h>
 
 namespace orvanta {

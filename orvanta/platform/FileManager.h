@@ -31,7 +31,7 @@ enum class ItemKind { missing, file, directory, symbolicLink, other };
 struct FileStamp {
   std::uint64_t device;
   std::uint64_t item;
-  std::uint64_t size;                     ///< In bytes.
+  std::uint64_t size;                    ///< In bytes.
   std::int64_t modificationNanoseconds;  ///< Since the epoch.
 
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
@@ -108,8 +108,12 @@ class ORVANTA_EXPORT FileManager {
     std::unique_ptr<WritableFile> file;  ///< Absent when the file could not be made.
     FileOutcome outcome;
   };
-  /// Makes a new file; fails when anything is at `path` already, a dangling link included.
+  /// Makes a new file; fails when anything is at `path` already, a dangling link included. The file
+  /// is in use until its object goes or the process ends, however it ends.
   [[nodiscard]] virtual Creation createFile(const String& path) = 0;
+  /// Removes a file that `createFile` made, unless it is still in use, by whatever process: then it
+  /// stays, and that is no failure.
+  [[nodiscard]] virtual FileOutcome removeFileUnlessInUse(const String& path) = 0;
   /// Puts the item `from` in the place of `to` in one step: whoever looks sees the old or the new.
   [[nodiscard]] virtual FileOutcome moveItemReplacing(const String& from, const String& to) = 0;
   /// Succeeds once the names in the folder would survive a loss of power.

@@ -1,7 +1,7 @@
-#include <orvanta/platform/PathString.h>
-
 #include <string>
 #include <string_view>
+
+#include <orvanta/platform/PathString.h>
 
 namespace orvanta::path {
 

@@ -1,9 +1,9 @@
-#include <orvanta/platform/Platform.h>
-
 #include <atomic>
+#include <deque>
 #include <mutex>
 
 #include <orvanta/platform/DefaultPlatform.h>
+#include <orvanta/platform/Platform.h>
 
 namespace orvanta::platform {
 
@@ -22,7 +22,9 @@ std::atomic<const Platform*> installed{nullptr};
 std::mutex installing;
 
 // Platforms are never freed: bundles and memos made from one may be in use until the process ends.
-const Platform* keep(Platform platform) { return new Platform(std::move(platform)); }
+const Platform* keep(Platform platform) {
+  return new Platform(std::move(platform));
+}
 
 }  // namespace
 

@@ -5,6 +5,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/FontSystem.h>
 #include <orvanta/platform/LocaleData.h>
 #include <orvanta/platform/Log.h>
 #include <orvanta/platform/MainQueue.h>
@@ -22,6 +23,7 @@ struct ORVANTA_EXPORT Platform {
   std::shared_ptr<FileManager> files;
   std::shared_ptr<LocaleData> locales;
   std::shared_ptr<BundleRegistry> bundles;
+  std::shared_ptr<FontSystem> fonts;
   std::shared_ptr<NotificationCenter> notifications;
   std::shared_ptr<MainQueue> mainQueue;
   std::shared_ptr<ProcessInfo> processInfo;

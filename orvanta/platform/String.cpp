@@ -1,7 +1,6 @@
-#include <orvanta/platform/String.h>
-
 #include <algorithm>
 
+#include <orvanta/platform/String.h>
 #include <orvanta/platform/Utf8.h>
 
 namespace orvanta {

@@ -1,7 +1,7 @@
-#include <orvanta/platform/StringList.h>
-
 #include <algorithm>
 #include <string>
+
+#include <orvanta/platform/StringList.h>
 
 namespace orvanta {
 

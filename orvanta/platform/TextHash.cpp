@@ -1,8 +1,8 @@
-#include <orvanta/platform/TextHash.h>
-
 #include <chrono>
 #include <cstring>
 #include <random>
+
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta {
 

@@ -1,7 +1,7 @@
-#include <orvanta/platform/URL.h>
-
 #include <optional>
 #include <string>
+
+#include <orvanta/platform/URL.h>
 
 namespace orvanta::platform {
 
@@ -65,7 +65,9 @@ std::string escapedPath(std::string_view path) {
 
 }  // namespace
 
-URL URL::URLWithString(const String& text) { return isURLText(text.view()) ? URL(text) : URL(); }
+URL URL::URLWithString(const String& text) {
+  return isURLText(text.view()) ? URL(text) : URL();
+}
 
 URL URL::fileURLWithPath(const String& path, bool isDirectory) {
   if (path.isAbsent()) {

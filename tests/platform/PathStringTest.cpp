@@ -1,6 +1,6 @@
-#include <orvanta/platform/PathString.h>
-
 #include <gtest/gtest.h>
+
+#include <orvanta/platform/PathString.h>
 
 namespace orvanta {
 namespace {

@@ -1,6 +1,6 @@
-#include <orvanta/platform/standard/strings/NextStepCharacters.h>
-
 #include <array>
+
+#include <orvanta/platform/standard/strings/NextStepCharacters.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,10 +1,10 @@
-#include <orvanta/platform/standard/strings/StringTable.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <utility>
+
+#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

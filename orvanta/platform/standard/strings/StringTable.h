@@ -1,9 +1,5 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/TextHash.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -12,6 +8,10 @@
 #include <span>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/TextHash.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <orvanta/Export.h>
-#include <orvanta/platform/standard/strings/StringTable.h>
-
 #include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,7 +1,7 @@
-#include <orvanta/platform/standard/strings/TextCollection.h>
-
 #include <array>
 #include <cstddef>
+
+#include <orvanta/platform/standard/strings/TextCollection.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,10 +1,10 @@
+#include <algorithm>
+#include <cstddef>
+
 #include <orvanta/platform/Utf8.h>
 #include <orvanta/platform/standard/strings/TextEncoding.h>
 #include <orvanta/platform/standard/strings/Utf16ToUtf8.h>
 #include <orvanta/platform/standard/strings/Utf8Output.h>
-
-#include <algorithm>
-#include <cstddef>
 
 namespace orvanta::platform::standard {
 
@@ -136,6 +136,13 @@ std::size_t Utf8Transcoder::transcode(char* out, std::size_t room) noexcept {
   }
   at_ = stop.in;
   return static_cast<std::size_t>(stop.out - out);
+}
+
+WholeUtf8::WholeUtf8(EncodedText text) : size_(0) {
+  Utf8Transcoder transcoder(text);
+  const std::size_t room = transcoder.roomForRest();
+  bytes_ = std::make_unique_for_overwrite<char[]>(room);
+  size_ = transcoder.transcode(bytes_.get(), room);
 }
 
 }  // namespace orvanta::platform::standard

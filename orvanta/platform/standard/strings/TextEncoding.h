@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace orvanta::platform::standard {
@@ -41,6 +42,19 @@ class Utf8Transcoder {
   TextEncoding encoding_;
   const char* at_;
   const char* end_;
+};
+
+/// All of a text as UTF-8, at once.
+class WholeUtf8 {
+ public:
+  explicit WholeUtf8(EncodedText text);
+
+  /// Valid as long as this object lives.
+  [[nodiscard]] std::string_view view() const noexcept { return {bytes_.get(), size_}; }
+
+ private:
+  std::unique_ptr<char[]> bytes_;
+  std::size_t size_;
 };
 
 }  // namespace orvanta::platform::standard

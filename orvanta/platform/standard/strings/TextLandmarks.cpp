@@ -1,7 +1,7 @@
-#include <orvanta/platform/standard/strings/TextLandmarks.h>
-
 #include <cstddef>
 #include <cstring>
+
+#include <orvanta/platform/standard/strings/TextLandmarks.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/standard/strings/TextScanner.h>
-
 #include <array>
+
+#include <orvanta/platform/standard/strings/TextScanner.h>
 
 namespace orvanta::platform::standard {
 

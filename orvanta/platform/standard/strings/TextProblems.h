@@ -1,8 +1,8 @@
 #pragma once
 
-#include <orvanta/platform/standard/strings/StringTableReader.h>
-
 #include <cstddef>
+
+#include <orvanta/platform/standard/strings/StringTableReader.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,7 +1,7 @@
+#include <algorithm>
+
 #include <orvanta/platform/standard/strings/TextCollection.h>
 #include <orvanta/platform/standard/strings/TextRecovery.h>
-
-#include <algorithm>
 
 namespace orvanta::platform::standard {
 

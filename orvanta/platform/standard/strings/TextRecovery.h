@@ -1,12 +1,12 @@
 #pragma once
 
-#include <orvanta/platform/standard/strings/TextLandmarks.h>
-#include <orvanta/platform/standard/strings/TextProblems.h>
-#include <orvanta/platform/standard/strings/TextStatements.h>
-
 #include <cstddef>
 #include <string_view>
 #include <vector>
+
+#include <orvanta/platform/standard/strings/TextLandmarks.h>
+#include <orvanta/platform/standard/strings/TextProblems.h>
+#include <orvanta/platform/standard/strings/TextStatements.h>
 
 namespace orvanta::platform::standard {
 

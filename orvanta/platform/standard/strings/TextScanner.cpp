@@ -1,7 +1,7 @@
-#include <orvanta/platform/standard/strings/TextScanner.h>
-
 #include <cstddef>
 #include <string_view>
+
+#include <orvanta/platform/standard/strings/TextScanner.h>
 
 namespace orvanta::platform::standard {
 

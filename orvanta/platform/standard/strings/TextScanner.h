@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/platform/standard/strings/TextCharacters.h>
 #include <orvanta/platform/standard/strings/TextToken.h>
-
-#include <string_view>
 
 namespace orvanta::platform::standard {
 

@@ -1,6 +1,6 @@
-#include <orvanta/platform/standard/strings/TextStatements.h>
-
 #include <cstring>
+
+#include <orvanta/platform/standard/strings/TextStatements.h>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <cstddef>
+
 #include <orvanta/platform/standard/strings/StringTable.h>
 #include <orvanta/platform/standard/strings/TextScanner.h>
-
-#include <cstddef>
 
 namespace orvanta::platform::standard {
 

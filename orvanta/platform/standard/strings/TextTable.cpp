@@ -1,11 +1,11 @@
+#include <memory>
+
 #include <orvanta/platform/standard/strings/TextProblems.h>
 #include <orvanta/platform/standard/strings/TextRecovery.h>
 #include <orvanta/platform/standard/strings/TextStatements.h>
 #include <orvanta/platform/standard/strings/TextTable.h>
 #include <orvanta/platform/standard/strings/TextWindow.h>
 #include <orvanta/platform/standard/strings/Utf8Validity.h>
-
-#include <memory>
 
 namespace orvanta::platform::standard {
 
@@ -129,11 +129,8 @@ bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCol
       (progress.done && statements.braces() != TextStatements::Braces::kOpen)) {
     return true;
   }
-  Utf8Transcoder transcoder(text);
-  const std::size_t room = transcoder.roomForRest();
-  const auto bytes = std::make_unique_for_overwrite<char[]>(room);
-  const std::size_t size = transcoder.transcode(bytes.get(), room);
-  return WholeText({bytes.get(), size}, statements, problems).read(progress);
+  const WholeUtf8 whole(text);
+  return WholeText(whole.view(), statements, problems).read(progress);
 }
 
 }  // namespace orvanta::platform::standard

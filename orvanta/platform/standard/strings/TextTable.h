@@ -1,10 +1,10 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/platform/standard/strings/StringTable.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
 #include <orvanta/platform/standard/strings/TextEncoding.h>
-
-#include <string_view>
 
 namespace orvanta::platform::standard {
 

@@ -1,9 +1,10 @@
+#include <cstddef>
+#include <cstring>
+
 #include <orvanta/platform/standard/strings/NextStepCharacters.h>
 #include <orvanta/platform/standard/strings/TextCharacters.h>
 #include <orvanta/platform/standard/strings/TextToken.h>
 #include <orvanta/platform/standard/strings/Utf8Output.h>
-
-#include <cstring>
 
 namespace orvanta::platform::standard {
 

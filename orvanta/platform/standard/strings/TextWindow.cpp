@@ -1,6 +1,6 @@
-#include <orvanta/platform/standard/strings/TextWindow.h>
-
 #include <cstring>
+
+#include <orvanta/platform/standard/strings/TextWindow.h>
 
 namespace orvanta::platform::standard {
 

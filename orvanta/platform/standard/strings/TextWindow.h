@@ -1,11 +1,11 @@
 #pragma once
 
-#include <orvanta/platform/standard/strings/TextEncoding.h>
-
 #include <array>
 #include <cstddef>
 #include <memory>
 #include <string_view>
+
+#include <orvanta/platform/standard/strings/TextEncoding.h>
 
 namespace orvanta::platform::standard {
 

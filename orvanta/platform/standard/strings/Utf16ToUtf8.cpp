@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/strings/Utf16ToUtf8.h>
-
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+
+#include <orvanta/platform/standard/strings/Utf16ToUtf8.h>
 
 // This is where a downloaded table's loading time is spent: such tables are UTF-16, mostly ASCII
 // keys and values in the reader's own script. Sixteen units at a time are looked at and take one of

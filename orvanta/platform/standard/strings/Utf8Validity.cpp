@@ -1,9 +1,9 @@
-#include <orvanta/platform/standard/strings/Utf8Validity.h>
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+
+#include <orvanta/platform/standard/strings/Utf8Validity.h>
 
 // Every byte is judged by itself and the three before it, without branches, so that the compiler
 // judges a vector of them at once. A block of ASCII is passed over at the cost of looking at it.

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/cache/StringsPayload.h>
+#include <orvanta/locale/OVLocale.h>
+#include <orvanta/platform/Bundle.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/StringList.h>
+#include <orvanta/platform/URL.h>
+
+namespace orvanta {
+
+/// What `indexOfFirstAvailableCachedLanguage` answers when no language is available.
+inline constexpr std::intptr_t OVLocaleNotAvailable = 1000;
+
+/// The comment of a table entry that nobody commented. For applications; the library writes none.
+inline constexpr std::string_view defaultComment = "No comment provided by engineer.";
+
+/// How one language fared in an update.
+struct StringsUpdate {
+  enum class Result {
+    written,
+    skipped,  ///< The payload holds no table, or an empty one; what was cached stays.
+    failed,   ///< What was cached stays.
+  };
+
+  String language;
+  Result result;
+  platform::URL file;  ///< Absent when skipped, or when the language's name fits in no URL.
+  String reason;       ///< For people; absent when written.
+};
+
+/// The catalogue of the languages that the application can run in, and the cache of downloaded
+/// tables on disk:
+///
+///     <caches directory>/OrvantaLocalizations/<language>.lproj/Localizable.strings
+///
+/// A language is cached exactly when its folder holds that file. The catalogue is read from disk
+/// when it is first asked for and then kept until a reset (`refreshCache`, `clearCache`,
+/// `updateStrings`); nothing watches the disk. Used from one thread at a time, normally the main
+/// thread; no locks are taken.
+class ORVANTA_EXPORT OVStringCache {
+ public:
+  OVStringCache();
+  OVStringCache(const OVStringCache&) = delete;
+  OVStringCache& operator=(const OVStringCache&) = delete;
+  ~OVStringCache();
+
+  /// The cache folder, found and made at the first read; absent when the platform has no caches.
+  [[nodiscard]] const platform::URL& cacheDirectoryURL();
+  void setCacheDirectoryURL(platform::URL url);
+
+  /// The languages shipped in the main bundle, under their folders' names. Built at every call.
+  [[nodiscard]] OVLocaleDictionary mainBundleLocales() const;
+
+  /// Whether the bundle has a resource "Localizable" of type "strings".
+  [[nodiscard]] bool stringsFileExistsForBundle(const platform::Bundle& bundle) const;
+
+  /// The downloaded languages, under their records' `appleLocaleName`. A dictionary that was set
+  /// is given back as it stands; setting an absent one makes the next read build it again.
+  [[nodiscard]] OVLocaleDictionary cachedLanguages();
+  void setCachedLanguages(OVLocaleDictionary languages);
+
+  /// The shipped languages overlaid by the downloaded ones: under one key the downloaded one
+  /// holds. Set and reset as `cachedLanguages` is.
+  [[nodiscard]] OVLocaleDictionary availableLanguages();
+  void setAvailableLanguages(OVLocaleDictionary languages);
+
+  /// The `orvantaLocaleName` of every available language, in no particular order; made at every
+  /// call. A list that is set is never read.
+  [[nodiscard]] StringList availableLanguageCodes();
+  void setAvailableLanguageCodes(const StringList& codes) noexcept;
+
+  /// The same for the downloaded languages.
+  [[nodiscard]] StringList cachedLanguageCodes();
+  void setCachedLanguageCodes(const StringList& codes) noexcept;
+
+  /// The position of the first identifier whose cleaned form, or whose cleaned language part, is a
+  /// key of `availableLanguages`; `OVLocaleNotAvailable` when there is none. Keys are matched
+  /// exactly while identifiers are lower-cased, so a key with capitals is never found.
+  [[nodiscard]] std::int32_t indexOfFirstAvailableCachedLanguage(const StringList& languages);
+
+  /// The bundle kept under exactly this identifier, else under its language part; else absent.
+  [[nodiscard]] std::shared_ptr<platform::Bundle> bundleForLanguage(const String& language);
+
+  /// The string in the table of the cleaned identifier; absent when there is no such language. The
+  /// language part is not tried.
+  [[nodiscard]] String localizedStringForKey(const String& key, const String& language);
+
+  using UpdateReport = std::function<void(const StringsUpdate&)>;
+  /// Writes downloaded tables into the cache and forgets the catalogue, so that the next change of
+  /// language, also to the same one, reads the new files; until then look-ups answer from the
+  /// tables in memory.
+  ///
+  /// `strings` is a dictionary from language to payload; a payload is a dictionary in which the
+  /// path "bundleName.namespaceName.zantorData", taken apart at every ".", leads to the table, a
+  /// dictionary from key to text. Each table replaces the one that was cached; a language without
+  /// one, or with an empty one, is passed over. A write that fails is logged, leaves what was
+  /// cached, and the update goes on. `report`, if given, is told of each language.
+  ///
+  /// Keys and values are source text of the strings format: they are written as they are, and
+  /// escapes in them are resolved when the file is read.
+  void updateStrings(const StringsPayload& strings, const String& namespaceName,
+                     const String& bundleName, const UpdateReport& report = {});
+
+  /// Forgets the catalogue, so that the next read sees what is on disk then.
+  void refreshCache();
+
+  /// Empties the platform's cache folder (making it if it had gone) and forgets the catalogue.
+  void clearCache();
+
+ private:
+  StringsUpdate updateLanguage(const String& language, const StringsPayload* table);
+
+  platform::URL cacheDirectoryURL_;
+  OVLocaleDictionary cachedLanguages_;
+  OVLocaleDictionary availableLanguages_;
+};
+
+}  // namespace orvanta

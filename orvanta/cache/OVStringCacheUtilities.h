@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/cache/StringsPayload.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/URL.h>
+
+namespace orvanta {
+
+/// The name of the cache folder inside the platform's caches directory.
+inline constexpr std::string_view cacheDirectoryName = "OrvantaLocalizations";
+
+/// The steps that the string cache is made of. Each takes what it acts on as its first argument;
+/// on an absent one it does nothing and gives absent.
+namespace OVStringCacheUtilities {
+
+/// The URL of the cache folder, which is made if it can be; absent when the platform has no caches
+/// directory. Ends in "/".
+[[nodiscard]] ORVANTA_EXPORT platform::URL cacheDirectoryURL();
+
+/// Asks for the folder and its parents to be made, whether or not it is there; a failure is
+/// ignored and shows in what is tried next.
+ORVANTA_EXPORT void createDirectoryIfNeeded(const platform::URL& directory);
+
+/// The same for the folder that a file stands in.
+ORVANTA_EXPORT void createDirectoryIfNeededForFile(const platform::URL& file);
+
+/// The URL of the folder that a file stands in.
+[[nodiscard]] ORVANTA_EXPORT platform::URL directoryFromFileURL(const platform::URL& file);
+
+/// Deletes every entry of the folder, hidden ones included, but not the folder. An entry that
+/// cannot be deleted is logged and left.
+ORVANTA_EXPORT void clearFilesFromDirectory(const platform::URL& directory);
+
+/// The URL of a language's table below the folder: the identifier goes into it as it stands, so
+/// that one with a character that no URL holds gives absent.
+[[nodiscard]] ORVANTA_EXPORT platform::URL stringsFileURLForLanguage(const platform::URL& directory,
+                                                                     const String& language);
+
+/// The text of a strings file with the table's pairs, one after the other in the table's order:
+/// an empty comment, the assignment, a blank line. Pairs with an empty key or value, and values
+/// that are no text, are left out. Keys and values go in as they are: what a service sends is
+/// source text of the format, whose escapes the reader resolves.
+[[nodiscard]] ORVANTA_EXPORT String localizableStringsFile(const StringsPayload& table);
+
+/// Writes a table's text to `file` as UTF-16 with a byte-order mark, replacing an earlier table
+/// whole, and logs how that ended. A write that would leave the folder `within`, and text that is
+/// not valid UTF-8, fail and touch nothing. `language` is not used: the URL alone names the file.
+ORVANTA_EXPORT void saveLanguageStringForLanguage(
+    const String& text, const String& language, const platform::URL& file,
+    const platform::URL& within = cacheDirectoryURL());
+
+/// The text in lower case, then without white space and line breaks at both ends.
+[[nodiscard]] ORVANTA_EXPORT String cleanedString(const String& text);
+
+}  // namespace OVStringCacheUtilities
+
+}  // namespace orvanta

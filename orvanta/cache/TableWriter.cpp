@@ -1,0 +1,88 @@
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+
+#include <orvanta/cache/CacheConfinement.h>
+#include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/cache/ReplacingWriter.h>
+#include <orvanta/cache/TableWriter.h>
+#include <orvanta/platform/PathString.h>
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/Utf8.h>
+
+namespace orvanta {
+
+namespace {
+
+using platform::FileError;
+using platform::FileOutcome;
+using platform::Platform;
+using platform::URL;
+
+char* put(char* out, char32_t unit) {
+  *out++ = static_cast<char>(unit & 0xFF);
+  *out++ = static_cast<char>(unit >> 8);
+  return out;
+}
+
+bool isAsciiBlock(const char* bytes) {
+  std::uint64_t block = 0;
+  std::memcpy(&block, bytes, sizeof block);
+  return (block & 0x8080808080808080) == 0;
+}
+
+FileOutcome replaceTable(const String& text, const URL& file, const URL& within) {
+  platform::FileManager& files = *Platform::current().files;
+  if (file.isAbsent()) {
+    return FileError{EINVAL, "no URL can hold this language's name"_s};
+  }
+  const String path = confinedPath(files, file, within);
+  if (path.isAbsent()) {
+    return FileError{EPERM, "the file would not be inside the cache folder"_s};
+  }
+  if (!utf8::isValid(text.view())) {
+    return FileError{EILSEQ, "the table is not valid UTF-8"_s};
+  }
+  OVStringCacheUtilities::createDirectoryIfNeeded(
+      URL::fileURLWithPath(path::stringByDeletingLastPathComponent(path), true));
+  return replaceFile(files, path, utf16WithByteOrderMark(text.view()));
+}
+
+}  // namespace
+
+std::string utf16WithByteOrderMark(std::string_view utf8) {
+  std::string units(2 + 2 * utf8.size(), '\0');
+  char* out = put(units.data(), 0xFEFF);
+  while (!utf8.empty()) {
+    if (utf8.size() >= 8 && isAsciiBlock(utf8.data())) {
+      for (std::size_t index = 0; index < 8; ++index) {
+        out = put(out, static_cast<unsigned char>(utf8[index]));
+      }
+      utf8.remove_prefix(8);
+      continue;
+    }
+    const utf8::Decoded next = utf8::decode(utf8);
+    if (next.codePoint > 0xFFFF) {
+      out = put(out, 0xD800 + ((next.codePoint - 0x10000) >> 10));
+      out = put(out, 0xDC00 + ((next.codePoint - 0x10000) & 0x3FF));
+    } else {
+      out = put(out, next.codePoint);
+    }
+    utf8.remove_prefix(next.length);
+  }
+  units.resize(static_cast<std::size_t>(out - units.data()));
+  return units;
+}
+
+FileOutcome writeTable(const String& text, const URL& file, const URL& within) {
+  FileOutcome outcome = replaceTable(text, file, within);
+  const std::string_view name =
+      file.isAbsent() ? std::string_view("(null)") : file.absoluteString().view();
+  std::string message = outcome ? "error saving strings file " : "file ";
+  message += name;
+  message += outcome ? "" : " written to cache";
+  Platform::current().log->log(message);
+  return outcome;
+}
+
+}  // namespace orvanta

@@ -1,0 +1,127 @@
+#include <functional>
+#include <utility>
+
+#include <orvanta/controls/LocalizedControl.h>
+#include <orvanta/controls/MainThreadAnchor.h>
+#include <orvanta/fonts/localizationUtilities.h>
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/Platform.h>
+
+namespace orvanta {
+
+namespace {
+
+using platform::MainQueue;
+using platform::Platform;
+
+MainQueue& mainQueue() {
+  return *Platform::current().mainQueue;
+}
+
+// The first current locale; absent when there is none.
+String currentLocale() {
+  const StringList& locales = Localizer::sharedLocalizer().currentLocales();
+  return locales.empty() ? String() : locales.front();
+}
+
+}  // namespace
+
+LocalizedControl::LocalizedControl(LocaleOnTheWay onTheWay)
+    : anchor_(std::make_shared<MainThreadAnchor>(*this)), onTheWay_(onTheWay) {}
+
+LocalizedControl::~LocalizedControl() {
+  Platform::current().notifications->removeObserver(this);
+  anchor_->letGo();
+}
+
+void LocalizedControl::handleOVPreferredLocaleDidChangeNotification(
+    const platform::Notification* /*notification*/) {
+  if (!Localizer::sharedLocalizer().currentLocales().empty()) {
+    refreshOnMainThread(currentLocale());
+  }
+}
+
+void LocalizedControl::refreshOnMainThread(const String& locale) {
+  if (mainQueue().isMainThread()) {
+    refresh(locale);
+    return;
+  }
+  const String carried = onTheWay_ == LocaleOnTheWay::kept ? locale : String();
+  onMainThread([this, &carried] { refresh(carried); });
+}
+
+void LocalizedControl::observeLanguageChanges() {
+  // The handler holds the anchor, not the control: on another thread the control may die at any
+  // moment. What it needs of the control there, it takes with it.
+  Platform::current().notifications->addObserver(
+      this, String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
+      [anchor = anchor_, onTheWay = onTheWay_](const platform::Notification& notification) {
+        if (mainQueue().isMainThread()) {
+          if (LocalizedControl* control = anchor->control()) {
+            control->handleOVPreferredLocaleDidChangeNotification(&notification);
+          }
+          return;
+        }
+        const String locale = currentLocale();
+        if (locale.isAbsent()) {
+          return;
+        }
+        const String carried = onTheWay == LocaleOnTheWay::kept ? locale : String();
+        mainQueue().performOnMainThreadAndWait([&] {
+          if (LocalizedControl* control = anchor->control()) {
+            control->refresh(carried);
+          }
+        });
+      });
+}
+
+void LocalizedControl::later(std::function<void()> step) const {
+  mainQueue().dispatchAsync(
+      [weak = std::weak_ptr<MainThreadAnchor>(anchor_), step = std::move(step)] {
+        const auto anchor = weak.lock();
+        if (anchor != nullptr && anchor->control() != nullptr) {
+          step();
+        }
+      });
+}
+
+void LocalizedControl::onMainThread(const std::function<void()>& step) const {
+  mainQueue().performOnMainThreadAndWait([anchor = anchor_, &step] {
+    if (anchor->control() != nullptr) {
+      step();
+    }
+  });
+}
+
+bool LocalizedControl::isKey(const String& text) {
+  if (text.empty()) {
+    return false;
+  }
+  const String found = localized(text);
+  return !found.empty() && found != text;
+}
+
+String LocalizedControl::localized(const String& key) {
+  return Localizer::sharedLocalizer().localizedStringForKey(key);
+}
+
+void LocalizedControl::refreshAccessibility(platform::Accessible& control) const {
+  if (!originalAccessibilityLabel_.empty()) {
+    control.setAccessibilityLabel(localized(originalAccessibilityLabel_));
+  }
+  if (!originalAccessibilityHint_.empty()) {
+    control.setAccessibilityHint(localized(originalAccessibilityHint_));
+  }
+}
+
+void LocalizedControl::refreshStyle(platform::TextStyle& style, const String& locale) const {
+  style.setFont(localizationUtilities::ovFontForLocale(locale, originalFont_));
+  style.setTextAlignment(localizationUtilities::ovAlignmentForLocale(locale, originalAlignment_));
+}
+
+void LocalizedControl::rememberStyle(const platform::TextStyle& style) {
+  originalFont_ = style.font();
+  originalAlignment_ = style.textAlignment();
+}
+
+}  // namespace orvanta

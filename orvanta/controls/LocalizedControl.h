@@ -1,0 +1,121 @@
+#pragma once
+
+#include <memory>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/Controls.h>
+#include <orvanta/platform/Font.h>
+#include <orvanta/platform/NotificationCenter.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/TextAlignment.h>
+
+namespace orvanta {
+
+class MainThreadAnchor;
+
+/// The pattern that the localized controls share.
+///
+/// A control remembers how it was designed: its text as a key, when the text proves to be one, and
+/// its font and alignment in any case. It then refreshes itself once and again after each change of
+/// language: strings by their remembered keys, font and alignment from the remembered ones.
+///
+///     designed ──configure──▶ remembers ──▶ refresh ──▶ observes
+///                                             ▲            │ language changed
+///                                             └────────────┘
+///
+/// Made, used and destroyed on the main thread. A notification may be posted, and a refresh be
+/// called, on any thread: it is carried to the main thread and waited for. A control that has died
+/// by then is not touched.
+class ORVANTA_EXPORT LocalizedControl {
+ public:
+  LocalizedControl(const LocalizedControl&) = delete;
+  LocalizedControl& operator=(const LocalizedControl&) = delete;
+  /// Stops observing.
+  virtual ~LocalizedControl();
+
+  /// The key of the text; absent until the designed text proves to be a key.
+  [[nodiscard]] const String& originalKey() const noexcept { return originalKey_; }
+  void setOriginalKey(String key) noexcept { originalKey_ = std::move(key); }
+
+  /// The key of the spoken label; remembered with `originalKey`, possibly as absent.
+  [[nodiscard]] const String& originalAccessibilityLabel() const noexcept {
+    return originalAccessibilityLabel_;
+  }
+  void setOriginalAccessibilityLabel(String key) noexcept {
+    originalAccessibilityLabel_ = std::move(key);
+  }
+
+  /// The key of the spoken hint; remembered with `originalKey`, possibly as absent.
+  [[nodiscard]] const String& originalAccessibilityHint() const noexcept {
+    return originalAccessibilityHint_;
+  }
+  void setOriginalAccessibilityHint(String key) noexcept {
+    originalAccessibilityHint_ = std::move(key);
+  }
+
+  /// The font that every refresh starts from.
+  [[nodiscard]] const std::shared_ptr<const platform::Font>& originalFont() const noexcept {
+    return originalFont_;
+  }
+  void setOriginalFont(std::shared_ptr<const platform::Font> font) noexcept {
+    originalFont_ = std::move(font);
+  }
+
+  /// The alignment that every refresh starts from.
+  [[nodiscard]] platform::TextAlignment originalAlignment() const noexcept {
+    return originalAlignment_;
+  }
+  void setOriginalAlignment(platform::TextAlignment alignment) noexcept {
+    originalAlignment_ = alignment;
+  }
+
+  /// Refreshes for the first of the current locales; does nothing when there is none. The
+  /// notification is not read and may be null.
+  void handleOVPreferredLocaleDidChangeNotification(const platform::Notification* notification);
+
+ protected:
+  /// What becomes of the locale when a refresh is carried to the main thread.
+  enum class LocaleOnTheWay { kept, lost };
+
+  explicit LocalizedControl(LocaleOnTheWay onTheWay);
+
+  /// The refresh itself, on the main thread.
+  virtual void refresh(const String& locale) = 0;
+
+  /// Refreshes on the main thread, at once when this is it; returns when that is done.
+  void refreshOnMainThread(const String& locale);
+
+  /// Registers with the notification centre; once more at every call.
+  void observeLanguageChanges();
+
+  /// Runs `step` at a later turn of the main thread, unless the control has died by then.
+  void later(std::function<void()> step) const;
+
+  /// Runs `step` on the main thread, unless the control has died by then, and waits for it.
+  void onMainThread(const std::function<void()>& step) const;
+
+  /// Whether a designed text is a key: it has a translation that is not empty and not itself.
+  [[nodiscard]] static bool isKey(const String& text);
+
+  /// The text of a key in the current language.
+  [[nodiscard]] static String localized(const String& key);
+
+  /// Speaks the remembered keys of label and hint, where they are not empty.
+  void refreshAccessibility(platform::Accessible& control) const;
+
+  /// Draws in the remembered font and alignment as the locale wants them.
+  void refreshStyle(platform::TextStyle& style, const String& locale) const;
+
+  void rememberStyle(const platform::TextStyle& style);
+
+ private:
+  std::shared_ptr<MainThreadAnchor> anchor_;
+  LocaleOnTheWay onTheWay_;
+  String originalKey_;
+  String originalAccessibilityLabel_;
+  String originalAccessibilityHint_;
+  std::shared_ptr<const platform::Font> originalFont_;
+  platform::TextAlignment originalAlignment_ = platform::TextAlignment::left;
+};
+
+}  // namespace orvanta

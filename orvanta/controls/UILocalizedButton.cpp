@@ -1,0 +1,75 @@
+#include <utility>
+
+#include <orvanta/controls/DeferredConfiguration.h>
+#include <orvanta/controls/UILocalizedButton.h>
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::string_view kDefaultTitle = "Button";
+
+// One list for all buttons; its order is the order in which titles are set.
+const UILocalizedButton::ControlStates& defaultStates() {
+  static const auto states = std::make_shared<const std::vector<platform::ControlState>>(
+      std::vector{platform::kControlStateNormal, platform::kControlStateDisabled,
+                  platform::kControlStateFocused, platform::kControlStateHighlighted,
+                  platform::kControlStateSelected});
+  return states;
+}
+
+}  // namespace
+
+UILocalizedButton::UILocalizedButton(std::shared_ptr<platform::Button> button)
+    : LocalizedControl(LocaleOnTheWay::lost), button_(std::move(button)) {}
+
+void UILocalizedButton::awakeFromNib() {
+  if (configurationIsDeferred()) {
+    later([this] { configure(); });
+  } else {
+    configure();
+  }
+}
+
+void UILocalizedButton::configure() {
+  const String title = button_->titleForState(platform::kControlStateNormal);
+  if (isKey(title)) {
+    setOriginalKey(title);
+    const String spoken = button_->accessibilityLabel();
+    if (spoken != kDefaultTitle) {
+      setOriginalAccessibilityLabel(spoken);
+    }
+    setOriginalAccessibilityHint(button_->accessibilityHint());
+  }
+  rememberStyle(button_->titleLabel());
+  handleOVPreferredLocaleDidChangeNotification(nullptr);
+  observeLanguageChanges();
+}
+
+const UILocalizedButton::ControlStates& UILocalizedButton::controlStates() {
+  if (controlStates_ == nullptr) {
+    controlStates_ = defaultStates();
+  }
+  return controlStates_;
+}
+
+void UILocalizedButton::setTitlesFromKey(const String& key) {
+  const String title = localized(key);
+  // A handle of its own: the application may set another list while it is told of a title.
+  const ControlStates states = controlStates();
+  for (const platform::ControlState state : *states) {
+    button_->setTitle(title, state);
+  }
+}
+
+void UILocalizedButton::refresh(const String& locale) {
+  if (!originalKey().empty()) {
+    // Set twice: some toolkits settle a title only when it is set again.
+    setTitlesFromKey(originalKey());
+    setTitlesFromKey(originalKey());
+    refreshAccessibility(*button_);
+  }
+  refreshStyle(button_->titleLabel(), locale);
+}
+
+}  // namespace orvanta

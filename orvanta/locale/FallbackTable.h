@@ -1,0 +1,14 @@
+#pragma once
+
+#include <orvanta/platform/Dictionary.h>
+#include <orvanta/platform/String.h>
+
+namespace orvanta {
+
+/// From a requested identifier to the one that is tried instead.
+using FallbackTable = Dictionary<String>;
+
+/// The built-in table. No value is itself a key, so that one step is final.
+[[nodiscard]] FallbackTable makeFallbackTable();
+
+}  // namespace orvanta

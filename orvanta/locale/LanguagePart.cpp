@@ -1,0 +1,33 @@
+#include <orvanta/locale/LanguagePart.h>
+
+namespace orvanta {
+
+namespace {
+
+// No shorter identifier is taken apart. In UTF-16 code units: what takes 3 bytes or more in UTF-8
+// may still be shorter than that.
+constexpr std::size_t kShortestSplit = 3;
+constexpr std::size_t kMostBytesPerUnit = 3;
+
+bool isShort(std::string_view identifier) noexcept {
+  if (identifier.size() < kShortestSplit) {
+    return true;
+  }
+  return identifier.size() < kShortestSplit * kMostBytesPerUnit &&
+         String::fromStatic(identifier).utf16Length() < kShortestSplit;
+}
+
+}  // namespace
+
+std::string_view languagePart(std::string_view identifier) noexcept {
+  const std::size_t hyphen = identifier.find('-');
+  return hyphen == std::string_view::npos || isShort(identifier) ? identifier
+                                                                 : identifier.substr(0, hyphen);
+}
+
+String languagePart(const String& identifier) {
+  const std::string_view part = languagePart(identifier.view());
+  return part.size() == identifier.size() ? identifier : String(part);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/String.h>
+
+namespace orvanta {
+
+/// The language of an identifier: "en" of "en-GB", "zh" of "zh-Hant-TW", "" of "-GB".
+///
+/// An identifier of fewer than 3 UTF-16 code units is given back whole, even when it holds a
+/// hyphen. Only "-" separates; nothing is trimmed. The result is a view into `identifier`.
+[[nodiscard]] ORVANTA_EXPORT std::string_view languagePart(std::string_view identifier) noexcept;
+
+/// The same on handles: absent gives absent, and an identifier that is a language already is given
+/// back as the very same object.
+[[nodiscard]] ORVANTA_EXPORT String languagePart(const String& identifier);
+
+}  // namespace orvanta

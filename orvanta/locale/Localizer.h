@@ -1,0 +1,196 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/cache/OVStringCache.h>
+#include <orvanta/locale/FallbackTable.h>
+#include <orvanta/platform/AffineTransform.h>
+#include <orvanta/platform/Bundle.h>
+#include <orvanta/platform/Calendar.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/StringList.h>
+
+namespace orvanta {
+
+/// The language of last resort, and of the text that stands in where another has none.
+inline constexpr std::string_view lastResortLocale = "en";
+inline constexpr std::string_view arabicCode = "ar";
+inline constexpr std::string_view hebrewCode = "he";
+inline constexpr std::string_view urduCode = "ur";
+
+/// Posted on the main queue, some time after each change, from no sender. The user info holds two
+/// lists, both always present.
+inline constexpr std::string_view OVPreferredLocaleDidChangeNotification =
+    "OVPreferredLocaleDidChangeNotification";
+/// In the user info: the available identifiers that the change adopted.
+inline constexpr std::string_view OVPreferredLocaleKey = "OVPreferredLocaleKey";
+/// In the user info: the identifiers that were asked for, country expanded; what was adopted when
+/// an absent list was passed.
+inline constexpr std::string_view OVRawLocaleKey = "OVRawLocaleKey";
+
+/// Holds the application's current language and answers in it.
+///
+/// The current language is an ordered list of identifiers, the first of which has a bundle that
+/// strings come from; English stands in for what it lacks. A change stores the new state at once
+/// on the calling thread, and posts `OVPreferredLocaleDidChangeNotification` on the main queue
+/// later.
+///
+/// `sharedLocalizer` and `isIOS9Minimum` may be called from any thread. Everything else is meant
+/// for the main thread: no locks are taken.
+class ORVANTA_EXPORT Localizer {
+ public:
+  /// The instance that the whole application shares, made at the first call in the language that
+  /// the device asks for; never destroyed.
+  [[nodiscard]] static Localizer& sharedLocalizer();
+
+  /// An instance of its own, in the language that the device asks for. Takes the main bundle from
+  /// the installed platform and posts a first notification like any change.
+  Localizer();
+  Localizer(const Localizer&) = delete;
+  Localizer& operator=(const Localizer&) = delete;
+  virtual ~Localizer();
+
+  // ── Choosing the language ──────────────────────────────────────────────────────────────────
+
+  /// Goes back to what the device asks for among the shipped languages; English when none of them
+  /// suits.
+  void useDefaultLocale();
+
+  /// Adopts those of the identifiers that are available; an absent or empty list is English. With
+  /// none available, `useDefaultLocale`. Every call stores and posts again, the same language
+  /// included.
+  void changeOrvantaLanguageToPreferredLocales(const StringList& requested);
+
+  /// Expands bare two-letter languages with the country ("fr" and "CA" give "fr-CA", "fr"), keeps
+  /// the list as `originalLocales`, and adopts it. An absent country leaves the list as it is.
+  void updatePreferredLocales(const StringList& languages, const String& country);
+
+  // ── Asking in it ───────────────────────────────────────────────────────────────────────────
+
+  /// The text in the current language; else in English; else the key itself, as the handle that
+  /// was passed in. A text that is found empty stays empty in the current language, but does not
+  /// stand in from English. Absent when there is no bundle at all. A text that is found costs no
+  /// allocation and outlives any later change.
+  [[nodiscard]] String localizedStringForKey(const String& key);
+  /// The same; a key that is found nowhere is copied.
+  [[nodiscard]] String localizedStringForKey(std::string_view key);
+  [[nodiscard]] String localizedStringForKey(const std::string& key) {
+    return localizedStringForKey(std::string_view(key));
+  }
+  [[nodiscard]] String localizedStringForKey(const char* key) {
+    return key == nullptr ? localizedStringForKey(String())
+                          : localizedStringForKey(std::string_view(key));
+  }
+
+  /// The current identifiers, `preferredLocales` itself.
+  [[nodiscard]] const StringList& currentLocales() const noexcept { return preferredLocales_; }
+
+  /// The current identifiers with "," between them; "en" when there is no list, empty for an
+  /// empty one.
+  [[nodiscard]] String currentLocalesString() const;
+
+  /// The device's languages, available or not.
+  [[nodiscard]] StringList devicePreferredLocales() const;
+
+  /// A new calendar, the platform's, that names days and months in the current language.
+  [[nodiscard]] std::shared_ptr<platform::Calendar> currentCalendar() const;
+
+  /// Whether the system is version 9.0.0 at least. Asked once in the life of the process.
+  [[nodiscard]] bool isIOS9Minimum() const;
+
+  // ── Matching ───────────────────────────────────────────────────────────────────────────────
+
+  /// What a request comes to: each identifier through the fallback table, kept when it or its
+  /// language part has a bundle; else its language part through the table likewise. Order and
+  /// duplicates stay. ["en"], unchecked, for an absent or empty request; absent when nothing is
+  /// available.
+  [[nodiscard]] StringList availableLocalesFromArray(const StringList& requested);
+
+  /// The identifier without blanks at its ends, or what the table has in its place. Absent for
+  /// absent.
+  [[nodiscard]] String localeWithFallbacksApplied(const String& identifier);
+
+  /// The part before the first "-"; see `languagePart`.
+  [[nodiscard]] static String languageOnlyFromString(const String& identifier);
+
+  /// Puts "language-country" before each language of exactly two characters; never absent. An
+  /// absent country is written as "(null)".
+  [[nodiscard]] static StringList localesFromLanguages(const StringList& languages,
+                                                       const String& country);
+
+  /// The main bundle for an absent or empty identifier; else the bundle of the identifier or of
+  /// its language part; else absent.
+  [[nodiscard]] std::shared_ptr<platform::Bundle> languageBundleForLocale(const String& identifier);
+
+  /// Whether the identifier's first piece is "ar", "he" or "ur", exactly.
+  [[nodiscard]] bool rightToLeftOrientationForLocale(const String& identifier) const;
+
+  // ── Punctuation and mirroring ──────────────────────────────────────────────────────────────
+
+  /// `text` with every "," as the Arabic comma when the first current language is Arabic; else
+  /// `text` itself. Other right-to-left languages keep their commas.
+  [[nodiscard]] String stringWithLocalizedPunctuation(const String& text) const;
+
+  /// U+060C, the same object at every call. From any thread.
+  [[nodiscard]] static const String& arabicComma();
+
+  /// The mirror image across the vertical axis, or the identity. From any thread.
+  [[nodiscard]] static platform::AffineTransform transformForRightToLeft(bool mirrored) noexcept;
+
+  // ── State ──────────────────────────────────────────────────────────────────────────────────
+
+  /// Whether the first current identifier is of a right-to-left language.
+  [[nodiscard]] bool rightToLeftOrientation() const noexcept { return rightToLeftOrientation_; }
+  void setRightToLeftOrientation(bool rightToLeft) noexcept;
+
+  /// What `updatePreferredLocales` made of its last request; for the application.
+  [[nodiscard]] const StringList& originalLocales() const noexcept { return originalLocales_; }
+  void setOriginalLocales(StringList locales) noexcept;
+
+  /// The adopted identifiers, best first.
+  [[nodiscard]] const StringList& preferredLocales() const noexcept { return preferredLocales_; }
+  void setPreferredLocales(StringList locales) noexcept;
+
+  /// Where strings come from; absent when the first identifier has no bundle.
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& currentLanguageBundle() const noexcept {
+    return currentLanguageBundle_;
+  }
+  void setCurrentLanguageBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
+
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& mainBundle() const noexcept {
+    return mainBundle_;
+  }
+  void setMainBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
+
+  /// The English bundle, remembered once it was found and from then on never looked for again.
+  /// Not owned: the bundle registry keeps it for the life of the process. Null while there is none.
+  [[nodiscard]] platform::Bundle* defaultLocaleBundle();
+  void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
+
+  /// The regional fallbacks; an absent table makes the next read build the built-in one.
+  [[nodiscard]] const FallbackTable& fallbackTable();
+  void setFallbackTable(FallbackTable table) noexcept;
+
+  /// The catalogue and its cache, made at the first read.
+  [[nodiscard]] OVStringCache& stringCache();
+  void setStringCache(std::shared_ptr<OVStringCache> cache) noexcept;
+
+ private:
+  // Stores what was matched and posts it later with what was asked for. `matched` is not empty.
+  void adopt(const StringList& matched, const StringList& raw);
+  [[nodiscard]] String textInCurrentLanguageOrEnglish(std::string_view key);
+
+  bool rightToLeftOrientation_ = false;
+  StringList originalLocales_;
+  StringList preferredLocales_;
+  FallbackTable fallbackTable_;
+  std::shared_ptr<platform::Bundle> currentLanguageBundle_;
+  std::shared_ptr<platform::Bundle> mainBundle_;
+  platform::Bundle* defaultLocaleBundle_ = nullptr;
+  std::shared_ptr<OVStringCache> stringCache_;
+};
+
+}  // namespace orvanta

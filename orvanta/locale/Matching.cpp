@@ -1,0 +1,81 @@
+// Localizer's matching of requested identifiers against the languages that exist.
+#include <string>
+#include <vector>
+
+#include <orvanta/locale/LanguagePart.h>
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/CharacterSet.h>
+
+namespace orvanta {
+
+const FallbackTable& Localizer::fallbackTable() {
+  if (fallbackTable_.isAbsent()) {
+    fallbackTable_ = makeFallbackTable();
+  }
+  return fallbackTable_;
+}
+
+String Localizer::localeWithFallbacksApplied(const String& identifier) {
+  const String trimmed = stringByTrimming(identifier, CharacterSet::whitespace);
+  const String* instead = trimmed.isAbsent() ? nullptr : fallbackTable().find(trimmed.view());
+  return instead == nullptr ? trimmed : *instead;
+}
+
+String Localizer::languageOnlyFromString(const String& identifier) {
+  return languagePart(identifier);
+}
+
+StringList Localizer::availableLocalesFromArray(const StringList& requested) {
+  if (requested.empty()) {
+    return {String::fromStatic(lastResortLocale)};
+  }
+  std::vector<String> available;
+  available.reserve(requested.size());
+  for (const String& request : requested) {
+    const String locale = localeWithFallbacksApplied(request);
+    if (languageBundleForLocale(locale) != nullptr) {
+      available.push_back(locale);
+      continue;
+    }
+    // From the request as it came, not from what the table made of it: a request for Traditional
+    // Chinese may end in Simplified.
+    const String language = localeWithFallbacksApplied(languagePart(request));
+    if (language != request && languageBundleForLocale(language) != nullptr) {
+      available.push_back(language);
+    }
+  }
+  return available.empty() ? StringList() : StringList(available);
+}
+
+StringList Localizer::localesFromLanguages(const StringList& languages, const String& country) {
+  std::vector<String> locales;
+  locales.reserve(languages.size());
+  for (const String& language : languages) {
+    if (language.utf16Length() == 2) {
+      std::string regional = language.str() + '-';
+      regional += country.isAbsent() ? std::string_view("(null)") : country.view();
+      locales.emplace_back(regional);
+    }
+    locales.push_back(language);
+  }
+  return StringList(locales);
+}
+
+std::shared_ptr<platform::Bundle> Localizer::languageBundleForLocale(const String& identifier) {
+  return identifier.empty() ? mainBundle_ : stringCache().bundleForLanguage(identifier);
+}
+
+platform::Bundle* Localizer::defaultLocaleBundle() {
+  if (defaultLocaleBundle_ == nullptr) {
+    defaultLocaleBundle_ = languageBundleForLocale(String::fromStatic(lastResortLocale)).get();
+  }
+  return defaultLocaleBundle_;
+}
+
+bool Localizer::rightToLeftOrientationForLocale(const String& identifier) const {
+  const std::string_view whole = identifier.view();
+  const std::string_view language = whole.substr(0, whole.find('-'));
+  return language == arabicCode || language == hebrewCode || language == urduCode;
+}
+
+}  // namespace orvanta

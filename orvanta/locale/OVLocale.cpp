@@ -1,0 +1,75 @@
+#include <array>
+#include <utility>
+
+#include <orvanta/locale/OVLocale.h>
+#include <orvanta/platform/PathString.h>
+
+namespace orvanta {
+
+namespace {
+
+// Makes the constructor reachable for make_shared inside this file.
+class MakeableLocale final : public OVLocale {
+ public:
+  template <typename... Arguments>
+  explicit MakeableLocale(Arguments&&... arguments)
+      : OVLocale(std::forward<Arguments>(arguments)...) {}
+};
+
+}  // namespace
+
+OVLocale::OVLocale(String orvantaName, String appleName, String version,
+                   std::shared_ptr<platform::Bundle> bundle, StringList locales) noexcept
+    : orvantaLocaleName_(std::move(orvantaName)),
+      appleLocaleName_(std::move(appleName)),
+      version_(std::move(version)),
+      bundle_(std::move(bundle)),
+      fallbackLocales_(std::move(locales)) {}
+
+OVLocale::~OVLocale() = default;
+
+std::shared_ptr<OVLocale> OVLocale::initWithOrvantaName(String orvantaName, String appleName,
+                                                        String version,
+                                                        std::shared_ptr<platform::Bundle> bundle,
+                                                        StringList locales) {
+  return std::make_shared<MakeableLocale>(std::move(orvantaName), std::move(appleName),
+                                          std::move(version), std::move(bundle),
+                                          std::move(locales));
+}
+
+std::shared_ptr<OVLocale> OVLocale::initWithBundle(
+    const std::shared_ptr<platform::Bundle>& bundle) {
+  if (bundle == nullptr) {
+    return nullptr;
+  }
+  const String name =
+      path::stringByDeletingPathExtension(path::lastPathComponent(bundle->bundlePath()));
+  const std::array keys = {HashedKey(OVOrvantaLanguageVersionKey),
+                           HashedKey(OVOrvantaLanguageAppleIDKey),
+                           HashedKey(OVOrvantaLanguageEquivalentsKey)};
+  const std::vector<String> texts = bundle->textsForKeys(keys);
+  const auto lookUp = [&](std::size_t index, const String& value) {
+    return platform::lookUpResult(texts[index], String::fromStatic(keys[index].text), value);
+  };
+  String version = lookUp(0, {});
+  String appleName = lookUp(1, name);
+  String equivalents = lookUp(2, {});
+  if (equivalents == OVOrvantaLanguageEquivalentsKey) {
+    equivalents = {};
+  }
+  if (name.isAbsent() || appleName.isAbsent()) {
+    return nullptr;
+  }
+  return initWithOrvantaName(name, std::move(appleName), std::move(version), bundle,
+                             componentsSeparatedBy(',', equivalents));
+}
+
+bool OVLocale::isEqual(const OVLocale* other) const noexcept {
+  return other != nullptr && appleLocaleName_.isSameObject(other->appleLocaleName_);
+}
+
+std::size_t OVLocale::hash() const noexcept {
+  return reinterpret_cast<std::size_t>(this);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include <orvanta/Export.h>
+#include <orvanta/platform/Bundle.h>
+#include <orvanta/platform/Dictionary.h>
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/StringList.h>
+
+namespace orvanta {
+
+/// The keys of the three configuration entries that a language's table may carry beside its
+/// ordinary strings. ("ID" in the constant and "Id" in the value is no slip: tables in use are
+/// written so.)
+inline constexpr std::string_view OVOrvantaLanguageAppleIDKey =
+    "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageAppleIdKey";
+inline constexpr std::string_view OVOrvantaLanguageEquivalentsKey =
+    "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageEquivalentsKey";
+inline constexpr std::string_view OVOrvantaLanguageVersionKey =
+    "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageVersionKey";
+
+/// One language that the application can show.
+///
+/// A record is a shared object with identity: never copied, its hash is its address. Built and
+/// changed on the thread that uses the catalogue; reading one from several threads is safe once it
+/// is built.
+class ORVANTA_EXPORT OVLocale {
+ public:
+  /// A record of exactly these values; absent ones are kept as absent.
+  [[nodiscard]] static std::shared_ptr<OVLocale> initWithOrvantaName(
+      String orvantaName, String appleName, String version,
+      std::shared_ptr<platform::Bundle> bundle, StringList locales);
+
+  /// Reads the record from the configuration entries of a language's table. Absent when `bundle`
+  /// is absent or its path gives no name.
+  [[nodiscard]] static std::shared_ptr<OVLocale> initWithBundle(
+      const std::shared_ptr<platform::Bundle>& bundle);
+
+  OVLocale(const OVLocale&) = delete;
+  OVLocale& operator=(const OVLocale&) = delete;
+  virtual ~OVLocale();
+
+  /// Whether the application's service offers the language. False until the application sets it;
+  /// the library does not read it.
+  [[nodiscard]] bool availableForDownload() const noexcept { return availableForDownload_; }
+  void setAvailableForDownload(bool available) noexcept { availableForDownload_ = available; }
+
+  /// The application's own code: the folder's name without its extension ("fr-CA" for
+  /// ".../fr-CA.lproj").
+  [[nodiscard]] const String& orvantaLocaleName() const noexcept { return orvantaLocaleName_; }
+  void setOrvantaLocaleName(String name) noexcept { orvantaLocaleName_ = std::move(name); }
+
+  /// The platform's identifier, under which the catalogue keeps a downloaded language. The very
+  /// object of `orvantaLocaleName` when the table names none.
+  [[nodiscard]] const String& appleLocaleName() const noexcept { return appleLocaleName_; }
+  void setAppleLocaleName(String name) noexcept { appleLocaleName_ = std::move(name); }
+
+  /// The version of the table, as text. The text of `OVOrvantaLanguageVersionKey` itself when the
+  /// table names none.
+  [[nodiscard]] const String& version() const noexcept { return version_; }
+
+  /// Where the language's strings are.
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const noexcept { return bundle_; }
+  void setBundle(std::shared_ptr<platform::Bundle> bundle) noexcept { bundle_ = std::move(bundle); }
+
+  /// The identifiers that count as this same language, in the order written and untrimmed; absent
+  /// when the table names none. For the application: the matching does not read it.
+  [[nodiscard]] const StringList& fallbackLocales() const noexcept { return fallbackLocales_; }
+  void setFallbackLocales(StringList locales) noexcept { fallbackLocales_ = std::move(locales); }
+
+  /// Whether both records hold the very same `appleLocaleName` object. Equal characters in two
+  /// objects are not enough; two absent names are. False for an absent `other`.
+  [[nodiscard]] bool isEqual(const OVLocale* other) const noexcept;
+
+  /// The record's address. Two records that are equal still have different hashes: in a hashed
+  /// container a record is found through itself alone.
+  [[nodiscard]] std::size_t hash() const noexcept;
+
+ protected:
+  OVLocale(String orvantaName, String appleName, String version,
+           std::shared_ptr<platform::Bundle> bundle, StringList locales) noexcept;
+
+ private:
+  bool availableForDownload_ = false;
+  String orvantaLocaleName_;
+  String appleLocaleName_;
+  String version_;
+  std::shared_ptr<platform::Bundle> bundle_;
+  StringList fallbackLocales_;
+};
+
+/// Languages under their identifiers.
+using OVLocaleDictionary = Dictionary<std::shared_ptr<OVLocale>>;
+
+}  // namespace orvanta

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace orvanta::platform {
+
+/// A frame in its parent's coordinates, in the toolkit's units.
+struct Rect {
+  double x = 0;
+  double y = 0;
+  double width = 0;
+  double height = 0;
+
+  friend constexpr bool operator==(const Rect&, const Rect&) = default;
+};
+
+}  // namespace orvanta::platform

@@ -1,0 +1,75 @@
+#include <utility>
+
+#include <orvanta/platform/PathString.h>
+#include <orvanta/platform/standard/ApplicationPaths.h>
+#include <orvanta/platform/standard/DeviceLanguages.h>
+#include <orvanta/platform/standard/LibraryResources.h>
+#include <orvanta/platform/standard/RunLoop.h>
+#include <orvanta/platform/standard/StandardBundles.h>
+#include <orvanta/platform/standard/StandardFiles.h>
+#include <orvanta/platform/standard/StandardFonts.h>
+#include <orvanta/platform/standard/StandardLocaleData.h>
+#include <orvanta/platform/standard/StandardLog.h>
+#include <orvanta/platform/standard/StandardNotificationCenter.h>
+#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/platform/standard/StandardProcessInfo.h>
+
+namespace orvanta::platform::standard {
+
+namespace {
+
+String cachesPathFor(const StandardOptions& options) {
+  return options.cachesPath.empty() ? cachesPathOf(executablePath(), processEnvironment())
+                                    : absolutePath(options.cachesPath);
+}
+
+String mainBundlePathFor(const StandardOptions& options) {
+  if (!options.mainBundlePath.empty()) {
+    return absolutePath(options.mainBundlePath);
+  }
+  const String executable = executablePath();
+  return executable.isPresent() ? path::stringByDeletingLastPathComponent(executable)
+                                : absolutePath(".");
+}
+
+StringList deviceLanguagesFor(const StandardOptions& options) {
+  if (!options.deviceLanguages) {
+    return deviceLanguagesOf(processEnvironment());
+  }
+  return StringList(
+      std::vector<String>(options.deviceLanguages->begin(), options.deviceLanguages->end()));
+}
+
+}  // namespace
+
+Platform makeStandardPlatform(const StandardOptions& options, Platform replacements) {
+  Platform platform = std::move(replacements);
+  if (platform.files == nullptr) {
+    platform.files = makeFileManager(cachesPathFor(options));
+  }
+  if (platform.locales == nullptr) {
+    platform.locales = makeLocaleData(deviceLanguagesFor(options));
+  }
+  if (platform.bundles == nullptr) {
+    platform.bundles = makeBundleRegistry(platform.files, platform.locales,
+                                          mainBundlePathFor(options), libraryResourcesPath());
+  }
+  if (platform.fonts == nullptr) {
+    platform.fonts = makeStandardFonts();
+  }
+  if (platform.notifications == nullptr) {
+    platform.notifications = makeNotificationCenter();
+  }
+  if (platform.mainQueue == nullptr) {
+    platform.mainQueue = RunLoop::main();
+  }
+  if (platform.processInfo == nullptr) {
+    platform.processInfo = makeProcessInfo(options.systemVersion.value_or(kernelVersion()));
+  }
+  if (platform.log == nullptr) {
+    platform.log = makeLog(options.logSink);
+  }
+  return platform;
+}
+
+}  // namespace orvanta::platform::standard

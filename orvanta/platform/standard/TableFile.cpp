@@ -1,0 +1,90 @@
+#include <chrono>
+#include <utility>
+
+#include <orvanta/platform/TextHash.h>
+#include <orvanta/platform/standard/FileBytes.h>
+#include <orvanta/platform/standard/PrefixProbe.h>
+#include <orvanta/platform/standard/TableFile.h>
+#include <orvanta/platform/standard/strings/StringTableReader.h>
+
+namespace orvanta::platform::standard {
+
+namespace {
+
+// Systems note the time of a write in steps of up to 10 ms, some file systems in whole seconds or
+// two; until the step is over, another write of the same length leaves the stamp as it is.
+bool isSettledAt(std::chrono::nanoseconds now, std::chrono::nanoseconds modification) {
+  using std::chrono_literals::operator""s;
+  using std::chrono_literals::operator""ms;
+  const std::chrono::nanoseconds step = modification % 1s == 0s ? 2s : 20ms;
+  return modification + step < now;
+}
+
+std::optional<FileBytes> readSighted(FileManager& files, const FileSighting& sighting) {
+  return sighting.stamp ? readWholeFile(files, sighting.path, sighting.stamp->size) : std::nullopt;
+}
+
+std::uint64_t hashOf(const std::optional<FileBytes>& bytes) {
+  return bytes ? textHash(bytes->view()) : 0;
+}
+
+std::shared_ptr<const StringTable> tableOf(const std::optional<FileBytes>& bytes) {
+  static const auto empty = std::make_shared<const StringTable>();
+  auto table = bytes ? readStringTable(bytes->view()) : nullptr;
+  return table == nullptr ? empty : table;
+}
+
+}  // namespace
+
+FileSighting FileSighting::of(FileManager& files, String path) {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  FileSighting sighting{std::move(path), std::nullopt};
+  sighting.stamp = files.stampOfFileAtPath(sighting.path);
+  sighting.isSettled =
+      !sighting.stamp ||
+      isSettledAt(now, std::chrono::nanoseconds(sighting.stamp->modificationNanoseconds));
+  return sighting;
+}
+
+const StringTable& TableFile::load(const String& path) {
+  forget();
+  sighting_ = FileSighting::of(*files_, path);
+  const std::optional<FileBytes> bytes = readSighted(*files_, sighting_);
+  contentHash_ = sighting_.isSettled ? 0 : hashOf(bytes);
+  table_ = tableOf(bytes);
+  return *table_;
+}
+
+bool TableFile::findOutWhetherItLacks(std::string_view prefix, const String& path) {
+  forget();
+  sighting_ = FileSighting::of(*files_, path);
+  const auto file = files_->openFileForReading(path);
+  if (file == nullptr || mayHoldKeysWithPrefix(*file, prefix)) {
+    return false;
+  }
+  lackedPrefix_ = prefix;
+  return true;
+}
+
+void TableFile::checkAgain(const String& path) {
+  FileSighting now = FileSighting::of(*files_, path);
+  if (stillHolds(now)) {
+    sighting_ = std::move(now);
+  } else {
+    forget();
+  }
+}
+
+void TableFile::forget() noexcept {
+  table_.reset();
+  lackedPrefix_.clear();
+}
+
+bool TableFile::stillHolds(const FileSighting& now) const {
+  if (now == sighting_ && !sighting_.isSettled) {
+    return table_ != nullptr && hashOf(readSighted(*files_, now)) == contentHash_;
+  }
+  return now == sighting_;
+}
+
+}  // namespace orvanta::platform::standard

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/standard/strings/StringTable.h>
+
+namespace orvanta::platform::standard {
+
+/// What a file looked like when it was read.
+struct FileSighting {
+  String path;                     ///< Absent where there was no file.
+  std::optional<FileStamp> stamp;  ///< Absent where there was no regular file.
+  /// Nobody can have written to the file after this sighting without changing its stamp.
+  bool isSettled = true;
+
+  [[nodiscard]] static FileSighting of(FileManager& files, String path);
+
+  friend bool operator==(const FileSighting& a, const FileSighting& b) noexcept {
+    return a.path == b.path && a.stamp == b.stamp;
+  }
+};
+
+/// One string table of a bundle, read from its file when it is first asked for.
+class TableFile {
+ public:
+  explicit TableFile(std::shared_ptr<FileManager> files) : files_(std::move(files)) {}
+
+  /// The table, null as long as it was not read.
+  [[nodiscard]] const StringTable* loaded() const noexcept { return table_.get(); }
+
+  /// Reads the table from `path`, absent for no file. What is missing or unreadable is empty.
+  const StringTable& load(const String& path);
+
+  /// True when it was found out, without reading the table, that no key of it begins with `prefix`
+  /// (see PrefixProbe.h).
+  [[nodiscard]] bool isKnownToLack(std::string_view prefix) const noexcept {
+    return !prefix.empty() && lackedPrefix_ == prefix;
+  }
+  /// Tries to find that out for the file at `path`.
+  bool findOutWhetherItLacks(std::string_view prefix, const String& path);
+
+  /// Nothing is known of the file: there is nothing to check again.
+  [[nodiscard]] bool isUntouched() const noexcept {
+    return table_ == nullptr && lackedPrefix_.empty();
+  }
+  /// Forgets what is known unless a reading of `path` would give the same now.
+  void checkAgain(const String& path);
+
+ private:
+  [[nodiscard]] bool stillHolds(const FileSighting& now) const;
+  void forget() noexcept;
+
+  std::shared_ptr<FileManager> files_;
+  std::shared_ptr<const StringTable> table_;
+  FileSighting sighting_;
+  std::uint64_t contentHash_ = 0;
+  std::string lackedPrefix_;
+};
+
+}  // namespace orvanta::platform::standard

@@ -1,0 +1,160 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <orvanta/cache/OVStringCache.h>
+#include <orvanta/cache/OVStringCacheUtilities.h>
+
+#include "../support/TestApplication.h"
+
+namespace orvanta {
+namespace {
+
+using platform::URL;
+using test::TestApplication;
+using ::testing::UnorderedElementsAre;
+
+std::vector<std::string> keysOf(const OVLocaleDictionary& languages) {
+  std::vector<std::string> keys;
+  for (const auto& [key, locale] : languages) {
+    keys.push_back(key.str());
+  }
+  return keys;
+}
+
+TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
+  TestApplication app({{"en", {}}, {"fr", {{"a", "shipped"}}}, {"pt-BR", {}}});
+  std::filesystem::create_directories(app.bundle() / "bare.lproj");
+  OVStringCache cache;
+  EXPECT_THAT(keysOf(cache.mainBundleLocales()), UnorderedElementsAre("en", "fr", "pt-BR", "bare"))
+      << "a shipped folder needs no table";
+  EXPECT_THAT(keysOf(cache.availableLanguages()),
+              UnorderedElementsAre("en", "fr", "pt-BR", "bare"));
+  EXPECT_TRUE(cache.cachedLanguageCodes().empty());
+
+  app.download("fr", {{"a", "downloaded"}});
+  app.download("pt-BR", {{"CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageAppleIdKey", "pt"}});
+  app.download("deep/inside/it", {});
+  app.download(".hidden/sv", {});
+  test::writeFile(app.cacheFolder() / "da.lproj/Other.strings", "");
+  test::writeFile(app.cacheFolder() / "file.lproj", "");
+  std::filesystem::create_directory_symlink(app.bundle() / "en.lproj",
+                                            app.cacheFolder() / "link.lproj");
+  EXPECT_TRUE(cache.cachedLanguages().empty()) << "kept until a reset";
+  cache.refreshCache();
+  EXPECT_THAT(keysOf(cache.cachedLanguages()), UnorderedElementsAre("fr", "pt", "it"));
+  EXPECT_THAT(keysOf(cache.availableLanguages()),
+              UnorderedElementsAre("en", "fr", "pt-BR", "bare", "pt", "it"));
+  const StringList codes = cache.availableLanguageCodes();
+  EXPECT_EQ(std::count(codes.begin(), codes.end(), String("pt-BR")), 2)
+      << "one code, two keys: shipped, and downloaded under another name";
+  EXPECT_EQ(cache.bundleForLanguage("fr")->localizedStringForKey("a"), "downloaded");
+}
+
+TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
+  TestApplication app(test::Languages{{"en", {}}});
+  OVStringCache cache;
+  const OVLocaleDictionary first = cache.availableLanguages();
+  EXPECT_TRUE(first.isSameObject(cache.availableLanguages()));
+  cache.setAvailableLanguages(OVLocaleDictionary(OVLocaleDictionary::Map()));
+  EXPECT_TRUE(cache.availableLanguages().empty());
+  cache.setAvailableLanguages({});
+  EXPECT_THAT(keysOf(cache.availableLanguages()), UnorderedElementsAre("en"));
+  cache.setAvailableLanguageCodes({"never", "read"});
+  EXPECT_EQ(cache.availableLanguageCodes(), StringList({"en"}));
+}
+
+struct FirstAvailableRow {
+  std::vector<std::string> known;
+  StringList languages;
+  int position;
+};
+
+TEST(LanguageCatalogue, FindsTheFirstAvailableLanguage) {
+  const FirstAvailableRow rows[] = {
+      {{"en", "de"}, {"xx", " EN\n", "de"}, 1},
+      {{"pt-BR"}, {"pt-BR"}, 1000},
+      {{"pt"}, {"pt-BR"}, 0},
+      {{"en"}, StringList::emptyList(), 1000},
+      {{"en"}, {}, 1000},
+      {{"en"}, {"\u0130x", "en-GB"}, 1},
+  };
+  for (const FirstAvailableRow& row : rows) {
+    TestApplication app;
+    for (const std::string& language : row.known) {
+      app.ship(language, {});
+    }
+    EXPECT_EQ(OVStringCache().indexOfFirstAvailableCachedLanguage(row.languages), row.position)
+        << row.languages;
+  }
+}
+
+TEST(LanguageCatalogue, LooksUpExactlyOrCleaned) {
+  TestApplication app({{"en", {{"hello", "hi"}}}});
+  OVStringCache cache;
+  EXPECT_NE(cache.bundleForLanguage("en"), nullptr);
+  EXPECT_EQ(cache.bundleForLanguage("en-GB"), cache.bundleForLanguage("en"));
+  EXPECT_EQ(cache.bundleForLanguage(" en"), nullptr);
+  EXPECT_EQ(cache.bundleForLanguage({}), nullptr);
+  EXPECT_EQ(cache.localizedStringForKey("hello", "EN "), "hi");
+  EXPECT_EQ(cache.localizedStringForKey("nowhere", "en"), "nowhere");
+  EXPECT_TRUE(cache.localizedStringForKey("hello", "en-GB").isAbsent());
+  EXPECT_EQ(OVStringCacheUtilities::cleanedString("\tEN-gb\n"), "en-gb");
+}
+
+TEST(CacheStorage, MakesItsFolderAndLeavesWhatIsThere) {
+  TestApplication app;
+  OVStringCache cache;
+  EXPECT_TRUE(
+      cache.cacheDirectoryURL().absoluteString().view().ends_with("/OrvantaLocalizations/"));
+  EXPECT_TRUE(std::filesystem::is_directory(app.cacheFolder()));
+  app.download("fr", {});
+  EXPECT_EQ(OVStringCacheUtilities::cacheDirectoryURL(), cache.cacheDirectoryURL());
+  EXPECT_TRUE(std::filesystem::exists(app.cacheFolder() / "fr.lproj"));
+}
+
+TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
+  TestApplication app(test::Languages{{"en", {}}});
+  app.download("fr", {});
+  test::writeFile(app.cacheFolder() / ".hidden", "x");
+  test::writeFile(app.cacheFolder() / "odd name?", "x");
+  std::filesystem::create_directory_symlink(app.bundle(), app.cacheFolder() / "link");
+  OVStringCache cache;
+  EXPECT_THAT(keysOf(cache.availableLanguages()), UnorderedElementsAre("en", "fr"));
+  cache.clearCache();
+  EXPECT_TRUE(std::filesystem::is_empty(app.cacheFolder()));
+  EXPECT_TRUE(std::filesystem::exists(app.bundle() / "en.lproj"));
+  EXPECT_THAT(keysOf(cache.availableLanguages()), UnorderedElementsAre("en"));
+  std::filesystem::remove_all(app.caches());
+  cache.clearCache();
+  EXPECT_TRUE(std::filesystem::is_directory(app.cacheFolder()));
+  EXPECT_TRUE(app.log.empty());
+}
+
+struct TableURLRow {
+  const char* folder;
+  String language;
+  const char* url;  // Null: absent.
+};
+
+TEST(CacheStorage, FormsTheURLOfATable) {
+  const TableURLRow rows[] = {
+      {"file:///c", "fr", "file:///c/fr.lproj/Localizable.strings"},
+      {"file:///c/", "pt-BR", "file:///c/pt-BR.lproj/Localizable.strings"},
+      {"file:///c//", "fr", "file:///c//fr.lproj/Localizable.strings"},
+      {"file:///c/", "../x", "file:///c/../x.lproj/Localizable.strings"},
+      {"file:///c/", "%2e%2e/x", "file:///c/%2e%2e/x.lproj/Localizable.strings"},
+      {"file:///c/", "a b", nullptr},
+      {"file:///c/", "\u00E9", nullptr},
+      {"file:///c/", "100%", nullptr},
+  };
+  for (const TableURLRow& row : rows) {
+    const URL url = OVStringCacheUtilities::stringsFileURLForLanguage(
+        URL::URLWithString(row.folder), row.language);
+    EXPECT_EQ(url.absoluteString(), row.url) << row.language;
+  }
+  const URL file = URL::URLWithString("file:///c/a%20b/x.strings");
+  EXPECT_EQ(OVStringCacheUtilities::directoryFromFileURL(file).absoluteString(), "file:///c/a%20b");
+}
+
+}  // namespace
+}  // namespace orvanta

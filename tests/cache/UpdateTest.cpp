@@ -1,0 +1,164 @@
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/cache/OVStringCache.h>
+#include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/cache/TableWriter.h>
+#include <orvanta/locale/Localizer.h>
+
+#include "../support/TestApplication.h"
+#include "../support/UpdateFixture.h"
+
+namespace orvanta {
+namespace {
+
+using test::contentsOf;
+using test::payloadOf;
+using test::TestApplication;
+
+std::string utf16(std::string_view ascii) {
+  std::string units = "\xFF\xFE";
+  for (const char character : ascii) {
+    units += character;
+    units += '\0';
+  }
+  return units;
+}
+
+TEST(StringsFile, HoldsEveryPairAsItWasSent) {
+  EXPECT_EQ(OVStringCacheUtilities::localizableStringsFile(
+                test::tableOf({{"a", "x"}, {"b", ""}, {"", "y"}, {"q", "say \"hi\"\\n"}})),
+            "/* */\n\"a\" = \"x\";\n\n/* */\n\"q\" = \"say \"hi\"\\n\";\n\n");
+  EXPECT_EQ(OVStringCacheUtilities::localizableStringsFile(test::tableOf({})), "");
+}
+
+TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
+  EXPECT_EQ(utf16WithByteOrderMark(""), "\xFF\xFE");
+  EXPECT_EQ(utf16WithByteOrderMark("plain ascii text"), utf16("plain ascii text"));
+  EXPECT_EQ(utf16WithByteOrderMark("\u00E9\u0628\u6F22\U0001F600"),
+            std::string("\xFF\xFE\xE9\x00\x28\x06\x22\x6F\x3D\xD8\x00\xDE", 12));
+}
+
+TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
+  TestApplication app(test::Languages{{"en", {}}});
+  OVStringCache cache;
+  auto strings = payloadOf({{"fr", {{"a", "x"}, {"b", ""}}}, {"de", {}}, {"it", {{"c", ""}}}});
+  strings.add("es", StringsPayload("no dictionary"));
+  cache.updateStrings(strings, "app", "main");
+  EXPECT_TRUE(cache.cachedLanguages().empty()) << "the names are swapped";
+  EXPECT_TRUE(app.log.empty());
+
+  app.download("de", {{"kept", "yes"}});
+  std::vector<StringsUpdate> report;
+  cache.updateStrings(strings, "main", "app",
+                      [&](const StringsUpdate& update) { report.push_back(update); });
+  const std::string folder = cache.cacheDirectoryURL().absoluteString().str();
+  EXPECT_EQ(app.log, std::vector<std::string>(
+                         {"file " + folder + "fr.lproj/Localizable.strings written to cache",
+                          "file " + folder + "it.lproj/Localizable.strings written to cache"}));
+  ASSERT_EQ(report.size(), 4U);
+  EXPECT_EQ(report[0].result, StringsUpdate::Result::written);
+  EXPECT_EQ(report[1].result, StringsUpdate::Result::skipped) << "an empty table";
+  EXPECT_EQ(report[3].result, StringsUpdate::Result::skipped) << "no table at all";
+  EXPECT_EQ(contentsOf(app.cacheFolder() / "fr.lproj/Localizable.strings"),
+            utf16("/* */\n\"a\" = \"x\";\n\n"));
+  EXPECT_EQ(contentsOf(app.cacheFolder() / "it.lproj/Localizable.strings"), utf16(""));
+  EXPECT_EQ(cache.cachedLanguages().size(), 3U) << "no reset was needed";
+  EXPECT_EQ(cache.localizedStringForKey("kept", "de"), "yes");
+
+  cache.updateStrings(payloadOf({{"fr", {{"z", "only"}}}}), "main", "app");
+  EXPECT_EQ(cache.localizedStringForKey("a", "fr"), "a") << "tables are replaced, not merged";
+  EXPECT_EQ(cache.localizedStringForKey("z", "fr"), "only");
+}
+
+TEST(CacheUpdate, TakesDotsInNamesAsLevels) {
+  TestApplication app;
+  OVStringCache cache;
+  auto inner = StringsPayload::dictionary({{"zantorData", test::tableOf({{"k", "v"}})}});
+  auto payload = StringsPayload::dictionary(
+      {{"a", StringsPayload::dictionary(
+                 {{"b", StringsPayload::dictionary({{"n", std::move(inner)}})}})}});
+  cache.updateStrings(StringsPayload::dictionary({{"fr", std::move(payload)}}), "n", "a.b");
+  EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
+}
+
+struct NameRow {
+  const char* language;
+  bool written;
+};
+
+TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheCache) {
+  const NameRow rows[] = {
+      {"pt-BR", true},      {"a/b", true},
+      {"a/../b", true},     {"../x", false},
+      {"%2e%2e/x", false},  {"..%2Fx", false},
+      {"a/../../x", false}, {"../OrvantaLocalizations2/x", false},
+      {"x%00y", false},     {"x?y", false},
+      {"x#y", false},       {"a b", false},
+      {"\u00E9", false},    {"100%", false},
+      {"link/x", false},    {"/abs", true},
+  };
+  for (const NameRow& row : rows) {
+    TestApplication app;
+    const auto outside = app.caches() / "outside";
+    std::filesystem::create_directories(outside);
+    std::filesystem::create_directories(app.cacheFolder());
+    std::filesystem::create_directory_symlink(outside, app.cacheFolder() / "link");
+    OVStringCache cache;
+    cache.updateStrings(payloadOf({{row.language, {{"k", "v"}}}, {"fr", {{"k", "v"}}}}), "main",
+                        "app");
+    const std::size_t expected = row.written ? 2 : 1;
+    EXPECT_EQ(test::tablesBelow(app.caches()), expected) << row.language;
+    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), expected) << row.language;
+    EXPECT_EQ(app.log.front().starts_with("error saving strings file "), !row.written)
+        << row.language;
+    EXPECT_TRUE(app.log.back().ends_with("fr.lproj/Localizable.strings written to cache"));
+    EXPECT_TRUE(std::filesystem::is_empty(outside)) << row.language;
+  }
+}
+
+TEST(CacheUpdate, KeepsTheOldTableWhenTheNewOneCannotBeWritten) {
+  TestApplication app;
+  app.download("fr", {{"k", "old"}});
+  OVStringCache cache;
+  cache.updateStrings(payloadOf({{"fr", {{"k", "broken \xFF text"}}}}), "main", "app");
+  EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "old");
+  EXPECT_EQ(app.log.size(), 1U);
+  cache.updateStrings(payloadOf({{"no good", {{"k", "v"}}}}), "main", "app");
+  EXPECT_EQ(app.log.back(), "error saving strings file (null)");
+}
+
+TEST(CacheUpdate, ShowsAtTheNextChangeOfLanguage) {
+  TestApplication app({{"en", {{"k", "english"}}}}, {"fr"});
+  app.download("fr", {{"k", "old"}, {"only old", "x"}});
+  Localizer localizer;
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  const String kept = localizer.localizedStringForKey("k");
+  OVStringCache& cache = localizer.stringCache();
+  cache.updateStrings(payloadOf({{"fr", {{"k", "new"}}}, {"sv", {{"k", "nytt"}}}}), "main", "app");
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "old") << "until the language changes";
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "new");
+  EXPECT_EQ(localizer.localizedStringForKey("only old"), "only old");
+  EXPECT_EQ(kept, "old") << "a handle outlives its table";
+  localizer.changeOrvantaLanguageToPreferredLocales({"sv"});
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "nytt");
+  cache.clearCache();
+  localizer.changeOrvantaLanguageToPreferredLocales({"sv", "en"});
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "english") << "what was cleared is gone";
+}
+
+TEST(CacheUpdate, FollowsTheFolderThatIsSet) {
+  TestApplication app;
+  const auto elsewhere = app.caches() / "elsewhere";
+  OVStringCache cache;
+  cache.setCacheDirectoryURL(platform::URL::fileURLWithPath(elsewhere.string(), true));
+  cache.updateStrings(payloadOf({{"fr", {{"k", "v"}}}}), "main", "app");
+  EXPECT_EQ(test::tablesBelow(elsewhere), 1U);
+  EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
+}
+
+}  // namespace
+}  // namespace orvanta

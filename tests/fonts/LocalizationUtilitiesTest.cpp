@@ -1,0 +1,218 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/fonts/ResourceFace.h>
+#include <orvanta/fonts/localizationUtilities.h>
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/standard/StandardFonts.h>
+
+#include "../support/TestApplication.h"
+
+namespace orvanta::localizationUtilities {
+namespace {
+
+using platform::kBoldTrait;
+using platform::kItalicTrait;
+using platform::TextAlignment;
+
+// The standard fonts, with two icon fonts among them, writing down what is asked of them.
+class WatchedFonts final : public platform::FontSystem {
+ public:
+  FontHandle fontWithName(const String& name, double size) override {
+    askedFor.push_back(name.str());
+    const bool isIconFont = name == "MyIconFont" || name == "ICON";
+    return isIconFont ? fonts_->systemFontOfSize(size, platform::kFontWeightRegular)
+                      : fonts_->fontWithName(name, size);
+  }
+  FontHandle systemFontOfSize(double size, platform::FontWeight weight) override {
+    return fonts_->systemFontOfSize(size, weight);
+  }
+  bool registerFontData(std::span<const std::byte> data) override {
+    registrations.push_back(fonts_->registerFontData(data));
+    return registrations.back();
+  }
+
+  std::vector<std::string> askedFor;
+  std::vector<bool> registrations;  // Whether each one succeeded.
+
+ private:
+  std::shared_ptr<platform::FontSystem> fonts_ = platform::standard::makeStandardFonts();
+};
+
+platform::Platform platformWith(std::shared_ptr<platform::FontSystem> fonts) {
+  platform::Platform platform;
+  platform.fonts = std::move(fonts);
+  return platform;
+}
+
+class Fonts : public testing::Test {
+ protected:
+  void TearDown() override { speak(former_); }
+
+  static void speak(const StringList& locales) {
+    Localizer::sharedLocalizer().setPreferredLocales(locales);
+  }
+  FontHandle font(double size, platform::SymbolicTraits traits) {
+    return watched_->systemFontOfSize(size, 0)->fontWithSymbolicTraits(traits);
+  }
+
+  std::shared_ptr<WatchedFonts> watched_ = std::make_shared<WatchedFonts>();
+  test::TestApplication app_{{{"en", {}}}, {"en"}, platformWith(watched_)};
+  StringList former_ = Localizer::sharedLocalizer().currentLocales();
+};
+
+std::string described(const FontHandle& font) {
+  if (font == nullptr) {
+    return "absent";
+  }
+  return font->fontName().str() + " " + std::to_string(static_cast<int>(font->pointSize())) +
+         (ovFontIsBold(font) ? " bold" : "") + (ovFontIsItalic(font) ? " italic" : "");
+}
+
+TEST_F(Fonts, FollowTheLocale) {
+  struct Row {
+    String locale;
+    FontHandle base;
+    std::string expected;  // Empty: the base font itself.
+  };
+  const Row kRows[] = {
+      {"ar", font(13, kBoldTrait), "CorbetSansKufiArabic-Bold 13 bold"},
+      {"ar-EG", font(13, kBoldTrait), "CorbetSansKufiArabic-Bold 13 bold"},
+      {"ar", font(20, kItalicTrait), "CorbetSansKufiArabic 20"},
+      {"ar", font(20, kItalicTrait | kBoldTrait), "CorbetSansKufiArabic-Bold 20 bold"},
+      {"ar", nullptr, ""},
+      {"AR", font(20, 0), ""},
+      {"ar_EG", font(20, 0), ""},
+      {"arz", font(20, 0), ""},
+      {"he-IL", font(20, kBoldTrait), ""},
+      {"ur", font(20, 0), ""},
+      {"en", font(20, 0), ""},
+      {"", font(20, 0), ""},
+      {nullptr, font(20, 0), ""},
+  };
+  for (const Row& row : kRows) {
+    const FontHandle font = ovFontForLocale(row.locale, row.base);
+    if (row.expected.empty()) {
+      EXPECT_EQ(font, row.base) << row.locale << " gives the base font itself";
+    } else {
+      EXPECT_EQ(described(font), row.expected) << row.locale;
+    }
+  }
+}
+
+TEST_F(Fonts, AlignmentIsSwappedWhereThePlatformWritesFromTheRight) {
+  struct Row {
+    String locale;
+    bool swapped;
+  };
+  for (const Row& row : {Row{"ar-SA", true}, Row{"he", true}, Row{"ur", true}, Row{"fa-IR", true},
+                         Row{"en-GB", false}, Row{"zh-Hant", false}, Row{"ar_SA", false},
+                         Row{"xx", false}, Row{"", false}, Row{nullptr, false}}) {
+    for (std::int64_t number = -1; number <= 5; ++number) {
+      const auto base = static_cast<TextAlignment>(number);
+      const bool isSide = base == TextAlignment::left || base == TextAlignment::right;
+      const auto expected = row.swapped && isSide ? static_cast<TextAlignment>(2 - number) : base;
+      EXPECT_EQ(ovAlignmentForLocale(row.locale, base), expected) << row.locale << ", " << number;
+    }
+  }
+}
+
+TEST_F(Fonts, MakersFollowTheFirstCurrentLocale) {
+  struct Row {
+    const char* name;
+    std::function<FontHandle()> make;
+    std::string inEnglish;
+    std::string inArabic;
+  };
+  const Row kRows[] = {
+      {"system", [] { return ovSystemFontOfSize(15); }, "System 15", "CorbetSansKufiArabic 15"},
+      {"bold", [] { return ovBoldSystemFontOfSize(15); }, "System 15 bold",
+       "CorbetSansKufiArabic-Bold 15 bold"},
+      {"italic", [] { return ovItalicSystemFontOfSize(15); }, "System 15 italic",
+       "CorbetSansKufiArabic 15 italic"},
+      {"heavier than bold", [] { return ovSystemFontOfSize(15, 0.62); }, "System 15 bold",
+       "CorbetSansKufiArabic-Bold 15 bold"},
+      {"lighter than bold", [] { return ovSystemFontOfSize(15, 0.23); }, "System 15",
+       "CorbetSansKufiArabic 15"},
+      {"named", [] { return ovFontWithName("System", 9); }, "System 9", "CorbetSansKufiArabic 9"},
+      {"icons", [] { return ovFontWithName("MyIconFont", 9); }, "System 9", "System 9"},
+      {"icons in capitals", [] { return ovFontWithName("ICON", 9); }, "System 9", "System 9"},
+      {"unknown", [] { return ovFontWithName("Nobody", 9); }, "absent", "absent"},
+      {"no name", [] { return ovFontWithName(nullptr, 9); }, "absent", "absent"},
+  };
+  for (const Row& row : kRows) {
+    for (const StringList& locales :
+         {StringList{"en", "ar"}, StringList::emptyList(), StringList()}) {
+      speak(locales);
+      EXPECT_EQ(described(row.make()), row.inEnglish) << row.name << " in " << locales;
+    }
+    speak({"ar-EG", "en"});
+    EXPECT_EQ(described(row.make()), row.inArabic) << row.name << " in Arabic";
+  }
+}
+
+TEST_F(Fonts, ArabicFacesAreTheSameObjectsAtSeventeenPoints) {
+  EXPECT_EQ(described(corbetSansKufiArabicFont()), "CorbetSansKufiArabic 17");
+  EXPECT_EQ(described(corbetSansKufiArabicBoldFont()), "CorbetSansKufiArabic-Bold 17 bold");
+  watched_->askedFor.clear();
+  watched_->registrations.clear();
+  EXPECT_EQ(corbetSansKufiArabicFont(), corbetSansKufiArabicFont());
+  EXPECT_EQ(corbetSansKufiArabicBoldFont(), corbetSansKufiArabicBoldFont());
+  EXPECT_EQ(described(ArabicFontWithSize(8, true)), "CorbetSansKufiArabic-Bold 8 bold");
+  EXPECT_TRUE(watched_->askedFor.empty());
+  EXPECT_TRUE(watched_->registrations.empty());
+}
+
+// What three requests of one face ask of the platform, and what they get.
+TEST_F(Fonts, AFaceIsLoadedUntilThereIsAFontForIt) {
+  struct Row {
+    const char* name;
+    ResourceFace face;
+    std::vector<bool> registrations;
+    std::size_t questions;
+    std::string expected;
+  };
+  Row rows[] = {
+      {"the file answers to another name than its own",
+       {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic"},
+       {true},
+       1,
+       "CorbetSansKufiArabic 17"},
+      {"registered before",
+       {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic"},
+       {false},
+       1,
+       "CorbetSansKufiArabic 17"},
+      {"a name that the file does not answer to",
+       {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic-Regular"},
+       {false, false, false},
+       3,
+       "absent"},
+      {"no such file, but a font", {"Missing", "System"}, {false}, 1, "System 17"},
+      {"no such file and no font", {"Missing", "Missing"}, {false, false, false}, 3, "absent"},
+      {"only the application has the file",
+       {"Own", "CorbetSansKufiArabic-Bold"},
+       {false, false, false},
+       3,
+       "absent"},
+  };
+  const auto resources = platform::Platform::current().bundles->bundleForLibrary();
+  ASSERT_NE(resources, nullptr);
+  std::filesystem::copy_file(resources->pathForResource("CorbetSansKufiArabic-Bold", "ttf").str(),
+                             app_.bundle() / "Own.ttf");
+  for (Row& row : rows) {
+    watched_->askedFor.clear();
+    watched_->registrations.clear();
+    const FontHandle first = row.face.font();
+    EXPECT_EQ(described(first), row.expected) << row.name;
+    EXPECT_EQ(row.face.font(), first) << row.name;
+    EXPECT_EQ(row.face.font(), first) << row.name;
+    EXPECT_EQ(watched_->registrations, row.registrations) << row.name;
+    EXPECT_EQ(watched_->askedFor.size(), row.questions) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::localizationUtilities

@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+
+#include <orvanta/locale/OVLocale.h>
+
+#include "../support/TestApplication.h"
+
+namespace orvanta {
+namespace {
+
+const std::string kAppleId(OVOrvantaLanguageAppleIDKey);
+const std::string kEquivalents(OVOrvantaLanguageEquivalentsKey);
+const std::string kVersion(OVOrvantaLanguageVersionKey);
+
+std::shared_ptr<OVLocale> localeOf(const std::string& name, const test::Strings& strings) {
+  static test::TestApplication app;
+  const auto folder = app.bundle() / (name + ".lproj");
+  test::writeTable(folder, strings);
+  return OVLocale::initWithBundle(
+      platform::Platform::current().bundles->bundleWithPath(folder.string()));
+}
+
+TEST(OVLocale, TakesItsNamesFromTheFolderWhereTheTableSaysNothing) {
+  const auto locale = localeOf("zh-Hant", {{"hello", "x"}});
+  ASSERT_NE(locale, nullptr);
+  EXPECT_EQ(locale->orvantaLocaleName(), "zh-Hant");
+  EXPECT_TRUE(locale->appleLocaleName().isSameObject(locale->orvantaLocaleName()));
+  EXPECT_EQ(locale->version(), kVersion.c_str()) << "a missing version is the key itself";
+  EXPECT_TRUE(locale->fallbackLocales().isAbsent());
+  EXPECT_FALSE(locale->availableForDownload());
+  EXPECT_EQ(
+      locale->bundle()->bundlePath().view().substr(locale->bundle()->bundlePath().size() - 14),
+      "/zh-Hant.lproj");
+}
+
+struct EquivalentsRow {
+  std::string entry;
+  StringList locales;
+};
+
+TEST(OVLocale, SplitsEquivalentsAsTheyAreWritten) {
+  const EquivalentsRow rows[] = {
+      {"zh-Hans,zh-CN", {"zh-Hans", "zh-CN"}},
+      {"zh-Hans, zh-CN", {"zh-Hans", " zh-CN"}},
+      {"a,,b", {"a", "", "b"}},
+      {"", {""}},
+      {kEquivalents, {}},
+  };
+  int number = 0;
+  for (const EquivalentsRow& row : rows) {
+    const auto locale = localeOf("x" + std::to_string(number++),
+                                 {{kEquivalents, row.entry}, {kAppleId, "own"}, {kVersion, "1.2"}});
+    EXPECT_EQ(locale->fallbackLocales(), row.locales) << row.entry;
+    EXPECT_EQ(locale->appleLocaleName(), "own");
+    EXPECT_EQ(locale->version(), "1.2");
+  }
+}
+
+TEST(OVLocale, IsAbsentWithoutABundle) {
+  EXPECT_EQ(OVLocale::initWithBundle(nullptr), nullptr);
+}
+
+TEST(OVLocale, ComparesNamesByIdentityAndHashesItself) {
+  const String name = "fr";
+  const auto make = [](const String& appleName) {
+    return OVLocale::initWithOrvantaName({}, appleName, {}, nullptr, {});
+  };
+  const auto one = make(name);
+  const auto sameObject = make(name);
+  const auto sameText = make(String("fr"));
+  EXPECT_TRUE(one->isEqual(one.get()));
+  EXPECT_TRUE(one->isEqual(sameObject.get()));
+  EXPECT_NE(one->hash(), sameObject->hash());
+  EXPECT_FALSE(one->isEqual(sameText.get()));
+  EXPECT_FALSE(one->isEqual(nullptr));
+  EXPECT_TRUE(make({})->isEqual(make({}).get())) << "absent is the same object as absent";
+}
+
+}  // namespace
+}  // namespace orvanta

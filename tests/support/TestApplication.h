@@ -1,0 +1,100 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/standard/RunLoop.h>
+#include <orvanta/platform/standard/StandardPlatform.h>
+
+namespace orvanta::test {
+
+using Strings = std::map<std::string, std::string>;
+
+/// Languages to ship, under their names.
+using Languages = std::map<std::string, Strings>;
+
+/// A folder that goes with the object. Its name holds a blank and a non-ASCII letter, so that
+/// every test shows that paths may.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    std::string name = std::filesystem::temp_directory_path() / "orvanta tést XXXXXX";
+    path_ = mkdtemp(name.data());
+  }
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline void writeFile(const std::filesystem::path& file, std::string_view text) {
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary) << text;
+}
+
+inline void writeTable(const std::filesystem::path& folder, const Strings& strings) {
+  std::string text;
+  for (const auto& [key, value] : strings) {
+    text.append("\"").append(key).append("\" = \"").append(value).append("\";\n");
+  }
+  writeFile(folder / "Localizable.strings", text);
+}
+
+/// An application with a bundle and caches of its own, on the standard platform, which it installs.
+class TestApplication {
+ public:
+  explicit TestApplication(const Languages& shipped = {},
+                           std::vector<std::string> deviceLanguages = {"en"},
+                           platform::Platform replacements = {}) {
+    std::filesystem::create_directories(bundle());
+    for (const auto& [language, strings] : shipped) {
+      ship(language, strings);
+    }
+    platform::standard::StandardOptions options;
+    options.mainBundlePath = bundle();
+    options.cachesPath = caches();
+    options.deviceLanguages = std::move(deviceLanguages);
+    options.systemVersion = platform::OperatingSystemVersion{9, 0, 0};
+    options.logSink = [this](std::string_view line) { log.emplace_back(line); };
+    loop = platform::standard::RunLoop::make();
+    if (replacements.mainQueue == nullptr) {
+      replacements.mainQueue = loop;
+    }
+    platform::Platform::install(
+        platform::standard::makeStandardPlatform(options, std::move(replacements)));
+  }
+
+  [[nodiscard]] std::filesystem::path bundle() const { return scratch_.path() / "App"; }
+  [[nodiscard]] std::filesystem::path caches() const { return scratch_.path() / "Caches"; }
+  [[nodiscard]] std::filesystem::path cacheFolder() const {
+    return caches() / "OrvantaLocalizations";
+  }
+
+  void ship(const std::string& language, const Strings& strings) const {
+    writeTable(bundle() / (language + ".lproj"), strings);
+  }
+  void download(const std::string& language, const Strings& strings) const {
+    writeTable(cacheFolder() / (language + ".lproj"), strings);
+  }
+
+  std::vector<std::string> log;
+  std::shared_ptr<platform::standard::RunLoop> loop;
+
+ private:
+  ScratchFolder scratch_;
+};
+
+}  // namespace orvanta::test

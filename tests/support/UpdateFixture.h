@@ -1,0 +1,50 @@
+#pragma once
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <orvanta/cache/StringsPayload.h>
+
+namespace orvanta::test {
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+inline StringsPayload tableOf(const Pairs& pairs) {
+  auto table = StringsPayload::dictionary();
+  for (const auto& [key, value] : pairs) {
+    table.add(key, String(value));
+  }
+  return table;
+}
+
+/// A download whose tables stand under the bundle "app" and the namespace "main".
+inline StringsPayload payloadOf(const std::vector<std::pair<std::string, Pairs>>& languages) {
+  auto strings = StringsPayload::dictionary();
+  for (const auto& [language, pairs] : languages) {
+    auto space = StringsPayload::dictionary({{"zantorData", tableOf(pairs)}});
+    auto bundle = StringsPayload::dictionary({{"main", std::move(space)}});
+    strings.add(language, StringsPayload::dictionary({{"app", std::move(bundle)}}));
+  }
+  return strings;
+}
+
+inline std::string contentsOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// The number of files, of whatever name, below a folder.
+inline std::size_t tablesBelow(const std::filesystem::path& folder) {
+  const std::filesystem::recursive_directory_iterator files(folder);
+  return static_cast<std::size_t>(std::count_if(begin(files), end(files), [](const auto& entry) {
+    return !entry.is_symlink() && entry.is_regular_file();
+  }));
+}
+
+}  // namespace orvanta::test

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <orvanta/platform/String.h>
+#include <orvanta/platform/StringList.h>
+
+namespace ovlocalize {
+
+// Keys stay in the order in which a person reads them.
+using Json = nlohmann::ordered_json;
+
+/// Text, or null when absent.
+[[nodiscard]] inline Json toJson(const orvanta::String& text) {
+  return text.isAbsent() ? Json(nullptr) : Json(text.str());
+}
+
+/// An array of text, or null when absent.
+[[nodiscard]] inline Json toJson(const orvanta::StringList& list) {
+  if (list.isAbsent()) {
+    return nullptr;
+  }
+  Json array = Json::array();
+  for (const orvanta::String& item : list) {
+    array.push_back(toJson(item));
+  }
+  return array;
+}
+
+/// As text for a file or a pipe; bytes that are not UTF-8 come out as U+FFFD.
+[[nodiscard]] inline std::string printed(const Json& json) {
+  return json.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace ovlocalize
