@@ -36,22 +36,34 @@ Localizer::Localizer() : mainBundle_(Platform::current().bundles->mainBundle()) 
 Localizer::~Localizer() = default;
 
 void Localizer::useDefaultLocale() {
-  const StringList matched = availableLocalesFromArray(mainBundle_->preferredLocalizations());
-  changeOrvantaLanguageToPreferredLocales(matched.isAbsent() ? StringList::emptyList() : matched);
+  // A device list that is empty, like one that matches nothing, asks for nothing in particular.
+  const StringList ranked = mainBundle_->preferredLocalizations();
+  StringList requested = ranked.empty() ? StringList() : availableLocalesFromArray(ranked);
+  if (requested.isAbsent()) {
+    requested = StringList::emptyList();
+  }
+  StringList matched = availableLocalesFromArray(requested);
+  if (matched.empty()) {
+    // What matched once matches again, unless an application's own fallback table leads on from it.
+    matched = availableLocalesFromArray({});
+  }
+  adopt(matched, requested);
 }
 
-// This and useDefaultLocale call each other without a guard. They end because a list that was
-// matched once matches again, and because an empty one gives English unchecked.
 void Localizer::changeOrvantaLanguageToPreferredLocales(const StringList& requested) {
   const StringList matched = availableLocalesFromArray(requested);
   if (matched.empty()) {
     useDefaultLocale();
-    return;
+  } else {
+    adopt(matched, requested.isAbsent() ? matched : requested);
   }
+}
+
+void Localizer::adopt(const StringList& matched, const StringList& raw) {
   currentLanguageBundle_ = languageBundleForLocale(matched.front());
   preferredLocales_ = matched;
   rightToLeftOrientation_ = rightToLeftOrientationForLocale(matched.front());
-  postLater(matched, requested.isAbsent() ? matched : requested);
+  postLater(matched, raw);
 }
 
 void Localizer::updatePreferredLocales(const StringList& languages, const String& country) {

@@ -170,8 +170,7 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] platform::Bundle* defaultLocaleBundle();
   void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
 
-  /// The regional fallbacks; an absent table makes the next read build the built-in one. In a table
-  /// of one's own no value should be a key with another value: a request is looked up once only.
+  /// The regional fallbacks; an absent table makes the next read build the built-in one.
   [[nodiscard]] const FallbackTable& fallbackTable();
   void setFallbackTable(FallbackTable table) noexcept;
 
@@ -180,6 +179,8 @@ class ORVANTA_EXPORT Localizer {
   void setStringCache(std::shared_ptr<OVStringCache> cache) noexcept;
 
  private:
+  // Stores what was matched and posts it later with what was asked for. `matched` is not empty.
+  void adopt(const StringList& matched, const StringList& raw);
   [[nodiscard]] String textInCurrentLanguageOrEnglish(std::string_view key);
 
   bool rightToLeftOrientation_ = false;

@@ -153,6 +153,14 @@ TEST(Localizer, WithoutAnyBundleAsksAgainAtEveryLookUp) {
       << "an absent bundle is not remembered";
 }
 
+TEST(Localizer, EndsInEnglishWhereAFallbackTableLeadsOn) {
+  TestApplication app({{"en", {}}, {"fr", {}}}, {"fr"});
+  Localizer localizer;
+  localizer.setFallbackTable({{"fr", "en"}, {"en", "tlh"}});
+  localizer.changeOrvantaLanguageToPreferredLocales({"xx"});
+  EXPECT_EQ(localizer.preferredLocales(), StringList({"en"}));
+}
+
 TEST(Localizer, KeepsTheEnglishBundleThatItFoundFirst) {
   TestApplication app({{"en", {{"a", "shipped"}}}, {"fr", {}}}, {"fr"});
   Localizer localizer;
