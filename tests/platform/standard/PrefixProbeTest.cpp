@@ -210,8 +210,8 @@ TEST(PrefixProbe, NeverPassesOverAnEscapeThatSpells) {
   }
 }
 
-// Wherever in the file it stands, above all where two chunks meet.
-TEST(PrefixProbe, MissesNothingBetweenTwoChunks) {
+// In the midst of a chunk and where two chunks meet.
+TEST(PrefixProbe, MissesNothingWhereverItStands) {
   constexpr std::size_t kChunk = std::size_t{256} * 1024;
   const std::string spellings[] = {std::string(kPrefix), "\\U0043", "\\103"};
   for (const Encoding& encoding : {kEncodings[0], kEncodings[3], kEncodings[5], kEncodings[7]}) {
@@ -224,7 +224,7 @@ TEST(PrefixProbe, MissesNothingBetweenTwoChunks) {
       while (filler.size() < 2 * kChunk + 4096) {
         filler += encode({"", ""sv, encoding.unit, encoding.bigEndian}, nothing);
       }
-      for (const std::size_t seam : {kChunk, 2 * kChunk}) {
+      for (const std::size_t seam : {std::size_t{3600}, kChunk, 2 * kChunk}) {
         for (std::size_t before = 0; before < 4 * kPrefix.size() + 8; before += encoding.unit) {
           std::string bytes = filler;
           const std::size_t at =
