@@ -6,6 +6,10 @@
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/controls/UILocalizedButton.h>
+#include <orvanta/controls/UILocalizedLabel.h>
+#include <orvanta/controls/UILocalizedTextField.h>
+#include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/locale/SystemInfo.h>

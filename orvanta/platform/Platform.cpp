@@ -1,4 +1,5 @@
 #include <atomic>
+#include <deque>
 #include <mutex>
 
 #include <orvanta/platform/DefaultPlatform.h>

@@ -20,6 +20,15 @@ struct Request {
 int languages(const Settings& settings);
 int match(const Settings& settings, const Request& request);
 int lookup(const Settings& settings, const Request& request, const std::vector<std::string>& keys);
+/// A table to print: a file, or the table of a language in the catalogue. One of the two is empty.
+struct Source {
+  std::string file;
+  std::string language;
+};
+
+/// Problems in the table go to standard error as FILE:LINE:COLUMN: message.
+int dump(const Settings& settings, const Source& source);
+
 /// Where in a service's answer the tables are, and the file that holds the answer ("-": standard
 /// input).
 struct Download {

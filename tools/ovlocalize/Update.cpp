@@ -1,10 +1,9 @@
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include <orvanta/cache/OVStringCache.h>
 
 #include "Commands.h"
+#include "FileContents.h"
 #include "PayloadFromJson.h"
 
 namespace ovlocalize {
@@ -12,18 +11,6 @@ namespace ovlocalize {
 namespace {
 
 using orvanta::StringsUpdate;
-
-std::string contentsOf(const std::string& file) {
-  if (file == "-") {
-    return {std::istreambuf_iterator<char>(std::cin), {}};
-  }
-  std::ifstream stream(file, std::ios::binary);
-  std::string contents(std::istreambuf_iterator<char>(stream), {});
-  if (!stream.is_open() || stream.bad()) {
-    throw Failure("cannot read " + file);
-  }
-  return contents;
-}
 
 Json parse(const std::string& file) {
   Json json;

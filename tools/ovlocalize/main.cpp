@@ -81,6 +81,22 @@ int run(int argc, char** argv) {
   lookup->add_option("keys", keys, "The keys to look up")->required()->type_name("KEY");
   lookup->callback([&] { chosen = [&] { return ovlocalize::lookup(settings, request, keys); }; });
 
+  ovlocalize::Source source;
+  CLI::App* dump = app.add_subcommand(
+      "dump",
+      "Print what a strings file holds, whichever of its forms it is in; what is wrong with\n"
+      "it goes to standard error as FILE:LINE:COLUMN: message");
+  CLI::Option* file = dump->add_option("file", source.file, "The strings file")->type_name("FILE");
+  dump->add_option("--language", source.language, "Instead of a file: the table of this language")
+      ->type_name("ID")
+      ->excludes(file);
+  dump->callback([&] {
+    if (source.file.empty() && source.language.empty()) {
+      throw CLI::ValidationError("dump", "a FILE or --language ID is required");
+    }
+    chosen = [&] { return ovlocalize::dump(settings, source); };
+  });
+
   ovlocalize::Download download;
   CLI::App* update = app.add_subcommand(
       "update",
