@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/standard/RunLoop.h>
+
+#include "data/Corpus.h"
+
+namespace orvanta::bench {
+
+using TableForm = std::string (*)(const Table& table);
+
+/// An application of ours on disk: the folder of its main bundle and that of its caches.
+class Application {
+ public:
+  explicit Application(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+  void ship(std::string_view language, const Table& table, TableForm form) const;
+
+  [[nodiscard]] std::filesystem::path languageFolder(std::string_view language) const;
+  [[nodiscard]] std::filesystem::path tableFile(std::string_view language) const;
+  [[nodiscard]] std::filesystem::path cachesFolder() const { return folder_ / "Caches"; }
+
+  /// A standard platform for this application on a device set to `language`, with nothing read
+  /// yet. Its main queue is `loop` if one is given, and it drops what is logged.
+  [[nodiscard]] platform::Platform makePlatform(
+      std::string_view language, std::shared_ptr<platform::standard::RunLoop> loop = nullptr) const;
+
+ private:
+  std::filesystem::path folder_;
+};
+
+}  // namespace orvanta::bench

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace orvanta::bench {
+
+/// A contender did not give the text that the data says. Ends the run: a wrong answer has no time.
+class WrongAnswer : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// `asked` names the question in the message.
+inline void expectText(std::string_view given, std::string_view expected, std::string_view asked) {
+  if (given != expected) {
+    throw WrongAnswer("for \"" + std::string(asked) + "\" expected \"" + std::string(expected) +
+                      "\" but got \"" + std::string(given) + '"');
+  }
+}
+
+inline void expect(bool holds, const char* what) {
+  if (!holds) {
+    throw WrongAnswer(what);
+  }
+}
+
+}  // namespace orvanta::bench

@@ -1,0 +1,122 @@
+// Measures the library beside what a user would take instead, on the same data in one run.
+#include <QtGlobal>
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gnu/libc-version.h>
+#include <unicode/uvernum.h>
+
+#include "contenders/Gettext.h"
+#include "harness/Check.h"
+#include "rows/Rows.h"
+
+namespace {
+
+namespace bench = orvanta::bench;
+
+struct Family {
+  std::string_view name;
+  void (*run)(bench::Bench& bench);
+};
+
+// In this order: the last one starts a thread, which has an effect on handles for good.
+constexpr Family kFamilies[] = {
+    {"hit", bench::hitRows},          {"hit-sizes", bench::hitSizeRows},
+    {"fallback", bench::fallbackRow}, {"load", bench::loadRows},
+    {"startup", bench::startupRows},  {"switch", bench::switchRows},
+    {"match", bench::matchRows},      {"update", bench::updateRow},
+    {"memory", bench::memoryRow},     {"hit-threaded", bench::hitThreadedRow},
+};
+
+constexpr std::string_view kHelp =
+    "usage: bench/run [--help] [FAMILY...]\n"
+    "\n"
+    "Measures the library and the alternatives to it, prints a Markdown table of all rows and\n"
+    "another of how our cost grows, and writes the first to build/bench.json.\n"
+    "\n"
+    "A row has a floor, what a careful engineer would write by hand for that one job, and a ratio\n"
+    "is a median through the floor's median. Every answer of every contender is compared with the\n"
+    "expected text before anything is timed. The contenders of a row are timed in turn, in "
+    "changing\n"
+    "order. Allocations are those of one operation, counted in a round that is not timed.\n"
+    "\n"
+    "The peers are used in their own best forms: gettext with .mo files in the locale C.UTF-8 and\n"
+    "the variable LANGUAGE; ICU with bundles of genrb, its answers left in UTF-16; Qt with .qm\n"
+    "files of lrelease, asked by text identifier.\n"
+    "\n"
+    "Families of rows, all of them unless some are named:";
+
+struct Arguments {
+  std::string json = "build/bench.json";
+  std::string scratch = "build/bench/data";
+  std::vector<std::string_view> families;
+  bool help = false;
+};
+
+Arguments parse(int count, char** words) {
+  Arguments arguments;
+  for (int at = 1; at < count; ++at) {
+    const std::string_view word = words[at];
+    if (word == "--help" || word == "-h") {
+      arguments.help = true;
+    } else if (word.starts_with("--json=")) {
+      arguments.json = word.substr(word.find('=') + 1);
+    } else if (word.starts_with("--scratch=")) {
+      arguments.scratch = word.substr(word.find('=') + 1);
+    } else if (std::any_of(std::begin(kFamilies), std::end(kFamilies),
+                           [&](const Family& family) { return family.name == word; })) {
+      arguments.families.push_back(word);
+    } else {
+      throw std::invalid_argument("no such family: " + std::string(word));
+    }
+  }
+  return arguments;
+}
+
+void printHelp() {
+  std::cout << kHelp;
+  for (const Family& family : kFamilies) {
+    std::cout << ' ' << family.name;
+  }
+  std::cout << '\n';
+}
+
+void runFamilies(const Arguments& arguments) {
+  bench::Bench session(std::filesystem::absolute(arguments.scratch));
+  bench::gettext::chooseLanguages("fr:en");
+  for (const Family& family : kFamilies) {
+    const auto& wanted = arguments.families;
+    if (wanted.empty() || std::find(wanted.begin(), wanted.end(), family.name) != wanted.end()) {
+      family.run(session);
+    }
+  }
+  session.report().printTable(std::cout);
+  std::cout << '\n';
+  session.report().printGrowth(std::cout);
+  std::cout << "\n"
+            << std::thread::hardware_concurrency() << " processors; GCC " << __VERSION__
+            << ", C library " << gnu_get_libc_version() << ", Abseil "
+            << ORVANTA_BENCH_ABSEIL_VERSION << ", ICU " << U_ICU_VERSION << ", Qt " << qVersion()
+            << ".\n";
+  session.report().writeJson(arguments.json);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  try {
+    const Arguments arguments = parse(count, words);
+    if (arguments.help) {
+      printHelp();
+    } else {
+      runFamilies(arguments);
+    }
+  } catch (const std::exception& error) {
+    std::cerr << "FAILED: " << error.what() << '\n';
+    return 1;
+  }
+  return 0;
+}

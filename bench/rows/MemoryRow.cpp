@@ -1,0 +1,119 @@
+// What a loaded table keeps: heap, and the pages of files that stay mapped. The mean of one table
+// in each of four scripts.
+#include <fstream>
+#include <functional>
+#include <iostream>
+
+#include <libintl.h>
+
+#include "contenders/Application.h"
+#include "contenders/Gettext.h"
+#include "contenders/Icu.h"
+#include "contenders/QtTranslations.h"
+#include "contenders/TsvMap.h"
+#include "data/TableForms.h"
+#include "harness/Check.h"
+#include "harness/Heap.h"
+#include "rows/LoadedLanguages.h"
+#include "rows/Rows.h"
+
+namespace orvanta::bench {
+
+namespace {
+
+constexpr std::size_t kStrings = 10'000;
+
+// The bytes of the process's mappings of files below the folder.
+std::size_t mappedBytes(const std::filesystem::path& folder) {
+  std::ifstream maps("/proc/self/maps");
+  std::size_t bytes = 0;
+  for (std::string line; std::getline(maps, line);) {
+    if (line.find(folder.string()) != std::string::npos) {
+      std::size_t used = 0;
+      const std::size_t start = std::stoul(line, &used, 16);
+      bytes += std::stoul(line.substr(used + 1), nullptr, 16) - start;
+    }
+  }
+  return bytes;
+}
+
+// Loads something and says what it keeps. `load` gives what holds on to it.
+template <typename Load>
+double keptBytes(const std::filesystem::path& folder, Load load) {
+  const std::size_t mappedBefore = mappedBytes(folder);
+  heap::startCounting();
+  const auto loaded = load();
+  const std::int64_t heapBytes = heap::stopCounting().keptBytes;
+  keep(loaded);
+  return static_cast<double>(heapBytes) + static_cast<double>(mappedBytes(folder) - mappedBefore);
+}
+
+double keptByOurs(const Application& application, const LoadedTable& loaded) {
+  const platform::Platform platform = application.makePlatform("en");
+  const auto bundle = platform.bundles->bundleWithPath(
+      String(application.languageFolder(loaded.language).string()));
+  const auto& [key, value] = loaded.table.front();
+  const HashedKey hashed(key);
+  return keptBytes(application.languageFolder(loaded.language), [&] {
+    expectText(bundle->textForKey(hashed, {}).view(), value, key);
+    return bundle;
+  });
+}
+
+double keptByMap(const std::filesystem::path& folder, const LoadedTable& loaded) {
+  const auto file = folder / "table.tsv";
+  writeFile(file, tabSeparated(loaded.table));
+  return keptBytes(folder, [&] { return loadTsv(file); });
+}
+
+double keptByQt(const std::filesystem::path& folder, const LoadedTable& loaded) {
+  const auto file = folder / (std::string(loaded.language) + ".qm");
+  qt::makeTranslations(file, loaded.table);
+  const auto& [key, value] = loaded.table.front();
+  return keptBytes(folder, [&] {
+    auto translator = qt::open(file);
+    expectText(qt::find(*translator, key.c_str()).toStdString(), value, key);
+    return translator;
+  });
+}
+
+double keptByIcu(const std::filesystem::path& folder, const LoadedTable& loaded) {
+  const std::string locale = icuLocale(loaded.language);
+  icu::makeBundle(folder, locale, loaded.table);
+  const auto& [key, value] = loaded.table.front();
+  return keptBytes(folder, [&] {
+    auto bundle = icu::open(folder, locale.c_str());
+    expectText(icu::utf8(icu::find(bundle.get(), key.c_str())), value, key);
+    return bundle;
+  });
+}
+
+}  // namespace
+
+void memoryRow(Bench& bench) {
+  std::clog << "memory..." << std::endl;
+  const ScratchFolder folder = bench.folder("memory");
+  const Application application(folder.path());
+  std::vector<Measurement> measurements;
+  const auto add = [&](std::string_view contender, double bytes) {
+    const auto found =
+        std::find_if(measurements.begin(), measurements.end(),
+                     [&](const auto& known) { return known.contender == contender; });
+    Measurement& measurement =
+        found == measurements.end()
+            ? measurements.emplace_back(Measurement{.contender = std::string(contender)})
+            : *found;
+    measurement.bytes += bytes / static_cast<double>(kLoadedLanguages.size());
+  };
+  for (const LoadedTable& loaded : makeLoadedTables(kStrings)) {
+    application.ship(loaded.language, loaded.table, textFormUtf16);
+    add(kFloor, static_cast<double>(textBytes(loaded.table)));
+    add(kOurs, keptByOurs(application, loaded));
+    add("unordered_map", keptByMap(folder.path(), loaded));
+    add("icu", keptByIcu(folder.path() / "icu", loaded));
+    add("qt", keptByQt(folder.path(), loaded));
+  }
+  bench.report().add({.name = "memory", .goal = 1.3}, std::move(measurements));
+}
+
+}  // namespace orvanta::bench

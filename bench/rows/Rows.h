@@ -1,0 +1,19 @@
+#pragma once
+
+#include "harness/Bench.h"
+
+/// The families of rows, each alone in its file.
+namespace orvanta::bench {
+
+void hitRows(Bench& bench);
+void hitSizeRows(Bench& bench);
+void hitThreadedRow(Bench& bench);
+void fallbackRow(Bench& bench);
+void loadRows(Bench& bench);
+void startupRows(Bench& bench);
+void switchRows(Bench& bench);
+void matchRows(Bench& bench);
+void updateRow(Bench& bench);
+void memoryRow(Bench& bench);
+
+}  // namespace orvanta::bench
