@@ -43,7 +43,7 @@ OrderWindow::OrderWindow(QString downloadsPath, QWidget* parent)
   connectActions();
   fillLanguageMenu();
   languageChanged();
-  resize(880, 580);
+  resize(940, 580);
 }
 
 void OrderWindow::findWidgets() {
