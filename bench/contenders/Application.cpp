@@ -1,8 +1,8 @@
 #include "contenders/Application.h"
 
-#include <orvanta/platform/standard/StandardPlatform.h>
-
 #include <utility>
+
+#include <orvanta/platform/standard/StandardPlatform.h>
 
 #include "harness/Files.h"
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/RunLoop.h>
-
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/standard/RunLoop.h>
 
 #include "data/Corpus.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <absl/container/flat_hash_map.h>
-
 #include <memory>
 #include <string_view>
+
+#include <absl/container/flat_hash_map.h>
 
 #include "data/Corpus.h"
 

@@ -1,11 +1,11 @@
 #include "contenders/Gettext.h"
 
-#include <libintl.h>
-
 #include <clocale>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
+
+#include <libintl.h>
 
 #include "harness/Files.h"
 

@@ -1,8 +1,8 @@
 #include "contenders/Icu.h"
 
-#include <unicode/unistr.h>
-
 #include <stdexcept>
+
+#include <unicode/unistr.h>
 
 #include "harness/Files.h"
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <unicode/ures.h>
-
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include <unicode/ures.h>
 
 #include "data/Corpus.h"
 

@@ -1,9 +1,9 @@
 #include "data/Corpus.h"
 
-#include <orvanta/platform/Utf8.h>
-
 #include <string_view>
 #include <unordered_set>
+
+#include <orvanta/platform/Utf8.h>
 
 #include "data/Random.h"
 

@@ -1,12 +1,12 @@
 #include "harness/Files.h"
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
 
 namespace orvanta::bench {
 

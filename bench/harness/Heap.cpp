@@ -1,11 +1,11 @@
 #include "harness/Heap.h"
 
-#include <malloc.h>
-
 #include <atomic>
 #include <cerrno>
 #include <cstddef>
 #include <cstdlib>
+
+#include <malloc.h>
 
 // The C library's own functions under the names that it keeps for whoever replaces the public ones.
 // NOLINTBEGIN(bugprone-reserved-identifier)

@@ -21,7 +21,7 @@ struct Unit {
 
 std::string withUnit(double value, std::span<const Unit> units) {
   const auto unit = std::find_if(units.begin(), units.end() - 1,
-                                  [&](const Unit& candidate) { return value >= candidate.size; });
+                                 [&](const Unit& candidate) { return value >= candidate.size; });
   std::ostringstream text;
   text << std::setprecision(value / unit->size < 1000 ? 3 : 4) << value / unit->size << ' '
        << unit->name;
@@ -108,8 +108,9 @@ void Report::printGrowth(std::ostream& out) const {
   for (const auto& [row, measurements] : results_) {
     const Measurement* ours = contenderNamed(measurements, kOurs);
     if (row.amount && ours != nullptr) {
-      out << "| " << row.name << " | " << asCount(row.amount->count) << ' ' << row.amount->unit
-          << " | " << asTime(ours->median) << " | " << asTime(ours->median / row.amount->count)
+      const auto& [count, unit, isShared] = *row.amount;
+      out << "| " << row.name << " | " << asNumber(count, 0) << ' ' << unit << " | "
+          << asTime(ours->median) << " | " << (isShared ? asTime(ours->median / count) : "flat")
           << " |\n";
     }
   }

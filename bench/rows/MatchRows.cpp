@@ -1,9 +1,10 @@
 // Requests against the 40 languages: what each comes to.
-#include <orvanta/locale/Localizer.h>
+#include <string>
+
 #include <unicode/localematcher.h>
 #include <unicode/locid.h>
 
-#include <string>
+#include <orvanta/locale/Localizer.h>
 
 #include "contenders/Application.h"
 #include "data/TableForms.h"

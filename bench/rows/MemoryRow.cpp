@@ -1,10 +1,10 @@
 // What a loaded table keeps: heap, and the pages of files that stay mapped. The mean of one table
 // in each of four scripts.
-#include <libintl.h>
-
 #include <fstream>
 #include <functional>
 #include <iostream>
+
+#include <libintl.h>
 
 #include "contenders/Application.h"
 #include "contenders/Gettext.h"

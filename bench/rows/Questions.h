@@ -1,12 +1,12 @@
 #pragma once
 
-#include <orvanta/platform/String.h>
-
 #include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <orvanta/platform/String.h>
 
 #include "data/Corpus.h"
 #include "data/Random.h"

@@ -1,9 +1,10 @@
 // From nothing to an application that knows its 40 languages and has chosen one.
+#include <string>
+
 #include <fcntl.h>
-#include <orvanta/locale/Localizer.h>
 #include <unistd.h>
 
-#include <string>
+#include <orvanta/locale/Localizer.h>
 
 #include "contenders/Application.h"
 #include "data/TableForms.h"

@@ -1,9 +1,9 @@
 // A change to another language whose table is in memory, with listeners that each look one key up
 // and store the text. Every round changes to French and back to English.
-#include <orvanta/locale/Localizer.h>
-
 #include <array>
 #include <functional>
+
+#include <orvanta/locale/Localizer.h>
 
 #include "contenders/Application.h"
 #include "contenders/ArenaMap.h"

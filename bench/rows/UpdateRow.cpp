@@ -1,13 +1,14 @@
 // Putting one downloaded table in the place of the one that is cached, so that it would survive a
 // loss of power.
-#include <fcntl.h>
-#include <orvanta/cache/OVStringCache.h>
-#include <unistd.h>
-
 #include <QSaveFile>
 #include <algorithm>
 #include <cstdio>
 #include <string>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <orvanta/cache/OVStringCache.h>
 
 #include "contenders/Application.h"
 #include "data/TableForms.h"
