@@ -14,9 +14,9 @@
 namespace orvanta {
 namespace {
 
-using test::payloadOf;
 using test::Fault;
 using test::ForwardingFileManager;
+using test::payloadOf;
 
 const test::Pairs kOld = {{"a", "old a"}, {"b", "old b"}};
 const test::Pairs kNew = {{"a", "new a"}, {"b", "new b"}, {"c", "new c"}};

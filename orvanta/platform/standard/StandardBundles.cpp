@@ -7,6 +7,7 @@
 #include <orvanta/platform/PathString.h>
 #include <orvanta/platform/standard/BundlePaths.h>
 #include <orvanta/platform/standard/LocalizationRanking.h>
+#include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/StandardBundles.h>
 #include <orvanta/platform/standard/TableFile.h>
 
@@ -84,6 +85,10 @@ class StandardBundle final : public Bundle {
     return tableNamed(table).textForKey(key);
   }
 
+  std::vector<String> textsForKeys(std::span<const HashedKey> keys) const override {
+    return lacksAll(keys) ? std::vector<String>(keys.size()) : Bundle::textsForKeys(keys);
+  }
+
   void openAgain() {
     checkAgain(defaultTable_, kDefaultTable);
     for (auto& [name, table] : otherTables_) {
@@ -105,6 +110,17 @@ class StandardBundle final : public Bundle {
     return files_->fileExistsAtPath(path) ? path : String();
   }
 
+  // True when the default table need not be read in order to know that it has none of `keys`.
+  bool lacksAll(std::span<const HashedKey> keys) const {
+    if (defaultTable_.loaded() != nullptr) {
+      return false;
+    }
+    const std::string_view prefix = prefixToProbeFor(keys);
+    return !prefix.empty() &&
+           (defaultTable_.isKnownToLack(prefix) ||
+            defaultTable_.findOutWhetherItLacks(prefix, pathOfTable(kDefaultTable)));
+  }
+
   const StringTable& loadDefaultTable() const {
     return defaultTable_.load(pathOfTable(kDefaultTable));
   }
@@ -118,7 +134,7 @@ class StandardBundle final : public Bundle {
   }
 
   void checkAgain(TableFile& table, const String& name) const {
-    if (table.loaded() != nullptr) {
+    if (!table.isUntouched()) {
       table.checkAgain(pathOfTable(name));
     }
   }

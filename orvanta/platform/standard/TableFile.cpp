@@ -3,6 +3,7 @@
 
 #include <orvanta/platform/TextHash.h>
 #include <orvanta/platform/standard/FileBytes.h>
+#include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/TableFile.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
 
@@ -46,6 +47,7 @@ FileSighting FileSighting::of(FileManager& files, String path) {
 }
 
 const StringTable& TableFile::load(const String& path) {
+  forget();
   sighting_ = FileSighting::of(*files_, path);
   const std::optional<FileBytes> bytes = readSighted(*files_, sighting_);
   contentHash_ = sighting_.isSettled ? 0 : hashOf(bytes);
@@ -53,21 +55,36 @@ const StringTable& TableFile::load(const String& path) {
   return *table_;
 }
 
-void TableFile::checkAgain(const String& path) {
-  if (table_ == nullptr) {
-    return;
+bool TableFile::findOutWhetherItLacks(std::string_view prefix, const String& path) {
+  forget();
+  sighting_ = FileSighting::of(*files_, path);
+  const auto file = files_->openFileForReading(path);
+  if (file == nullptr || mayHoldKeysWithPrefix(*file, prefix)) {
+    return false;
   }
+  lackedPrefix_ = prefix;
+  return true;
+}
+
+void TableFile::checkAgain(const String& path) {
   FileSighting now = FileSighting::of(*files_, path);
   if (stillHolds(now)) {
     sighting_ = std::move(now);
   } else {
-    table_.reset();
+    forget();
   }
 }
 
+void TableFile::forget() noexcept {
+  table_.reset();
+  lackedPrefix_.clear();
+}
+
 bool TableFile::stillHolds(const FileSighting& now) const {
-  return now == sighting_ &&
-         (sighting_.isSettled || hashOf(readSighted(*files_, now)) == contentHash_);
+  if (now == sighting_ && !sighting_.isSettled) {
+    return table_ != nullptr && hashOf(readSighted(*files_, now)) == contentHash_;
+  }
+  return now == sighting_;
 }
 
 }  // namespace orvanta::platform::standard

@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include <orvanta/platform/FileManager.h>
 #include <orvanta/platform/standard/strings/StringTable.h>
@@ -34,16 +37,30 @@ class TableFile {
   /// Reads the table from `path`, absent for no file. What is missing or unreadable is empty.
   const StringTable& load(const String& path);
 
-  /// Forgets the table unless it is what a reading of `path` would give now.
+  /// True when it was found out, without reading the table, that no key of it begins with `prefix`
+  /// (see PrefixProbe.h).
+  [[nodiscard]] bool isKnownToLack(std::string_view prefix) const noexcept {
+    return !prefix.empty() && lackedPrefix_ == prefix;
+  }
+  /// Tries to find that out for the file at `path`.
+  bool findOutWhetherItLacks(std::string_view prefix, const String& path);
+
+  /// Nothing is known of the file: there is nothing to check again.
+  [[nodiscard]] bool isUntouched() const noexcept {
+    return table_ == nullptr && lackedPrefix_.empty();
+  }
+  /// Forgets what is known unless a reading of `path` would give the same now.
   void checkAgain(const String& path);
 
  private:
   [[nodiscard]] bool stillHolds(const FileSighting& now) const;
+  void forget() noexcept;
 
   std::shared_ptr<FileManager> files_;
   std::shared_ptr<const StringTable> table_;
   FileSighting sighting_;
   std::uint64_t contentHash_ = 0;
+  std::string lackedPrefix_;
 };
 
 }  // namespace orvanta::platform::standard

@@ -9,13 +9,18 @@ constexpr std::size_t kTrailerSize = 32;
 constexpr std::size_t kLargestNumber = 8;
 constexpr unsigned kCountFollows = 0xF;
 constexpr unsigned kLargestIntegerExponent = 4;
+// Far beyond any file; times the size of what is counted it does not overflow.
+constexpr std::uint64_t kLargestCount = std::uint64_t{1} << 56;
 
+// At most 8 bytes, which lie behind the file's magic: the 8 bytes that end with them can be loaded
+// whatever their number. Spelled out, because compilers know this form for a single load.
 std::uint64_t readNumber(std::string_view bytes) noexcept {
-  std::uint64_t number = 0;
-  for (const char byte : bytes) {
-    number = (number << 8) | static_cast<unsigned char>(byte);
-  }
-  return number;
+  const char* const begin = bytes.data() + bytes.size() - kLargestNumber;
+  const auto at = [begin](std::size_t index) {
+    return std::uint64_t{static_cast<unsigned char>(begin[index])} << (56 - 8 * index);
+  };
+  const std::uint64_t word = at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);
+  return word & (~std::uint64_t{0} >> (8 * (kLargestNumber - bytes.size())));
 }
 
 bool isNumberSize(std::size_t size) noexcept {
@@ -55,6 +60,7 @@ std::optional<BinaryObjects> BinaryObjects::open(std::string_view file) noexcept
       objectCount > (bodySize - offsetsStart) / objects.offsetSize_) {
     return std::nullopt;
   }
+  objects.objectCount_ = objectCount;
   objects.objects_ = file.substr(0, static_cast<std::size_t>(offsetsStart));
   objects.offsets_ = file.substr(static_cast<std::size_t>(offsetsStart),
                                  static_cast<std::size_t>(objectCount) * objects.offsetSize_);
@@ -62,7 +68,7 @@ std::optional<BinaryObjects> BinaryObjects::open(std::string_view file) noexcept
 }
 
 std::optional<BinaryObject> BinaryObjects::at(std::uint64_t reference) const noexcept {
-  if (reference >= offsets_.size() / offsetSize_) {
+  if (reference >= objectCount_) {
     return std::nullopt;
   }
   const std::uint64_t offset =
@@ -78,17 +84,17 @@ std::optional<BinaryObject> BinaryObjects::at(std::uint64_t reference) const noe
   if (unit == 0) {
     return BinaryObject{kind, {}};
   }
-  const std::optional<std::size_t> count = readCount(body, marker & 0xFU);
-  if (!count || *count > body.size() / unit) {
+  const std::optional<std::uint64_t> count = readCount(body, marker & 0xFU);
+  if (!count || *count > kLargestCount || *count * unit > body.size()) {
     return std::nullopt;
   }
-  return BinaryObject{kind, body.substr(0, *count * unit)};
+  return BinaryObject{kind, body.substr(0, static_cast<std::size_t>(*count * unit))};
 }
 
 // Takes the integer that holds the count, if there is one, off the front of `body`. Absent when it
-// is no integer or larger than any count can be.
-std::optional<std::size_t> BinaryObjects::readCount(std::string_view& body,
-                                                    unsigned inMarker) const noexcept {
+// is no integer or needs more than 8 bytes.
+std::optional<std::uint64_t> BinaryObjects::readCount(std::string_view& body,
+                                                      unsigned inMarker) const noexcept {
   if (inMarker != kCountFollows) {
     return inMarker;
   }
@@ -107,11 +113,7 @@ std::optional<std::size_t> BinaryObjects::readCount(std::string_view& body,
     }
     digits.remove_prefix(1);
   }
-  const std::uint64_t count = readNumber(digits);
-  if (count > body.size()) {
-    return std::nullopt;
-  }
-  return static_cast<std::size_t>(count);
+  return readNumber(digits);
 }
 
 std::uint64_t BinaryObjects::referenceAt(const BinaryObject& dictionary,

@@ -59,11 +59,12 @@ class BinaryObjects {
 
  private:
   BinaryObjects() = default;
-  [[nodiscard]] std::optional<std::size_t> readCount(std::string_view& body,
-                                                     unsigned inMarker) const noexcept;
+  [[nodiscard]] std::optional<std::uint64_t> readCount(std::string_view& body,
+                                                       unsigned inMarker) const noexcept;
 
   std::string_view objects_;  ///< From the file's beginning up to the offsets.
   std::string_view offsets_;
+  std::uint64_t objectCount_ = 0;
   std::size_t offsetSize_ = 0;
   std::size_t referenceSize_ = 0;
   std::uint64_t topObject_ = 0;

@@ -1,4 +1,6 @@
+#include <optional>
 #include <string>
+#include <utility>
 
 #include <orvanta/platform/standard/strings/BinaryObjects.h>
 #include <orvanta/platform/standard/strings/BinaryTable.h>

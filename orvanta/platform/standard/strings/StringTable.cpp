@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 #include <orvanta/platform/standard/strings/StringTable.h>
 
@@ -10,7 +11,6 @@ namespace orvanta::platform::standard {
 namespace {
 
 constexpr std::size_t kHeader = 2 * sizeof(std::uint32_t);
-constexpr std::size_t kLargestArena = std::numeric_limits<std::uint32_t>::max();
 constexpr std::uint64_t kFree = std::numeric_limits<std::uint64_t>::max();
 constexpr std::uint64_t kHashMask = 0xFFFFFFFF00000000;
 
@@ -26,10 +26,16 @@ Record recordAt(const char* arena, std::uint64_t offset) noexcept {
   return {{start + kHeader, lengths[0]}, {start + kHeader + lengths[0], lengths[1]}};
 }
 
-// Spreads the low half of the hash, which no slot stores, over a number of slots that need not be
-// a power of two.
-std::size_t homeSlot(std::uint64_t hash, std::uint32_t slotCount) noexcept {
-  return static_cast<std::size_t>(((hash & 0xFFFFFFFF) * slotCount) >> 32);
+// Spreads the half of the hash that a slot stores over a number of slots that need not be a power
+// of two. Both uses of the same bits: neighbours agree in their upper bits, the lower ones still
+// tell all but a few in a million apart.
+std::size_t homeSlot(std::uint64_t slot, std::uint32_t slotCount) noexcept {
+  return static_cast<std::size_t>(((slot >> 32) * slotCount) >> 32);
+}
+
+bool haveOneKey(const char* arena, std::uint64_t a, std::uint64_t b) noexcept {
+  return ((a ^ b) & kHashMask) == 0 &&
+         recordAt(arena, a & ~kHashMask).key == recordAt(arena, b & ~kHashMask).key;
 }
 
 }  // namespace
@@ -75,6 +81,21 @@ std::size_t StringTable::heapBytes() const noexcept {
   return sizeof(StringTable) + arenaSize_ + slotCount_ * sizeof(std::uint64_t);
 }
 
+void StringTable::fillIndex(std::span<const std::uint64_t> records) {
+  slotCount_ = static_cast<std::uint32_t>(
+      std::min<std::size_t>(2 * records.size(), std::numeric_limits<std::uint32_t>::max()));
+  slots_ = std::make_unique_for_overwrite<std::uint64_t[]>(slotCount_);
+  std::fill_n(slots_.get(), slotCount_, kFree);
+  for (const std::uint64_t record : records) {
+    std::size_t at = homeSlot(record, slotCount_);
+    while (slots_[at] != kFree && !haveOneKey(arena_.get(), slots_[at], record)) {
+      at = at + 1 == slotCount_ ? 0 : at + 1;
+    }
+    size_ += slots_[at] == kFree ? 1 : 0;
+    slots_[at] = record;
+  }
+}
+
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
   static_cast<void>(reserve(expectedBytes));
 }
@@ -100,24 +121,31 @@ bool StringTableBuilder::reserve(std::size_t more) {
 }
 
 bool StringTableBuilder::add(std::string_view key, std::string_view value) {
-  if (key.size() > kLargestArena || value.size() > kLargestArena ||
-      !reserve(kHeader + key.size() + value.size())) {
+  if (key.size() > kLargestArena || value.size() > kLargestArena) {
     return false;
   }
-  const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(key.size()),
-                                    static_cast<std::uint32_t>(value.size())};
-  records_.push_back(static_cast<std::uint32_t>(used_));
+  char* start = beginEntry(key.size() + value.size());
+  if (start == nullptr) {
+    return false;
+  }
+  std::copy(key.begin(), key.end(), start);
+  std::copy(value.begin(), value.end(), start + key.size());
+  commitEntry(key.size(), value.size());
+  return true;
+}
+
+void StringTableBuilder::commitEntry(std::size_t keySize, std::size_t valueSize) {
+  const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
+                                    static_cast<std::uint32_t>(valueSize)};
   char* start = arena_ + used_;
   std::memcpy(start, lengths, kHeader);
-  std::copy(key.begin(), key.end(), start + kHeader);
-  std::copy(value.begin(), value.end(), start + kHeader + key.size());
-  used_ += kHeader + key.size() + value.size();
-  return true;
+  slots_.push_back((textHash({start + kHeader, keySize}) & kHashMask) | used_);
+  used_ += kHeader + keySize + valueSize;
 }
 
 std::shared_ptr<const StringTable> StringTableBuilder::build() {
   auto table = std::make_shared<StringTable>();
-  if (records_.empty()) {
+  if (slots_.empty()) {
     return table;
   }
   if (void* exact = std::realloc(arena_, used_)) {
@@ -125,31 +153,9 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   }
   table->arena_ = std::shared_ptr<const char>(
       std::exchange(arena_, nullptr), [](const char* p) { std::free(const_cast<char*>(p)); });
-  table->arenaSize_ = static_cast<std::uint32_t>(used_);
-  table->slotCount_ = static_cast<std::uint32_t>(
-      std::min<std::size_t>(2 * records_.size(), std::numeric_limits<std::uint32_t>::max()));
-  table->slots_ = std::make_unique_for_overwrite<std::uint64_t[]>(table->slotCount_);
-  std::fill_n(table->slots_.get(), table->slotCount_, kFree);
-  for (const std::uint32_t offset : records_) {
-    const Record record = recordAt(table->arena_.get(), offset);
-    const std::uint64_t hash = textHash(record.key);
-    const std::uint64_t slot = (hash & kHashMask) | offset;
-    std::size_t at = homeSlot(hash, table->slotCount_);
-    for (;; at = at + 1 == table->slotCount_ ? 0 : at + 1) {
-      if (table->slots_[at] == kFree) {
-        ++table->size_;
-        break;
-      }
-      if (((table->slots_[at] ^ hash) & kHashMask) == 0 &&
-          recordAt(table->arena_.get(), table->slots_[at] & ~kHashMask).key == record.key) {
-        break;
-      }
-    }
-    table->slots_[at] = slot;
-  }
-  records_.clear();
-  used_ = 0;
+  table->arenaSize_ = static_cast<std::uint32_t>(std::exchange(used_, 0));
   capacity_ = 0;
+  table->fillIndex(std::exchange(slots_, {}));
   return table;
 }
 

@@ -2,8 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
-#include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -49,6 +50,8 @@ class ORVANTA_EXPORT StringTable {
  private:
   friend class StringTableBuilder;
 
+  void fillIndex(std::span<const std::uint64_t> records);
+
   std::shared_ptr<const char> arena_;
   std::unique_ptr<std::uint64_t[]> slots_;
   std::uint32_t slotCount_ = 0;
@@ -68,16 +71,32 @@ class ORVANTA_EXPORT StringTableBuilder {
   /// Adds an entry, or gives false where the table would pass 4 GiB.
   bool add(std::string_view key, std::string_view value);
 
+  /// Room for one entry, into which the caller writes the key and right behind it the value, at
+  /// most `bytes` together. Absent where the table would pass 4 GiB. What was written counts only
+  /// with `commitEntry`; any other call takes the room back.
+  [[nodiscard]] char* beginEntry(std::size_t bytes) {
+    if (bytes > capacity_ - used_ || kHeader > capacity_ - used_ - bytes) {
+      if (bytes > kLargestArena - kHeader || !reserve(kHeader + bytes)) {
+        return nullptr;
+      }
+    }
+    return arena_ + used_ + kHeader;
+  }
+  void commitEntry(std::size_t keySize, std::size_t valueSize);
+
   /// The table; the builder is empty afterwards.
   [[nodiscard]] std::shared_ptr<const StringTable> build();
 
  private:
+  static constexpr std::size_t kHeader = 2 * sizeof(std::uint32_t);
+  static constexpr std::size_t kLargestArena = std::numeric_limits<std::uint32_t>::max();
+
   [[nodiscard]] bool reserve(std::size_t more);
 
   char* arena_ = nullptr;
   std::size_t used_ = 0;
   std::size_t capacity_ = 0;
-  std::vector<std::uint32_t> records_;
+  std::vector<std::uint64_t> slots_;  // As the index holds them, in the order of adding.
 };
 
 }  // namespace orvanta::platform::standard

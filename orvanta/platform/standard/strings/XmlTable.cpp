@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 #include <orvanta/platform/standard/strings/XmlNesting.h>
 #include <orvanta/platform/standard/strings/XmlProblems.h>
@@ -15,6 +17,7 @@ constexpr std::string_view kList = "plist";
 constexpr std::string_view kDictionary = "dict";
 constexpr std::string_view kKey = "key";
 constexpr std::string_view kValue = "string";
+constexpr std::string_view kNoList = "no property list";
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
                                                          "<!--"};
@@ -57,7 +60,7 @@ class XmlTableReader {
   bool enterDictionary() {
     const XmlToken list = nextTag();
     if (!list.opens(kList) || list.selfClosing) {
-      problems_.add(list.offset, "no property list");
+      problems_.add(list.offset, kNoList);
       return false;
     }
     const XmlToken dictionary = nextTag();
@@ -257,7 +260,11 @@ bool looksLikeXmlTable(std::string_view utf8) noexcept {
 bool readXmlTable(std::string_view utf8, StringTableBuilder& table,
                   const ProblemCollector& problems) {
   XmlProblems found(utf8, problems);
-  const bool isTable = XmlTableReader(utf8, table, found).read();
+  const bool isXml = looksLikeXmlTable(utf8);
+  if (!isXml) {
+    found.add(0, kNoList);
+  }
+  const bool isTable = isXml && XmlTableReader(utf8, table, found).read();
   found.handOver();
   return isTable;
 }

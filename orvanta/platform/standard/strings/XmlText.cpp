@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <utility>
 
 #include <orvanta/platform/Utf8.h>
@@ -11,7 +12,7 @@ namespace {
 
 constexpr std::string_view kSpecialInData = "&\r";
 constexpr std::string_view kSpecialInLiteral = "\r";
-constexpr char32_t kBeyondUnicode = 0x110000;
+constexpr std::uint32_t kBeyondUnicode = 0x110000;
 
 constexpr std::array<std::pair<std::string_view, char>, 5> kPredefined = {{
     {"&amp;", '&'},
@@ -33,31 +34,26 @@ void appendLineEnd(std::string& out, std::string_view& rest) {
   rest.remove_prefix(rest.starts_with("\r\n") ? 2 : 1);
 }
 
-int digitValue(char digit) noexcept {
-  if (digit >= '0' && digit <= '9') {
-    return digit - '0';
+constexpr std::uint32_t kNoDigit = 16;
+
+std::uint32_t digitValue(char digit) noexcept {
+  constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
+  const std::size_t found = kDigits.find(digit);
+  if (found == std::string_view::npos) {
+    return kNoDigit;
   }
-  if (digit >= 'a' && digit <= 'f') {
-    return digit - 'a' + 10;
-  }
-  return digit >= 'A' && digit <= 'F' ? digit - 'A' + 10 : -1;
+  return static_cast<std::uint32_t>(found < kNoDigit ? found : found - 6);
 }
 
 // "&#10;" or "&#xA;" at the front of `rest`. What stands for no character, NUL included, gives
 // U+FFFD; so does a reference without digits or without its end, up to where it breaks off.
 void appendNumericReference(std::string& out, std::string_view& rest) {
   const bool hexadecimal = rest.starts_with("&#x");
-  const int base = hexadecimal ? 16 : 10;
+  const std::uint32_t base = hexadecimal ? 16 : 10;
   rest.remove_prefix(hexadecimal ? 3 : 2);
-  char32_t codePoint = 0;
-  while (!rest.empty()) {
-    const int digit = digitValue(rest.front());
-    if (digit < 0 || digit >= base) {
-      break;
-    }
-    codePoint = std::min<char32_t>(
-        codePoint * static_cast<char32_t>(base) + static_cast<char32_t>(digit), kBeyondUnicode);
-    rest.remove_prefix(1);
+  std::uint32_t codePoint = 0;
+  for (; !rest.empty() && digitValue(rest.front()) < base; rest.remove_prefix(1)) {
+    codePoint = std::min(codePoint * base + digitValue(rest.front()), kBeyondUnicode);
   }
   const bool ended = rest.starts_with(';');
   rest.remove_prefix(ended ? 1 : 0);

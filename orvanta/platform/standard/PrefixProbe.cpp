@@ -1,0 +1,273 @@
+// Why an answer of "no" is certain.
+//
+// The prefix consists of letters, digits, "-", "_" and "." alone. Suppose that the table read from
+// the file has a key that begins with it, and look at where the key's first characters come from.
+//
+// 1. Each came from a character of the file that stood for itself, and they stood side by side.
+//    Then the file holds the prefix as such. Every encoding that the reader knows writes it as its
+//    ASCII bytes with 0, 1 or 3 zero bytes between any two (UTF-8; UTF-16 and UTF-32 in either
+//    order; binary property lists: UTF-8 and UTF-16). The probe looks for all three, at any
+//    position. No character that is not ASCII decodes to an ASCII one: what is malformed becomes
+//    U+FFFD.
+// 2. One of them was written as an escape, or something that stands for no character came between.
+//    - In the text form only a backslash and what follows it does so. The escapes for control
+//      characters and quotation marks give characters that the prefix does not hold, and so does
+//      an unknown escape, which gives the character behind the backslash, unless that one is in the
+//      prefix. What is left: "\U", "\u", octal and other digits, "\x", a character of the prefix
+//      that is no known escape, and a line break, which a reader might swallow. The probe says
+//      "yes" to each of them.
+//    - In XML a numeric reference does so; the five named ones give other characters, and any other
+//      reference costs its pair. Comments, processing instructions and CDATA sections may come
+//      between: then a "<" stands right behind a character of the prefix, and it does not begin a
+//      closing tag, which would end the key. The probe says "yes" to both.
+//    - Binary property lists have neither; their texts stand in one piece.
+//
+// Which form a file has the probe leaves to the reader, except where the first bytes settle it: a
+// byte-order mark of UTF-16, "bplist00", and a first character that is not "<", with which no XML
+// begins. Elsewhere the rules of all forms and encodings are applied together: the characters
+// around a backslash, "&" or "<" are then the nearest bytes that are not zero, at most three bytes
+// of zero away. That finds them in all five encodings, and finds others too, which is harmless.
+//
+// A chunk of the file is looked at together with the end of the one before, longer than any of
+// these, so that nothing is missed where two chunks meet.
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <orvanta/platform/standard/PrefixProbe.h>
+#include <orvanta/platform/standard/SampledSearch.h>
+
+namespace orvanta::platform::standard {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::size_t kShortestPrefix = SampledSearch::kShortestPattern;
+constexpr std::size_t kLongestPrefix = 64;
+// Small enough to stay in a core's own cache between being read and being looked at.
+constexpr std::size_t kChunk = std::size_t{64} * 1024;
+constexpr std::size_t kWidestUnit = 4;
+constexpr std::size_t kOverlap = kWidestUnit * kLongestPrefix;
+
+enum class Form { binary, utf16Little, utf16Big, any };
+
+struct FileForm {
+  Form form = Form::any;
+  bool mayBeXml = false;
+};
+
+bool firstCharacterIs(char wanted, std::string_view start) noexcept {
+  // White space, zero bytes, and the bytes of byte-order marks.
+  const auto isPassedOver = [](char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte <= 0x20 || byte == 0xEF || byte == 0xBB || byte == 0xBF || byte >= 0xFE;
+  };
+  const auto first = std::find_if_not(start.begin(), start.end(), isPassedOver);
+  return first == start.end() || *first == wanted;
+}
+
+FileForm formOf(std::string_view start) noexcept {
+  if (start.starts_with("bplist00"sv)) {
+    return {Form::binary, false};
+  }
+  const bool mayBeXml = firstCharacterIs('<', start);
+  if (!mayBeXml && start.starts_with("\xFF\xFE"sv) && !start.starts_with("\xFF\xFE\0\0"sv)) {
+    return {Form::utf16Little, false};
+  }
+  if (!mayBeXml && start.starts_with("\xFE\xFF"sv)) {
+    return {Form::utf16Big, false};
+  }
+  return {Form::any, mayBeXml};
+}
+
+bool canBeProbedFor(char character) noexcept {
+  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+         (character >= '0' && character <= '9') ||
+         "-_."sv.find(character) != std::string_view::npos;
+}
+
+// The prefix with `zeros` zero bytes between any two characters.
+std::string spreadOut(std::string_view prefix, std::size_t zeros) {
+  std::string bytes;
+  for (const char character : prefix) {
+    if (!bytes.empty()) {
+      bytes.append(zeros, '\0');
+    }
+    bytes.push_back(character);
+  }
+  return bytes;
+}
+
+SampledSearch searchFor(std::string_view prefix, Form form) {
+  if (form == Form::utf16Little || form == Form::utf16Big) {
+    return SampledSearch({spreadOut(prefix, 1)});
+  }
+  return SampledSearch({spreadOut(prefix, 0), spreadOut(prefix, 1), spreadOut(prefix, 3)});
+}
+
+// Calls `isFound` with the position of each `byte` in `text` until it says yes.
+template <typename Predicate>
+bool anyOccurrence(std::string_view text, char byte, Predicate isFound) {
+  std::size_t at = text.find(byte);
+  while (at != std::string_view::npos) {
+    if (isFound(at)) {
+      return true;
+    }
+    at = text.find(byte, at + 1);
+  }
+  return false;
+}
+
+char characterBehind(std::string_view text, std::size_t at) noexcept {
+  const std::string_view rest = text.substr(at + 1, kWidestUnit);
+  const std::size_t found = rest.find_first_not_of('\0');
+  return found == std::string_view::npos ? '\0' : rest[found];
+}
+
+char characterBefore(std::string_view text, std::size_t at) noexcept {
+  const std::string_view rest =
+      text.substr(at - std::min(at, kWidestUnit), std::min(at, kWidestUnit));
+  const std::size_t found = rest.find_last_not_of('\0');
+  return found == std::string_view::npos ? '\0' : rest[found];
+}
+
+// The character that a backslash at `at` escapes; NUL where there is no backslash but only one of
+// the two bytes of another character, and for what is not ASCII.
+char escapedInUtf16(std::string_view text, std::size_t at, bool isFirstOfUnit, Form form) noexcept {
+  const auto byteAt = [&](std::size_t index) { return index < text.size() ? text[index] : '\0'; };
+  if (form == Form::utf16Little) {
+    return isFirstOfUnit && byteAt(at + 1) == 0 && byteAt(at + 3) == 0 ? byteAt(at + 2) : '\0';
+  }
+  return !isFirstOfUnit && at > 0 && byteAt(at - 1) == 0 && byteAt(at + 1) == 0 ? byteAt(at + 2)
+                                                                                : '\0';
+}
+
+class CharacterSet {
+ public:
+  void add(std::string_view characters) noexcept {
+    for (const char character : characters) {
+      set_.set(static_cast<unsigned char>(character));
+    }
+  }
+  void remove(std::string_view characters) noexcept {
+    for (const char character : characters) {
+      set_.reset(static_cast<unsigned char>(character));
+    }
+  }
+  [[nodiscard]] bool has(char character) const noexcept {
+    return set_[static_cast<unsigned char>(character)];
+  }
+
+ private:
+  std::bitset<256> set_;
+};
+
+// Looks at the bytes of one file.
+class Probe {
+ public:
+  Probe(std::string_view prefix, const FileForm& form)
+      : form_(form), search_(searchFor(prefix, form.form)) {
+    ofPrefix_.add(prefix);
+    spellingEscapes_.add(prefix);
+    spellingEscapes_.remove("abfnrtv");
+    spellingEscapes_.add("Uux0123456789\n\r");
+  }
+
+  // `offset` is where `bytes` stand in the file.
+  [[nodiscard]] bool mayHoldPrefix(std::string_view bytes, std::size_t offset) const {
+    if (search_.occursIn(bytes)) {
+      return true;
+    }
+    return form_.form != Form::binary &&
+           (holdsSpellingEscape(bytes, offset) || (form_.mayBeXml && holdsSpellingXml(bytes)));
+  }
+
+ private:
+  bool holdsSpellingEscape(std::string_view bytes, std::size_t offset) const {
+    return anyOccurrence(bytes, '\\', [&](std::size_t at) {
+      const bool isFirstOfUnit = (offset + at) % 2 == 0;
+      const char escaped = form_.form == Form::any
+                               ? characterBehind(bytes, at)
+                               : escapedInUtf16(bytes, at, isFirstOfUnit, form_.form);
+      return spellingEscapes_.has(escaped);
+    });
+  }
+
+  bool holdsSpellingXml(std::string_view bytes) const {
+    return anyOccurrence(bytes, '&',
+                         [&](std::size_t at) { return characterBehind(bytes, at) == '#'; }) ||
+           anyOccurrence(bytes, '<', [&](std::size_t at) {
+             return ofPrefix_.has(characterBefore(bytes, at)) && characterBehind(bytes, at) != '/';
+           });
+  }
+
+  FileForm form_;
+  SampledSearch search_;
+  CharacterSet ofPrefix_;
+  CharacterSet spellingEscapes_;
+};
+
+// Reads as much as there is and fits. Absent when reading failed.
+std::optional<std::size_t> fill(ReadableFile& file, std::span<char> buffer) {
+  std::size_t filled = 0;
+  while (filled < buffer.size()) {
+    const auto count = file.read(buffer.subspan(filled));
+    if (!count) {
+      return std::nullopt;
+    }
+    if (*count == 0) {
+      break;
+    }
+    filled += *count;
+  }
+  return filled;
+}
+
+}  // namespace
+
+std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept {
+  if (keys.empty()) {
+    return {};
+  }
+  std::string_view prefix = keys.front().text.substr(0, kLongestPrefix);
+  for (const HashedKey& key : keys) {
+    const auto end = std::mismatch(prefix.begin(), prefix.end(), key.text.begin(), key.text.end());
+    prefix = {prefix.begin(), end.first};
+  }
+  prefix = {prefix.begin(), std::find_if_not(prefix.begin(), prefix.end(), canBeProbedFor)};
+  return prefix.size() < kShortestPrefix ? std::string_view() : prefix;
+}
+
+bool mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
+  const auto buffer = std::make_unique_for_overwrite<char[]>(kOverlap + kChunk);
+  std::optional<Probe> probe;
+  std::size_t kept = 0;
+  std::size_t offset = 0;
+  for (;;) {
+    const auto count = fill(file, {buffer.get() + kept, kChunk});
+    if (!count) {
+      return true;
+    }
+    const std::string_view bytes(buffer.get(), kept + *count);
+    if (!probe) {
+      probe.emplace(prefix, formOf(bytes));
+    }
+    if (probe->mayHoldPrefix(bytes, offset)) {
+      return true;
+    }
+    if (*count < kChunk) {
+      return false;
+    }
+    kept = kOverlap;
+    offset += bytes.size() - kept;
+    std::memmove(buffer.get(), bytes.data() + bytes.size() - kept, kept);
+  }
+}
+
+}  // namespace orvanta::platform::standard

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+#include <orvanta/platform/standard/strings/StringTable.h>
+#include <orvanta/platform/standard/strings/StringTableReader.h>
+#include <orvanta/platform/standard/strings/TextEncoding.h>
+
+namespace orvanta::platform::standard {
+
+/// Adds the statements of a strings file in text form.
+///
+///     /* comment */
+///     "key" = "value with \"escapes\"";   // comment
+///     key = value;
+///     "a key that is its own value";
+///
+/// Damage costs the statement that it hits and is reported. Time is linear in the size of the
+/// text, whatever stands in it.
+///
+/// False, with the reason reported, when this is nothing like a table: no statement could be read
+/// and something was wrong; it begins as markup does; or it begins with something else than a
+/// statement and next to nothing of it is one.
+[[nodiscard]] bool readTextTable(EncodedText text, StringTableBuilder& table,
+                                 const ProblemCollector& problems);
+
+}  // namespace orvanta::platform::standard

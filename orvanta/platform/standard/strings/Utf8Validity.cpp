@@ -1,0 +1,88 @@
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include <orvanta/platform/standard/strings/Utf8Validity.h>
+
+// Every byte is judged by itself and the three before it, without branches, so that the compiler
+// judges a vector of them at once. A block of ASCII is passed over at the cost of looking at it.
+
+namespace orvanta::platform::standard {
+
+namespace {
+
+using Byte = unsigned char;
+
+constexpr std::size_t kBlock = 64;
+constexpr std::size_t kLookBack = 3;
+
+bool isAscii(const Byte* block) noexcept {
+  std::array<std::uint64_t, kBlock / 8> words = {};
+  std::memcpy(words.data(), block, sizeof words);
+  std::uint64_t any = 0;
+  for (const std::uint64_t word : words) {
+    any |= word;
+  }
+  return (any & 0x8080808080808080) == 0;
+}
+
+// Whether a character that began in the three bytes before `block` reaches into it.
+bool isAwaited(const Byte* block) noexcept {
+  return block[-1] >= 0xC0 || block[-2] >= 0xE0 || block[-3] >= 0xF0;
+}
+
+// The three bytes before the block count as valid as far as they go.
+bool isValidBlock(const Byte* block) noexcept {
+  Byte wrong = 0;
+  for (std::ptrdiff_t index = 0; index < static_cast<std::ptrdiff_t>(kBlock); ++index) {
+    const Byte byte = block[index];
+    const Byte before = block[index - 1];
+    const Byte continues = (byte & 0xC0) == 0x80 ? 1 : 0;
+    const Byte awaited = before >= 0xC0 ? 1 : 0;
+    const Byte awaitedThird = block[index - 2] >= 0xE0 ? 1 : 0;
+    const Byte awaitedFourth = block[index - 3] >= 0xF0 ? 1 : 0;
+    const Byte overlong =
+        static_cast<Byte>(static_cast<Byte>((byte & 0xFE) == 0xC0 ? 1 : 0) |
+                          static_cast<Byte>((before == 0xE0 ? 1 : 0) & (byte < 0xA0 ? 1 : 0)) |
+                          static_cast<Byte>((before == 0xF0 ? 1 : 0) & (byte < 0x90 ? 1 : 0)));
+    const Byte surrogate = static_cast<Byte>((before == 0xED ? 1 : 0) & (byte >= 0xA0 ? 1 : 0));
+    const Byte beyond = static_cast<Byte>((byte >= 0xF5 ? 1 : 0) |
+                                          ((before == 0xF4 ? 1 : 0) & (byte >= 0x90 ? 1 : 0)));
+    wrong |= static_cast<Byte>((continues ^ (awaited | awaitedThird | awaitedFourth)) | overlong |
+                               surrogate | beyond);
+  }
+  return wrong == 0;
+}
+
+bool isSound(const Byte* block) noexcept {
+  return isAscii(block) && !isAwaited(block) ? true : isValidBlock(block);
+}
+
+}  // namespace
+
+bool isValidUtf8(std::string_view text) noexcept {
+  const auto* at = reinterpret_cast<const Byte*>(text.data());
+  std::size_t left = text.size();
+  // The first block, which has nothing before it, and the last one, behind which nothing may be
+  // awaited, are judged in a copy between zeros.
+  std::array<Byte, kLookBack + kBlock + kBlock> edge = {};
+  if (left < kBlock) {
+    std::memcpy(edge.data() + kLookBack, at, left);
+    return isValidBlock(edge.data() + kLookBack);
+  }
+  std::memcpy(edge.data() + kLookBack, at, kBlock);
+  if (!isSound(edge.data() + kLookBack)) {
+    return false;
+  }
+  for (at += kBlock, left -= kBlock; left >= kBlock; at += kBlock, left -= kBlock) {
+    if (!isSound(at)) {
+      return false;
+    }
+  }
+  edge.fill(0);
+  std::memcpy(edge.data(), at - kLookBack, kLookBack + left);
+  return isSound(edge.data() + kLookBack);
+}
+
+}  // namespace orvanta::platform::standard
