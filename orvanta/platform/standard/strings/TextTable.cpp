@@ -12,8 +12,10 @@ namespace orvanta::platform::standard {
 namespace {
 
 // Of a text that begins with something else than a statement, one part in this many must be
-// statements, or they are taken to be there by chance.
+// statements, or they are taken to be there by chance. Of what begins as object notation does,
+// which may hold any text between its quotes, more must be.
 constexpr std::size_t kLeastPart = 16;
+constexpr std::size_t kLeastPartOfObjects = 2;
 
 constexpr const char* kNotATable = "this is no strings file";
 
@@ -33,6 +35,20 @@ bool beginsMarkup(std::string_view text) noexcept {
   const char next = text[1];
   return next == '!' || next == '?' || next == '/' || (next >= 'a' && next <= 'z') ||
          (next >= 'A' && next <= 'Z');
+}
+
+// "[" or "{", then a quoted key and a colon.
+bool beginsObjectNotation(std::string_view text, TextScanner& scanner) noexcept {
+  const char* at = scanner.skipIdle(text.data());
+  if (at == scanner.end() || (*at != '{' && *at != '[')) {
+    return false;
+  }
+  if (*at == '[') {
+    return true;
+  }
+  const TextToken key = scanner.readToken(scanner.skipIdle(at + 1));
+  const char* sign = key.found() ? scanner.skipIdle(key.next) : scanner.end();
+  return sign != scanner.end() && *sign == ':';
 }
 
 // Reads a text that is all there, from where `progress` stands.
@@ -79,11 +95,15 @@ class WholeText {
     return true;
   }
 
-  [[nodiscard]] bool isTable() const noexcept {
+  [[nodiscard]] bool isTable() noexcept {
     if (statements_.count() == 0) {
       return !problems_.any() || recovery_.sawOtherValue();
     }
-    return !beginsBadly_ || text_.size() - recovery_.lostBytes() >= text_.size() / kLeastPart;
+    return !beginsBadly_ || text_.size() - recovery_.lostBytes() >= text_.size() / leastPart();
+  }
+
+  [[nodiscard]] std::size_t leastPart() noexcept {
+    return beginsObjectNotation(text_, scanner_) ? kLeastPartOfObjects : kLeastPart;
   }
 
   std::string_view text_;
