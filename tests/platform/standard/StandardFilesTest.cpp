@@ -208,7 +208,7 @@ TEST_F(StandardFiles, RemoveTreesOfAnyDepth) {
 
 TEST_F(StandardFiles, RemoveFoldersOfManyEntries) {
   // More than the system lists at once.
-  for (int number = 0; number < 1500; ++number) {
+  for (int number = 0; number < 1100; ++number) {
     test::writeFile(at("many/file" + std::to_string(number)), "");
   }
   EXPECT_EQ(codeOf(files_->removeItemAtURL(url("many", true))), 0U);
