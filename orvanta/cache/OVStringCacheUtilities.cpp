@@ -12,7 +12,7 @@ using platform::Platform;
 using platform::URL;
 
 URL cacheDirectoryURL() {
-  const URL url = Platform::current().files->cachesDirectoryURL().URLByAppendingPathComponent(
+  URL url = Platform::current().files->cachesDirectoryURL().URLByAppendingPathComponent(
       cacheDirectoryName, true);
   createDirectoryIfNeeded(url);
   return url;

@@ -25,7 +25,7 @@ void postLater(const StringList& adopted, StringList raw) {
 }  // namespace
 
 Localizer& Localizer::sharedLocalizer() {
-  static Localizer* const shared = new Localizer;
+  static auto* const shared = new Localizer;
   return *shared;
 }
 
