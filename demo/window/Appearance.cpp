@@ -46,6 +46,7 @@ void applyAppearance(QApplication& application) {
                  ? QStringLiteral("Noto Sans")
                  : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family());
   font.setPointSizeF(11);
+  font.setHintingPreference(QFont::PreferNoHinting);
   QApplication::setFont(font);
   application.setStyleSheet(QString::fromUtf8(kStyleSheet));
 }

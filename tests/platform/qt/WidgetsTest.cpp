@@ -65,6 +65,7 @@ void checkForm(QWidget& root) {
   QCOMPARE(label->accessibleName(), QStringLiteral("Adresse e-mail"));
   QVERIFY(label->accessibleDescription() != QStringLiteral("signin.email.hint"));
   QVERIFY(label->alignment().testFlag(Qt::AlignBottom));
+  QCOMPARE(label->font().family(), QFont().family());
   QCOMPARE(field->text(), QStringLiteral("nom@exemple.fr"));
   QCOMPARE(button->text(), QStringLiteral("Commander"));
   QCOMPARE(button->titleForState(orvanta::platform::kControlStateDisabled),
@@ -111,6 +112,31 @@ void WidgetsTest::drawsTextOnTheDesignedSide() {
   }
 }
 
+void WidgetsTest::naturalFollowsTheApplication() {
+  UILocalizedLabel label;
+  UILocalizedTextField field;
+  UILocalizedButton button;
+  field.setFrame(false);
+  button.setFlat(true);
+  button.setTitleAlignment(Qt::AlignLeft);
+  const auto checkAll = [&](const char* side) {
+    QCOMPARE(inkSide(label), QString(side));
+    QCOMPARE(inkSide(field), QString(side));
+    QCOMPARE(inkSide(button), QString(side));
+  };
+  const auto prepare = [](auto& widget) {
+    paintBlackOnWhite(widget);
+    widget.setText(QStringLiteral("latin"));
+    widget.awakeFromNib();
+  };
+  prepare(label);
+  prepare(field);
+  prepare(button);
+  checkAll("left");
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  checkAll("right");
+}
+
 void WidgetsTest::givesTheDesignedFontBack() {
   QWidget parent;
   auto* label = new UILocalizedLabel(&parent);
@@ -139,11 +165,12 @@ void WidgetsTest::loadsFormsThreeWays() {
   QVERIFY(loaded != nullptr);
   checkForm(*loaded);
 
+  QVERIFY(speak(QStringLiteral("ar")));
   UILocalizedLabel compiled;
   Ui::Promoted ui;
   ui.setupUi(&compiled);
   orvanta::qt::awakeFromNib(&compiled);
-  // Awakening again must not take the shown texts for keys.
+  // Awakening again must not take the localized look for the designed one.
   orvanta::qt::awakeFromNib(&compiled);
   checkForm(compiled);
 

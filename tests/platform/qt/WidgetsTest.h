@@ -9,6 +9,7 @@ class WidgetsTest : public QObject {
   static void init();
   static void drawsTextOnTheDesignedSide_data();
   static void drawsTextOnTheDesignedSide();
+  static void naturalFollowsTheApplication();
   static void givesTheDesignedFontBack();
   static void loadsFormsThreeWays();
   static void labelsMadeInCodeAreAwake();
