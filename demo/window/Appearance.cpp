@@ -42,9 +42,10 @@ QMenu::item:checked { color: #0e6b62; background: #f1f6f5; }
 
 void applyAppearance(QApplication& application) {
   QApplication::setStyle(QStringLiteral("Fusion"));
-  QFont font(QFontDatabase::hasFamily(QStringLiteral("Noto Sans"))
-                 ? QStringLiteral("Noto Sans")
-                 : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family());
+  // Han letters from a font made for them, not from the first that happens to have a few.
+  QFont font;
+  font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Droid Sans Fallback"),
+                    QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()});
   font.setPointSizeF(11);
   QApplication::setFont(font);
   application.setStyleSheet(QString::fromUtf8(kStyleSheet));

@@ -9,12 +9,14 @@ void awakeFromNib(QWidget* root) {
   if (root == nullptr) {
     return;
   }
-  QList<QWidget*> widgets = root->findChildren<QWidget*>();
-  widgets.prepend(root);
-  for (QWidget* widget : widgets) {
-    if (auto* localized = dynamic_cast<LocalizedWidget*>(widget)) {
-      localized->awakeFromNib();
-    }
+  // A child inherits its parent's font: it takes its designed one before the parent has another.
+  const QList<QWidget*> children =
+      root->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  for (QWidget* child : children) {
+    awakeFromNib(child);
+  }
+  if (auto* localized = dynamic_cast<LocalizedWidget*>(root)) {
+    localized->awakeFromNib();
   }
 }
 

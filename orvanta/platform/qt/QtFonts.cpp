@@ -139,7 +139,7 @@ class QtFonts final : public platform::FontSystem {
     }
     QFont font;
     // Letters that the face lacks are drawn in the system's.
-    font.setFamilies({families.front(), QGuiApplication::font().family()});
+    font.setFamilies(QStringList(families.front()) + QGuiApplication::font().families());
     // Without these Qt takes the face for a regular one, whatever it looks like.
     font.setBold((face->traits & platform::kBoldTrait) != 0);
     font.setItalic((face->traits & platform::kItalicTrait) != 0);

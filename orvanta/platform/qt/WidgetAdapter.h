@@ -58,7 +58,12 @@ class StyleAdapter : public Base {
   using Base::Base;
 
   [[nodiscard]] std::shared_ptr<const platform::Font> font() const override {
-    return fontHandle(this->widget().font());
+    QFont font = this->widget().font();
+    // What is inherited from a parent must not come back as the widget's own.
+    if (!this->widget().testAttribute(Qt::WA_SetFont)) {
+      font.setResolveMask(0);
+    }
+    return fontHandle(font);
   }
   void setFont(const std::shared_ptr<const platform::Font>& font) override {
     this->widget().setFont(toQFont(font));
