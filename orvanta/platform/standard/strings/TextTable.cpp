@@ -41,7 +41,7 @@ class WholeText {
   WholeText(std::string_view text, TextStatements& statements, const ProblemCollector& problems)
       : text_(text),
         statements_(statements),
-        scanner_(text.data() + text.size()),
+        scanner_(text),
         problems_(text.data(), problems),
         recovery_(text, scanner_, statements, problems_) {}
 
@@ -102,7 +102,7 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
   for (;;) {
     const std::string_view lines = window.lines();
     const std::size_t countBefore = statements.count();
-    TextScanner scanner(lines.data() + lines.size());
+    TextScanner scanner(lines);
     const char* stop = statements.read(scanner, lines.data());
     const auto consumed = static_cast<std::size_t>(stop - lines.data());
     if (statements.count() != countBefore) {
