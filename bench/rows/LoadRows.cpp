@@ -173,7 +173,7 @@ void loadRow(Bench& bench, const Loading& loading) {
     bytes += std::filesystem::file_size(application.tableFile(language));
   }
   Row row{.name = loading.name, .operations = tables.size(), .goal = loading.goal};
-  row.amount = Amount{static_cast<double>(bytes / tables.size()) / 1000, "kB"};
+  row.amount = Amount{static_cast<double>(bytes) / static_cast<double>(tables.size()) / 1000, "kB"};
   row.contenders = {loadFloor(folder.path(), tables), loadOurs(application, tables)};
   if (loading.hasPeers) {
     row.contenders.push_back(loadIcu(folder.path() / "icu", tables));
