@@ -52,6 +52,6 @@ add_custom_command(
 add_custom_target(orvanta_resources ALL DEPENDS ${resource_files})
 
 # Whoever builds anything that holds the library wants its resources beside it.
-add_dependencies(orvanta_objects orvanta_resources)
+add_dependencies(orvanta_core_objects orvanta_resources)
 
 install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)

@@ -2,7 +2,6 @@
 #include <utility>
 
 #include <orvanta/controls/LocalizedControl.h>
-#include <orvanta/controls/MainThreadAnchor.h>
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/Platform.h>
@@ -18,16 +17,12 @@ MainQueue& mainQueue() {
   return *Platform::current().mainQueue;
 }
 
-// The first current locale; absent when there is none.
-String currentLocale() {
-  const StringList& locales = Localizer::sharedLocalizer().currentLocales();
-  return locales.empty() ? String() : locales.front();
-}
-
 }  // namespace
 
-LocalizedControl::LocalizedControl(LocaleOnTheWay onTheWay)
-    : anchor_(std::make_shared<MainThreadAnchor>(*this)), onTheWay_(onTheWay) {}
+LocalizedControl::LocalizedControl(std::shared_ptr<void> driven, LocaleOnTheWay onTheWay)
+    : driven_(std::move(driven)),
+      anchor_(std::make_shared<MainThreadAnchor>(*this)),
+      onTheWay_(onTheWay) {}
 
 LocalizedControl::~LocalizedControl() {
   Platform::current().notifications->removeObserver(this);
@@ -36,8 +31,10 @@ LocalizedControl::~LocalizedControl() {
 
 void LocalizedControl::handleOVPreferredLocaleDidChangeNotification(
     const platform::Notification* /*notification*/) {
-  if (!Localizer::sharedLocalizer().currentLocales().empty()) {
-    refreshOnMainThread(currentLocale());
+  // A handle of its own: whoever is called back may change the language.
+  const StringList locales = Localizer::sharedLocalizer().currentLocales();
+  if (!locales.empty()) {
+    refreshOnMainThread(locales.front());
   }
 }
 
@@ -48,6 +45,11 @@ void LocalizedControl::refreshOnMainThread(const String& locale) {
   }
   const String carried = onTheWay_ == LocaleOnTheWay::kept ? locale : String();
   onMainThread([this, &carried] { refresh(carried); });
+}
+
+void LocalizedControl::followLanguage() {
+  takeSteps([&] { handleOVPreferredLocaleDidChangeNotification(nullptr); },
+            [&] { observeLanguageChanges(); });
 }
 
 void LocalizedControl::observeLanguageChanges() {
@@ -62,11 +64,11 @@ void LocalizedControl::observeLanguageChanges() {
           }
           return;
         }
-        const String locale = currentLocale();
-        if (locale.isAbsent()) {
+        const StringList locales = Localizer::sharedLocalizer().currentLocales();
+        if (locales.empty()) {
           return;
         }
-        const String carried = onTheWay == LocaleOnTheWay::kept ? locale : String();
+        const String carried = onTheWay == LocaleOnTheWay::kept ? locales.front() : String();
         mainQueue().performOnMainThreadAndWait([&] {
           if (LocalizedControl* control = anchor->control()) {
             control->refresh(carried);
@@ -106,17 +108,25 @@ String LocalizedControl::localized(const String& key) {
 }
 
 void LocalizedControl::refreshAccessibility(platform::Accessible& control) const {
-  if (!originalAccessibilityLabel_.empty()) {
-    control.setAccessibilityLabel(localized(originalAccessibilityLabel_));
-  }
-  if (!originalAccessibilityHint_.empty()) {
-    control.setAccessibilityHint(localized(originalAccessibilityHint_));
-  }
+  takeSteps(
+      [&] {
+        if (!originalAccessibilityLabel_.empty()) {
+          control.setAccessibilityLabel(localized(originalAccessibilityLabel_));
+        }
+      },
+      [&] {
+        if (!originalAccessibilityHint_.empty()) {
+          control.setAccessibilityHint(localized(originalAccessibilityHint_));
+        }
+      });
 }
 
 void LocalizedControl::refreshStyle(platform::TextStyle& style, const String& locale) const {
-  style.setFont(localizationUtilities::ovFontForLocale(locale, originalFont_));
-  style.setTextAlignment(localizationUtilities::ovAlignmentForLocale(locale, originalAlignment_));
+  takeSteps([&] { style.setFont(localizationUtilities::ovFontForLocale(locale, originalFont_)); },
+            [&] {
+              style.setTextAlignment(
+                  localizationUtilities::ovAlignmentForLocale(locale, originalAlignment_));
+            });
 }
 
 void LocalizedControl::rememberStyle(const platform::TextStyle& style) {

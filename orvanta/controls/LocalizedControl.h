@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include <orvanta/Export.h>
+#include <orvanta/controls/MainThreadAnchor.h>
 #include <orvanta/platform/Controls.h>
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/NotificationCenter.h>
@@ -10,8 +13,6 @@
 #include <orvanta/platform/TextAlignment.h>
 
 namespace orvanta {
-
-class MainThreadAnchor;
 
 /// The pattern that the localized controls share.
 ///
@@ -25,7 +26,8 @@ class MainThreadAnchor;
 ///
 /// Made, used and destroyed on the main thread. A notification may be posted, and a refresh be
 /// called, on any thread: it is carried to the main thread and waited for. A control that has died
-/// by then is not touched.
+/// by then is not touched; one that dies in the middle, because the toolkit's control called the
+/// application, is not touched any more.
 class ORVANTA_EXPORT LocalizedControl {
  public:
   LocalizedControl(const LocalizedControl&) = delete;
@@ -77,7 +79,8 @@ class ORVANTA_EXPORT LocalizedControl {
   /// What becomes of the locale when a refresh is carried to the main thread.
   enum class LocaleOnTheWay { kept, lost };
 
-  explicit LocalizedControl(LocaleOnTheWay onTheWay);
+  /// `driven` is the toolkit's control. It is let go of last, when nothing can reach this any more.
+  LocalizedControl(std::shared_ptr<void> driven, LocaleOnTheWay onTheWay);
 
   /// The refresh itself, on the main thread.
   virtual void refresh(const String& locale) = 0;
@@ -85,8 +88,28 @@ class ORVANTA_EXPORT LocalizedControl {
   /// Refreshes on the main thread, at once when this is it; returns when that is done.
   void refreshOnMainThread(const String& locale);
 
-  /// Registers with the notification centre; once more at every call.
-  void observeLanguageChanges();
+  /// Refreshes once, and registers with the notification centre; once more at every call.
+  void followLanguage();
+
+  /// Keeps what is driven while the toolkit is at work on it, and knows whether the control still
+  /// lives afterwards.
+  class Hold {
+   public:
+    explicit Hold(const LocalizedControl& control)
+        : driven_(control.driven_), anchor_(control.anchor_) {}
+    [[nodiscard]] bool controlLives() const noexcept { return anchor_->control() != nullptr; }
+
+   private:
+    std::shared_ptr<void> driven_;
+    std::shared_ptr<const MainThreadAnchor> anchor_;
+  };
+
+  /// Takes the steps in their order, as long as the control lives.
+  template <typename... Steps>
+  void takeSteps(const Steps&... steps) const {
+    const Hold hold(*this);
+    static_cast<void>(((steps(), hold.controlLives()) && ...));
+  }
 
   /// Runs `step` at a later turn of the main thread, unless the control has died by then.
   void later(std::function<void()> step) const;
@@ -100,7 +123,7 @@ class ORVANTA_EXPORT LocalizedControl {
   /// The text of a key in the current language.
   [[nodiscard]] static String localized(const String& key);
 
-  /// Speaks the remembered keys of label and hint, where they are not empty.
+  /// Speaks the texts of the remembered keys of label and hint, where those are not empty.
   void refreshAccessibility(platform::Accessible& control) const;
 
   /// Draws in the remembered font and alignment as the locale wants them.
@@ -109,6 +132,9 @@ class ORVANTA_EXPORT LocalizedControl {
   void rememberStyle(const platform::TextStyle& style);
 
  private:
+  void observeLanguageChanges();
+
+  std::shared_ptr<void> driven_;
   std::shared_ptr<MainThreadAnchor> anchor_;
   LocaleOnTheWay onTheWay_;
   String originalKey_;

@@ -1,15 +1,10 @@
 #pragma once
 
-#include <memory>
-#include <utility>
-
-#include <orvanta/platform/Platform.h>
-
 namespace orvanta {
 
 class LocalizedControl;
 
-/// What other threads and later turns hold of a control, in place of the control.
+/// What other threads, later turns and steps under way hold of a control, in place of the control.
 ///
 /// A control is touched, and dies, on the main thread alone. Who wants something of it from
 /// elsewhere takes a step to the main thread, and finds there whether the control still lives.

@@ -1,4 +1,4 @@
-#include <utility>
+#include <string_view>
 
 #include <orvanta/controls/DeferredConfiguration.h>
 #include <orvanta/controls/UILocalizedButton.h>
@@ -20,8 +20,8 @@ const UILocalizedButton::ControlStates& defaultStates() {
 
 }  // namespace
 
-UILocalizedButton::UILocalizedButton(std::shared_ptr<platform::Button> button)
-    : LocalizedControl(LocaleOnTheWay::lost), button_(std::move(button)) {}
+UILocalizedButton::UILocalizedButton(const std::shared_ptr<platform::Button>& button)
+    : LocalizedControl(button, LocaleOnTheWay::lost), button_(*button) {}
 
 void UILocalizedButton::awakeFromNib() {
   if (configurationIsDeferred()) {
@@ -32,18 +32,17 @@ void UILocalizedButton::awakeFromNib() {
 }
 
 void UILocalizedButton::configure() {
-  const String title = button_->titleForState(platform::kControlStateNormal);
+  const String title = button_.titleForState(platform::kControlStateNormal);
   if (isKey(title)) {
     setOriginalKey(title);
-    const String spoken = button_->accessibilityLabel();
+    const String spoken = button_.accessibilityLabel();
     if (spoken != kDefaultTitle) {
       setOriginalAccessibilityLabel(spoken);
     }
-    setOriginalAccessibilityHint(button_->accessibilityHint());
+    setOriginalAccessibilityHint(button_.accessibilityHint());
   }
-  rememberStyle(button_->titleLabel());
-  handleOVPreferredLocaleDidChangeNotification(nullptr);
-  observeLanguageChanges();
+  rememberStyle(button_.titleLabel());
+  followLanguage();
 }
 
 const UILocalizedButton::ControlStates& UILocalizedButton::controlStates() {
@@ -57,19 +56,29 @@ void UILocalizedButton::setTitlesFromKey(const String& key) {
   const String title = localized(key);
   // A handle of its own: the application may set another list while it is told of a title.
   const ControlStates states = controlStates();
+  const Hold hold(*this);
   for (const platform::ControlState state : *states) {
-    button_->setTitle(title, state);
+    if (!hold.controlLives()) {
+      return;
+    }
+    button_.setTitle(title, state);
   }
 }
 
 void UILocalizedButton::refresh(const String& locale) {
-  if (!originalKey().empty()) {
-    // Set twice: some toolkits settle a title only when it is set again.
-    setTitlesFromKey(originalKey());
-    setTitlesFromKey(originalKey());
-    refreshAccessibility(*button_);
-  }
-  refreshStyle(button_->titleLabel(), locale);
+  takeSteps(
+      [&] {
+        if (!originalKey().empty()) {
+          refreshStrings();
+        }
+      },
+      [&] { refreshStyle(button_.titleLabel(), locale); });
+}
+
+void UILocalizedButton::refreshStrings() {
+  // Set twice: some toolkits settle a title only when it is set again.
+  takeSteps([&] { setTitlesFromKey(originalKey()); }, [&] { setTitlesFromKey(originalKey()); },
+            [&] { refreshAccessibility(button_); });
 }
 
 }  // namespace orvanta

@@ -22,7 +22,7 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
 
   /// Drives `button`, which must be present. A button made in code localizes itself from
   /// `configure` on.
-  explicit UILocalizedButton(std::shared_ptr<platform::Button> button);
+  explicit UILocalizedButton(const std::shared_ptr<platform::Button>& button);
 
   /// To be called when the button was loaded from a layout and has its designed state: configures
   /// it.
@@ -44,13 +44,15 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
   /// alone; strings are always in the current language.
   void refreshStringsForLocale(const String& locale) { refreshOnMainThread(locale); }
 
-  [[nodiscard]] platform::Button& button() const noexcept { return *button_; }
+  [[nodiscard]] platform::Button& button() const noexcept { return button_; }
 
  protected:
   void refresh(const String& locale) override;
 
  private:
-  std::shared_ptr<platform::Button> button_;
+  void refreshStrings();
+
+  platform::Button& button_;
   ControlStates controlStates_;
 };
 

@@ -1,4 +1,4 @@
-#include <utility>
+#include <string_view>
 
 #include <orvanta/controls/DeferredConfiguration.h>
 #include <orvanta/controls/UILocalizedLabel.h>
@@ -11,16 +11,16 @@ constexpr std::string_view kDefaultText = "Label";
 
 }  // namespace
 
-UILocalizedLabel::UILocalizedLabel(std::shared_ptr<platform::Label> label)
-    : LocalizedControl(LocaleOnTheWay::kept), label_(std::move(label)) {}
+UILocalizedLabel::UILocalizedLabel(const std::shared_ptr<platform::Label>& label)
+    : LocalizedControl(label, LocaleOnTheWay::kept), label_(*label) {}
 
 std::unique_ptr<UILocalizedLabel> UILocalizedLabel::initLocalizedWithFrame(
     const platform::Rect& frame, const LabelMaker& initWithFrame) {
-  std::shared_ptr<platform::Label> label = initWithFrame(frame);
+  const std::shared_ptr<platform::Label> label = initWithFrame ? initWithFrame(frame) : nullptr;
   if (label == nullptr) {
     return nullptr;
   }
-  auto localized = std::make_unique<UILocalizedLabel>(std::move(label));
+  auto localized = std::make_unique<UILocalizedLabel>(label);
   localized->configure();
   return localized;
 }
@@ -34,26 +34,32 @@ void UILocalizedLabel::awakeFromNib() {
 }
 
 void UILocalizedLabel::configure() {
-  rememberStyle(*label_);
-  const String text = label_->text();
+  rememberStyle(label_);
+  const String text = label_.text();
   if (text != kDefaultText && isKey(text)) {
     setOriginalKey(text);
-    const String spoken = label_->accessibilityLabel();
+    const String spoken = label_.accessibilityLabel();
     if (spoken != kDefaultText) {
       setOriginalAccessibilityLabel(spoken);
     }
-    setOriginalAccessibilityHint(label_->accessibilityHint());
+    setOriginalAccessibilityHint(label_.accessibilityHint());
   }
-  handleOVPreferredLocaleDidChangeNotification(nullptr);
-  observeLanguageChanges();
+  followLanguage();
 }
 
 void UILocalizedLabel::refresh(const String& locale) {
-  if (!originalKey().empty()) {
-    label_->setText(localized(originalKey()));
-    refreshAccessibility(*label_);
-  }
-  refreshStyle(*label_, locale);
+  takeSteps(
+      [&] {
+        if (!originalKey().empty()) {
+          refreshStrings();
+        }
+      },
+      [&] { refreshStyle(label_, locale); });
+}
+
+void UILocalizedLabel::refreshStrings() {
+  takeSteps([&] { label_.setText(localized(originalKey())); },
+            [&] { refreshAccessibility(label_); });
 }
 
 }  // namespace orvanta

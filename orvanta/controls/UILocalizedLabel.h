@@ -17,7 +17,7 @@ class ORVANTA_EXPORT UILocalizedLabel : public LocalizedControl {
  public:
   /// Drives `label`, which must be present. Does nothing yet: a label that is neither loaded from a
   /// layout (`awakeFromNib`) nor made by `initLocalizedWithFrame` never localizes itself.
-  explicit UILocalizedLabel(std::shared_ptr<platform::Label> label);
+  explicit UILocalizedLabel(const std::shared_ptr<platform::Label>& label);
 
   /// Makes the toolkit's label with exactly this frame; absent when it has none to give.
   using LabelMaker = std::function<std::shared_ptr<platform::Label>(const platform::Rect& frame)>;
@@ -38,13 +38,15 @@ class ORVANTA_EXPORT UILocalizedLabel : public LocalizedControl {
   /// alone; strings are always in the current language.
   void refreshStringsFromLocale(const String& locale) { refreshOnMainThread(locale); }
 
-  [[nodiscard]] platform::Label& label() const noexcept { return *label_; }
+  [[nodiscard]] platform::Label& label() const noexcept { return label_; }
 
  protected:
   void refresh(const String& locale) override;
 
  private:
-  std::shared_ptr<platform::Label> label_;
+  void refreshStrings();
+
+  platform::Label& label_;
 };
 
 }  // namespace orvanta

@@ -1,4 +1,4 @@
-#include <utility>
+#include <string_view>
 
 #include <orvanta/controls/UILocalizedTextField.h>
 #include <orvanta/locale/SystemInfo.h>
@@ -21,21 +21,19 @@ constexpr PlaceholderMarker kMarkers[] = {
 
 }  // namespace
 
-UILocalizedTextField::UILocalizedTextField(std::shared_ptr<platform::TextField> field)
-    : LocalizedControl(LocaleOnTheWay::kept), field_(std::move(field)) {}
+UILocalizedTextField::UILocalizedTextField(const std::shared_ptr<platform::TextField>& field)
+    : LocalizedControl(field, LocaleOnTheWay::kept), field_(*field) {}
 
 void UILocalizedTextField::awakeFromNib() {
-  const String text = field_->text();
+  const String text = field_.text();
   if (isKey(text)) {
     setOriginalKey(text);
-    setOriginalAccessibilityLabel(field_->accessibilityLabel());
-    setOriginalAccessibilityHint(field_->accessibilityHint());
-    setOriginalPlaceholder(field_->placeholder());
+    setOriginalAccessibilityLabel(field_.accessibilityLabel());
+    setOriginalAccessibilityHint(field_.accessibilityHint());
+    setOriginalPlaceholder(field_.placeholder());
   }
-  rememberStyle(*field_);
-  initializePlaceholder();
-  handleOVPreferredLocaleDidChangeNotification(nullptr);
-  observeLanguageChanges();
+  rememberStyle(field_);
+  takeSteps([&] { initializePlaceholder(); }, [&] { followLanguage(); });
 }
 
 void UILocalizedTextField::initializePlaceholder() {
@@ -50,25 +48,31 @@ void UILocalizedTextField::localizePlaceholder() {
   if (!SystemInfo::isTVOS()) {
     return;
   }
-  const String placeholder = field_->placeholder();
+  const String placeholder = field_.placeholder();
   for (const PlaceholderMarker& marker : kMarkers) {
     if (placeholder == marker.placeholder) {
-      field_->setPlaceholder(localized(String::fromStatic(marker.key)));
+      field_.setPlaceholder(localized(String::fromStatic(marker.key)));
       return;
     }
   }
   // By what the field shows now, which at load time is what was remembered.
   if (!originalPlaceholder_.empty()) {
-    field_->setPlaceholder(localized(placeholder));
+    field_.setPlaceholder(localized(placeholder));
   }
 }
 
 void UILocalizedTextField::refresh(const String& locale) {
-  refreshStyle(*field_, locale);
-  if (!originalKey().empty()) {
-    field_->setText(localized(originalKey()));
-    refreshAccessibility(*field_);
-  }
+  takeSteps([&] { refreshStyle(field_, locale); },
+            [&] {
+              if (!originalKey().empty()) {
+                refreshStrings();
+              }
+            });
+}
+
+void UILocalizedTextField::refreshStrings() {
+  takeSteps([&] { field_.setText(localized(originalKey())); },
+            [&] { refreshAccessibility(field_); });
 }
 
 }  // namespace orvanta

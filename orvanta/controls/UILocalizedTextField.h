@@ -16,7 +16,7 @@ namespace orvanta {
 class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
  public:
   /// Drives `field`, which must be present.
-  explicit UILocalizedTextField(std::shared_ptr<platform::TextField> field);
+  explicit UILocalizedTextField(const std::shared_ptr<platform::TextField>& field);
 
   /// To be called when the field was loaded from a layout and has its designed state: remembers it,
   /// localizes the placeholder, refreshes once, and observes changes of language.
@@ -36,15 +36,16 @@ class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
     originalPlaceholder_ = std::move(placeholder);
   }
 
-  [[nodiscard]] platform::TextField& field() const noexcept { return *field_; }
+  [[nodiscard]] platform::TextField& field() const noexcept { return field_; }
 
  protected:
   void refresh(const String& locale) override;
 
  private:
   void localizePlaceholder();
+  void refreshStrings();
 
-  std::shared_ptr<platform::TextField> field_;
+  platform::TextField& field_;
   String originalPlaceholder_;
 };
 

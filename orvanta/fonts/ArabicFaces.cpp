@@ -28,8 +28,7 @@ FontHandle corbetSansKufiArabicBoldFont() {
 }
 
 FontHandle ArabicFontWithSize(double size, bool bold) {
-  const FontHandle face = bold ? corbetSansKufiArabicBoldFont() : corbetSansKufiArabicFont();
-  return face == nullptr ? nullptr : face->fontWithSize(size);
+  return (bold ? boldFace() : regularFace()).fontWithSize(size);
 }
 
 }  // namespace orvanta::localizationUtilities

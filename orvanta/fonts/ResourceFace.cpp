@@ -48,4 +48,9 @@ FontHandle ResourceFace::font() {
   return font_;
 }
 
+FontHandle ResourceFace::fontWithSize(double size) {
+  const FontHandle face = font();
+  return face == nullptr ? nullptr : derived_.fontWithSize(face, size);
+}
+
 }  // namespace orvanta::localizationUtilities

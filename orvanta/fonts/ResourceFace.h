@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <orvanta/fonts/DerivedFonts.h>
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/platform/String.h>
 
@@ -21,10 +22,14 @@ class ResourceFace {
   /// the next request, as long as the platform has no font of the name.
   [[nodiscard]] FontHandle font();
 
+  /// The face at another size; absent while it is.
+  [[nodiscard]] FontHandle fontWithSize(double size);
+
  private:
   String fileName_;
   String fontName_;
   FontHandle font_;
+  DerivedFonts derived_;
 };
 
 }  // namespace orvanta::localizationUtilities

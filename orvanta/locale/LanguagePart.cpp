@@ -26,8 +26,7 @@ std::string_view languagePart(std::string_view identifier) noexcept {
 }
 
 String languagePart(const String& identifier) {
-  const std::string_view part = languagePart(identifier.view());
-  return part.size() == identifier.size() ? identifier : String(part);
+  return identifier.prefix(languagePart(identifier.view()).size());
 }
 
 }  // namespace orvanta

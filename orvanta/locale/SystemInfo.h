@@ -4,9 +4,12 @@
 
 namespace orvanta::SystemInfo {
 
+// Each build's answers have names of their own, so that parts of both may stand in one program.
 #ifdef ORVANTA_TELEVISION
+inline namespace television {
 inline constexpr bool kTelevision = true;
 #else
+inline namespace handheld {
 inline constexpr bool kTelevision = false;
 #endif
 
@@ -20,6 +23,8 @@ inline constexpr bool kTelevision = false;
 [[nodiscard]] constexpr bool isIOS() noexcept {
   return !kTelevision;
 }
+
+}  // namespace
 
 /// Whether the running system reports at least this version. From any thread.
 [[nodiscard]] inline bool isAtLeastMajorVersion(long major, long minor, long patch) {

@@ -59,6 +59,9 @@ class ORVANTA_EXPORT String {
   [[nodiscard]] std::string_view view() const noexcept { return {text_.get(), size_}; }
   [[nodiscard]] std::string str() const { return std::string(view()); }
 
+  /// The first `count` bytes, at most `size`, as a handle that shares this text's storage.
+  [[nodiscard]] String prefix(std::size_t count) const noexcept { return {text_, count}; }
+
   /// Identity: both handles lead to the same text object. Absent is the same object as absent.
   [[nodiscard]] bool isSameObject(const String& other) const noexcept {
     return text_ == other.text_ && size_ == other.size_;

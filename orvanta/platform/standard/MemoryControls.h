@@ -80,7 +80,13 @@ class MemoryButton : public MemoryAccessible<Button> {
     }
     return title == titles_.end() ? String() : title->second;
   }
-  void setTitle(const String& title, ControlState state) override { titles_[state] = title; }
+  void setTitle(const String& title, ControlState state) override {
+    if (title.isAbsent()) {
+      titles_.erase(state);
+    } else {
+      titles_[state] = title;
+    }
+  }
   [[nodiscard]] TextStyle& titleLabel() override { return titleLabel_; }
   [[nodiscard]] String accessibilityLabel() const override {
     const String label = MemoryAccessible<Button>::accessibilityLabel();

@@ -1,0 +1,165 @@
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/locale/SystemInfo.h>
+
+#include "../controls/DesignedControls.h"
+
+namespace orvanta {
+namespace {
+
+using platform::OperatingSystemVersion;
+using test::Design;
+using test::LocalizedApplication;
+
+platform::Platform withSystem(const OperatingSystemVersion& version) {
+  platform::Platform platform;
+  platform.processInfo = platform::standard::makeProcessInfo(version);
+  return platform;
+}
+
+const Design kDesign = {"title", "spoken", "hint"};
+
+TEST(Television, IsWhatThisBuildIsFor) {
+  EXPECT_TRUE(SystemInfo::isTVOS());
+  EXPECT_FALSE(SystemInfo::isIOS());
+}
+
+template <typename Control>
+class DeferredControls : public testing::Test {};
+using DeferredKinds = testing::Types<test::DesignedLabel, test::DesignedButton>;
+TYPED_TEST_SUITE(DeferredControls, DeferredKinds);
+
+TYPED_TEST(DeferredControls, AreConfiguredLaterBeforeVersion91) {
+  struct Row {
+    OperatingSystemVersion version;
+    bool deferred;
+  };
+  for (const Row& row : {Row{{9, 0, 0}, true}, Row{{9, 0, 9}, true}, Row{{8, 4, 0}, true},
+                         Row{{9, 1, 0}, false}, Row{{9, 1, 1}, false}, Row{{10, 0, 0}, false}}) {
+    const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem(row.version));
+    TypeParam control(kDesign);
+    control.localized->awakeFromNib();
+    EXPECT_EQ(control.diary->take().empty(), row.deferred)
+        << row.version.majorVersion << '.' << row.version.minorVersion;
+    LocalizedApplication::post();
+    EXPECT_EQ(control.diary->take().empty(), row.deferred) << "not even listening";
+    app.loop->runPending();
+    EXPECT_EQ(control.shown(), (Design{"titre", "dit", "indice"}));
+    app.speak({"de"});
+    EXPECT_EQ(control.shown(), (Design{"Titel", "gesagt", "Hinweis"}));
+  }
+}
+
+TYPED_TEST(DeferredControls, TakeTheTextOfThatLaterMoment) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+  TypeParam control({"plain", {}, {}});
+  control.localized->awakeFromNib();
+  control.setText("title");
+  app.loop->runPending();
+  EXPECT_EQ(control.shown().text, "titre");
+}
+
+TYPED_TEST(DeferredControls, AreNotConfiguredOnceTheyHaveDied) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+  TypeParam control(kDesign);
+  control.localized->awakeFromNib();
+  std::weak_ptr<void> watched = control.watched;
+  control.watched.reset();
+  control.localized.reset();
+  EXPECT_TRUE(watched.expired()) << "the step that waits keeps nothing alive";
+  EXPECT_EQ(app.loop->runPending(), 1U);
+  EXPECT_EQ(control.diary->take(), "");
+}
+
+TYPED_TEST(DeferredControls, MayDieWhileTheyAreConfigured) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+  TypeParam control(kDesign);
+  control.localized->awakeFromNib();
+  control.watched.reset();
+  control.diary->afterwards = [&](const std::string& /*entry*/) { control.localized.reset(); };
+  app.loop->runPending();
+  EXPECT_EQ(control.localized, nullptr);
+  control.diary->forget();
+  LocalizedApplication::post();
+  EXPECT_EQ(control.diary->take(), "");
+}
+
+TEST(Deferral, IsForLabelsAndButtonsLoadedFromALayout) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+  test::DesignedTextField field(kDesign);
+  field.localized->awakeFromNib();
+  EXPECT_EQ(field.shown().text, "titre") << "text fields never wait";
+  const auto label = std::make_shared<test::WatchedLabel>();
+  label->setText("title");
+  const auto localized = UILocalizedLabel::initLocalizedWithFrame(
+      {}, [&](const platform::Rect& /*frame*/) { return label; });
+  EXPECT_EQ(label->text(), "titre") << "nor does what is made in code";
+}
+
+struct PlaceholderRow {
+  const char* name;
+  String text;
+  String placeholder;
+  String shown;
+};
+
+TEST(Placeholder, IsLocalizedAtTheLoad) {
+  const PlaceholderRow rows[] = {
+      {"a marker without text", "", "email.p", "courriel"},
+      {"a marker with a key", "title", "email.p", "courriel"},
+      {"a marker with plain text", "plain", "password.p", "mot de passe"},
+      {"a marker in capitals", "", "EMAIL.P", "EMAIL.P"},
+      {"a key with a key", "title", "hint", "indice"},
+      {"a key with plain text", "plain", "hint", "hint"},
+      {"a key without text", "", "hint", "hint"},
+      {"no translation", "title", "plain", "plain"},
+      {"empty", "title", "", ""},
+      {"absent", "title", {}, {}},
+  };
+  for (const PlaceholderRow& row : rows) {
+    const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+    test::DesignedTextField control({row.text, {}, {}});
+    control.watched->setPlaceholder(row.placeholder);
+    control.localized->awakeFromNib();
+    EXPECT_EQ(control.watched->placeholder(), row.shown) << row.name;
+    const bool keyed = row.text == "title";
+    EXPECT_EQ(control.localized->originalPlaceholder(), keyed ? row.placeholder : String())
+        << row.name;
+    app.speak({"de"});
+    EXPECT_EQ(control.watched->placeholder(), row.shown) << row.name << ", later";
+  }
+}
+
+TEST(Placeholder, IsSetBeforeTheRefreshByWhatTheFieldShows) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"});
+  test::DesignedTextField control({"title", {}, {}});
+  control.watched->setPlaceholder("hint");
+  control.diary->forget();
+  control.localized->awakeFromNib();
+  EXPECT_EQ(control.diary->take(),
+            "text spoken hint placeholder font alignment placeholder placeholder=indice "
+            "font=System alignment=0 text=titre");
+  control.watched->setPlaceholder("spoken");
+  control.localized->initializePlaceholder();
+  EXPECT_EQ(control.watched->placeholder(), "dit");
+}
+
+TEST(PlaceholderThread, IsTheMainOne) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"});
+  test::DesignedTextField control({"title", {}, {}});
+  control.localized->awakeFromNib();
+  control.watched->setPlaceholder("email.p");
+  control.diary->forget();
+  std::thread other([&] {
+    control.localized->initializePlaceholder();
+    EXPECT_EQ(control.diary->take(), "placeholder placeholder=courriel") << "before it returns";
+    app.loop->quit();
+  });
+  app.loop->run();
+  other.join();
+}
+
+}  // namespace
+}  // namespace orvanta
