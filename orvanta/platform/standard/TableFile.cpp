@@ -24,10 +24,6 @@ std::optional<FileBytes> readSighted(FileManager& files, const FileSighting& sig
   return sighting.stamp ? readWholeFile(files, sighting.path, sighting.stamp->size) : std::nullopt;
 }
 
-std::uint64_t hashOf(const std::optional<FileBytes>& bytes) {
-  return bytes ? textHash(bytes->view()) : 0;
-}
-
 std::shared_ptr<const StringTable> tableOf(const std::optional<FileBytes>& bytes) {
   static const auto empty = std::make_shared<const StringTable>();
   auto table = bytes ? readStringTable(bytes->view()) : nullptr;
@@ -52,7 +48,7 @@ const StringTable& TableFile::load(const String& path) {
   const std::optional<FileBytes> bytes = readSighted(*files_, sighting_);
   // What could not be read today may be readable tomorrow without having changed.
   sighting_.isSettled = sighting_.isSettled && (bytes || !sighting_.stamp);
-  contentHash_ = sighting_.isSettled ? 0 : hashOf(bytes);
+  contentHash_ = bytes && !sighting_.isSettled ? textHash(bytes->view()) : 0;
   table_ = tableOf(bytes);
   return *table_;
 }
@@ -83,10 +79,11 @@ void TableFile::forget() noexcept {
 }
 
 bool TableFile::stillHolds(const FileSighting& now) const {
-  if (now == sighting_ && !sighting_.isSettled) {
-    return table_ != nullptr && hashOf(readSighted(*files_, now)) == contentHash_;
+  if (now != sighting_ || sighting_.isSettled) {
+    return now == sighting_;
   }
-  return now == sighting_;
+  const auto bytes = table_ == nullptr ? std::nullopt : readSighted(*files_, now);
+  return bytes && textHash(bytes->view()) == contentHash_;
 }
 
 }  // namespace orvanta::platform::standard

@@ -182,6 +182,7 @@ TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
   };
   opening.fail("read");
   EXPECT_EQ(look("fr.lproj"), "k");
+  EXPECT_EQ(look("fr.lproj"), "k");
   opening.fail("openFileForReading");
   EXPECT_EQ(look("de.lproj"), "k");
   opening.fail("none");
