@@ -1,6 +1,9 @@
 #include <atomic>
 #include <deque>
+#include <memory>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include <orvanta/platform/DefaultPlatform.h>
 #include <orvanta/platform/Platform.h>
@@ -22,8 +25,10 @@ std::atomic<const Platform*> installed{nullptr};
 std::mutex installing;
 
 // Platforms are never freed: bundles and memos made from one may be in use until the process ends.
+// Held by a list, so that those which were replaced are not taken for lost memory.
 const Platform* keep(Platform platform) {
-  return new Platform(std::move(platform));
+  static auto& kept = *new std::vector<std::unique_ptr<const Platform>>;
+  return kept.emplace_back(std::make_unique<const Platform>(std::move(platform))).get();
 }
 
 }  // namespace
