@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -16,9 +16,17 @@ namespace fs = std::filesystem;
 
 using Includes = std::map<std::string, std::vector<std::string>>;
 
+// What a line includes; empty when it includes nothing.
+std::string includedBy(const std::string& line) {
+  const std::size_t start = line.find_first_of("<\"");
+  if (!line.starts_with("#include") || start == std::string::npos) {
+    return {};
+  }
+  return line.substr(start + 1, line.find_first_of(">\"", start + 1) - start - 1);
+}
+
 // What each file below orvanta/ includes, paths relative to the source folder.
 Includes includesOfTheLibrary() {
-  static const std::regex kInclude(R"(^\s*#\s*include\s*[<"]([^>"]+)[>"])");
   const fs::path root = ORVANTA_SOURCE_DIR;
   Includes includes;
   for (const auto& entry : fs::recursive_directory_iterator(root / "orvanta")) {
@@ -29,9 +37,8 @@ Includes includesOfTheLibrary() {
     auto& list = includes[fs::relative(entry.path(), root).generic_string()];
     std::ifstream file(entry.path());
     for (std::string line; std::getline(file, line);) {
-      std::smatch match;
-      if (std::regex_search(line, match, kInclude)) {
-        list.push_back(match[1]);
+      if (std::string included = includedBy(line); !included.empty()) {
+        list.push_back(std::move(included));
       }
     }
   }
@@ -77,12 +84,16 @@ TEST(DependencyLaw, IncludesPointDownwards) {
   }
 }
 
+// "QWidget" or "QtCore/...": a capital Q and a capital or a t after it.
+bool isQtHeader(const std::string& header) {
+  return header.size() > 1 && header[0] == 'Q' &&
+         (header[1] == 't' || (header[1] >= 'A' && header[1] <= 'Z'));
+}
+
 TEST(DependencyLaw, OnlyTheQtPlatformIncludesQt) {
-  static const std::regex kQtHeader("^(Q[A-Z][A-Za-z]*|Qt[A-Z][A-Za-z]*/.*)$");
   for (const auto& [file, list] : includesOfTheLibrary()) {
     for (const std::string& included : list) {
-      EXPECT_TRUE(file.starts_with("orvanta/platform/qt/") ||
-                  !std::regex_match(included, kQtHeader))
+      EXPECT_TRUE(file.starts_with("orvanta/platform/qt/") || !isQtHeader(included))
           << file << " includes " << included;
     }
   }

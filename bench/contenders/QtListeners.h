@@ -29,7 +29,6 @@ class Listener : public QObject {
 
   [[nodiscard]] const QString& text() const noexcept { return text_; }
 
- public slots:
   void refresh();
 
  private:

@@ -10,6 +10,6 @@ namespace orvanta::bench {
 using TsvMap = std::unordered_map<std::string, std::string>;
 
 /// Reads a file that `tabSeparated` made.
-[[nodiscard]] TsvMap loadTsv(const std::filesystem::path& file);
+[[nodiscard]] TsvMap loadTsv(const std::filesystem::path& path);
 
 }  // namespace orvanta::bench

@@ -42,6 +42,7 @@ std::string readFile(const fs::path& file) {
 
 void runTool(const std::vector<std::string>& command) {
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& word : command) {
     arguments.push_back(const_cast<char*>(word.c_str()));
   }

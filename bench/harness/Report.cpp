@@ -108,8 +108,9 @@ void Report::printGrowth(std::ostream& out) const {
   for (const auto& [row, measurements] : results_) {
     const Measurement* ours = contenderNamed(measurements, kOurs);
     if (row.amount && ours != nullptr) {
-      out << "| " << row.name << " | " << asCount(row.amount->count) << ' ' << row.amount->unit
-          << " | " << asTime(ours->median) << " | " << asTime(ours->median / row.amount->count)
+      const auto& [count, unit, isShared] = *row.amount;
+      out << "| " << row.name << " | " << asNumber(count, 0) << ' ' << unit << " | "
+          << asTime(ours->median) << " | " << (isShared ? asTime(ours->median / count) : "flat")
           << " |\n";
     }
   }

@@ -28,6 +28,7 @@ struct Contender {
 struct Amount {
   double count;
   std::string_view unit;
+  bool isShared = true;  ///< The cost is expected to be so much for each; else to be flat.
 };
 
 /// One job that several contenders do on the same data.

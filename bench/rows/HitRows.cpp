@@ -33,7 +33,7 @@ class HitApplication {
   [[nodiscard]] Row row(std::string name, double goal) {
     Row row{.name = std::move(name), .operations = table_.size(), .warmUp = true, .goal = goal};
     row.mayAllocate = false;
-    row.amount = Amount{static_cast<double>(table_.size()), "strings"};
+    row.amount = Amount{static_cast<double>(table_.size()), "strings", false};
     row.contenders = {askMap(map_, questions_), askLocalizer(*localizer_, questions_),
                       askLocalizerWithViews(*localizer_, questions_)};
     return row;

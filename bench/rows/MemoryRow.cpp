@@ -50,12 +50,12 @@ double keptBytes(const std::filesystem::path& folder, Load load) {
 
 double keptByOurs(const Application& application, const LoadedTable& loaded) {
   const platform::Platform platform = application.makePlatform("en");
-  const auto bundle = platform.bundles->bundleWithPath(
+  auto bundle = platform.bundles->bundleWithPath(
       String(application.languageFolder(loaded.language).string()));
-  const auto& [key, value] = loaded.table.front();
-  const HashedKey hashed(key);
+  const Entry& first = loaded.table.front();
+  const HashedKey hashed(first.key);
   return keptBytes(application.languageFolder(loaded.language), [&] {
-    expectText(bundle->textForKey(hashed, {}).view(), value, key);
+    expectText(bundle->textForKey(hashed, {}).view(), first.value, first.key);
     return bundle;
   });
 }
@@ -69,10 +69,10 @@ double keptByMap(const std::filesystem::path& folder, const LoadedTable& loaded)
 double keptByQt(const std::filesystem::path& folder, const LoadedTable& loaded) {
   const auto file = folder / (std::string(loaded.language) + ".qm");
   qt::makeTranslations(file, loaded.table);
-  const auto& [key, value] = loaded.table.front();
+  const Entry& first = loaded.table.front();
   return keptBytes(folder, [&] {
     auto translator = qt::open(file);
-    expectText(qt::find(*translator, key.c_str()).toStdString(), value, key);
+    expectText(qt::find(*translator, first.key.c_str()).toStdString(), first.value, first.key);
     return translator;
   });
 }
@@ -80,10 +80,10 @@ double keptByQt(const std::filesystem::path& folder, const LoadedTable& loaded) 
 double keptByIcu(const std::filesystem::path& folder, const LoadedTable& loaded) {
   const std::string locale = icuLocale(loaded.language);
   icu::makeBundle(folder, locale, loaded.table);
-  const auto& [key, value] = loaded.table.front();
+  const Entry& first = loaded.table.front();
   return keptBytes(folder, [&] {
     auto bundle = icu::open(folder, locale.c_str());
-    expectText(icu::utf8(icu::find(bundle.get(), key.c_str())), value, key);
+    expectText(icu::utf8(icu::find(bundle.get(), first.key.c_str())), first.value, first.key);
     return bundle;
   });
 }

@@ -15,7 +15,7 @@ namespace orvanta::bench {
 
 namespace {
 
-constexpr std::size_t kBuffer = 128 * 1024;
+constexpr std::size_t kBuffer = std::size_t{256} * 1024;
 
 Table makeConfiguration(const Language& language) {
   const std::string name(language.name);

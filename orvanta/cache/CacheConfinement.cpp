@@ -52,8 +52,9 @@ String confinedPath(platform::FileManager& files, const platform::URL& file,
   if (!beginsWith(whole, inside)) {
     return {};
   }
-  std::string path;
-  for (std::size_t index = 0; index < whole.size(); ++index) {
+  // The folder's own path as it stands: a ".." in it may come after a link.
+  std::string path = inside.empty() ? std::string() : folderPath.str();
+  for (std::size_t index = inside.size(); index < whole.size(); ++index) {
     if (index > inside.size() && files.itemKindAtPath(path) == platform::ItemKind::symbolicLink) {
       return {};
     }

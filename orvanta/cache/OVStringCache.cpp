@@ -21,9 +21,17 @@ StringList codesOf(const OVLocaleDictionary& languages) {
   std::vector<String> codes;
   codes.reserve(languages.size());
   for (const auto& [key, locale] : languages) {
-    codes.push_back(locale->orvantaLocaleName());
+    if (locale != nullptr) {
+      codes.push_back(locale->orvantaLocaleName());
+    }
   }
   return StringList(codes);
+}
+
+// A dictionary that an application has set may hold a key without a record.
+const OVLocale* localeUnder(std::string_view key, const OVLocaleDictionary& languages) {
+  const auto* locale = languages.find(key);
+  return locale == nullptr ? nullptr : locale->get();
 }
 
 std::string formatted(const String& text) {
@@ -31,8 +39,8 @@ std::string formatted(const String& text) {
 }
 
 std::shared_ptr<Bundle> bundleUnder(std::string_view key, const OVLocaleDictionary& languages) {
-  const auto* locale = languages.find(key);
-  return locale == nullptr ? nullptr : (*locale)->bundle();
+  const OVLocale* locale = localeUnder(key, languages);
+  return locale == nullptr ? nullptr : locale->bundle();
 }
 
 }  // namespace
@@ -128,8 +136,8 @@ std::int32_t OVStringCache::indexOfFirstAvailableCachedLanguage(const StringList
   const OVLocaleDictionary available = availableLanguages();
   std::int32_t position = 0;
   for (const String& language : languages) {
-    if (available.find(cleanedString(language).view()) != nullptr ||
-        available.find(cleanedString(languagePart(language)).view()) != nullptr) {
+    if (localeUnder(cleanedString(language).view(), available) != nullptr ||
+        localeUnder(cleanedString(languagePart(language)).view(), available) != nullptr) {
       return position;
     }
     ++position;
@@ -173,12 +181,15 @@ StringsUpdate OVStringCache::updateLanguage(const String& language, const String
   if (table == nullptr || table->entries().empty()) {
     return {language, StringsUpdate::Result::skipped, {}, "no strings for it in the payload"_s};
   }
-  const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(cacheDirectoryURL(), language);
+  const URL folder = cacheDirectoryURL();
+  const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(folder, language);
   const auto error =
-      writeTable(OVStringCacheUtilities::localizableStringsFile(*table), file, cacheDirectoryURL());
-  return error ? StringsUpdate{language, StringsUpdate::Result::failed, file,
-                               error->localizedDescription}
-               : StringsUpdate{language, StringsUpdate::Result::written, file, {}};
+      writeTable(OVStringCacheUtilities::localizableStringsFile(*table), file, folder);
+  if (!error) {
+    return {language, StringsUpdate::Result::written, file, {}};
+  }
+  return {language, StringsUpdate::Result::failed, file,
+          folder.isAbsent() ? "there is no caches directory"_s : error->localizedDescription};
 }
 
 void OVStringCache::refreshCache() {

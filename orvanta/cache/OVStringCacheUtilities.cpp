@@ -12,7 +12,7 @@ using platform::Platform;
 using platform::URL;
 
 URL cacheDirectoryURL() {
-  const URL url = Platform::current().files->cachesDirectoryURL().URLByAppendingPathComponent(
+  URL url = Platform::current().files->cachesDirectoryURL().URLByAppendingPathComponent(
       cacheDirectoryName, true);
   createDirectoryIfNeeded(url);
   return url;
@@ -72,9 +72,11 @@ String localizableStringsFile(const StringsPayload& table) {
   return text;
 }
 
-void saveLanguageStringForLanguage(const String& text, const String& /*language*/, const URL& file,
-                                   const URL& within) {
-  static_cast<void>(writeTable(text, file, within));
+void saveLanguageStringForLanguage(const String& text, const String& /*language*/,
+                                   const URL& file) {
+  if (text.isPresent()) {
+    static_cast<void>(writeTable(text, file, {}));
+  }
 }
 
 String cleanedString(const String& text) {

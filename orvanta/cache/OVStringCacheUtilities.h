@@ -46,11 +46,11 @@ ORVANTA_EXPORT void clearFilesFromDirectory(const platform::URL& directory);
 [[nodiscard]] ORVANTA_EXPORT String localizableStringsFile(const StringsPayload& table);
 
 /// Writes a table's text to `file` as UTF-16 with a byte-order mark, replacing an earlier table
-/// whole, and logs how that ended. A write that would leave the folder `within`, and text that is
-/// not valid UTF-8, fail and touch nothing. `language` is not used: the URL alone names the file.
-ORVANTA_EXPORT void saveLanguageStringForLanguage(
-    const String& text, const String& language, const platform::URL& file,
-    const platform::URL& within = cacheDirectoryURL());
+/// whole, and logs how that ended. Text that is not valid UTF-8 fails and touches nothing.
+/// `language` is not used: the URL alone names the file, wherever that is. Only
+/// `OVStringCache::updateStrings` holds it against the cache folder.
+ORVANTA_EXPORT void saveLanguageStringForLanguage(const String& text, const String& language,
+                                                  const platform::URL& file);
 
 /// The text in lower case, then without white space and line breaks at both ends.
 [[nodiscard]] ORVANTA_EXPORT String cleanedString(const String& text);

@@ -36,9 +36,10 @@ FileOutcome replaceTable(const String& text, const URL& file, const URL& within)
   if (file.isAbsent()) {
     return FileError{EINVAL, "no URL can hold this language's name"_s};
   }
-  const String path = confinedPath(files, file, within);
+  const String path = within.isAbsent() ? file.path() : confinedPath(files, file, within);
   if (path.isAbsent()) {
-    return FileError{EPERM, "the file would not be inside the cache folder"_s};
+    return within.isAbsent() ? FileError{EINVAL, "the URL is not that of a file"_s}
+                             : FileError{EPERM, "the file would not be inside the cache folder"_s};
   }
   if (!utf8::isValid(text.view())) {
     return FileError{EILSEQ, "the table is not valid UTF-8"_s};

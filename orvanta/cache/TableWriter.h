@@ -13,7 +13,8 @@ namespace orvanta {
 [[nodiscard]] std::string utf16WithByteOrderMark(std::string_view utf8);
 
 /// Writes a table's text to `file`, making its folder, and logs how that ended. Fails, and touches
-/// nothing, when the text is not valid UTF-8 or the file is not inside the folder `within`.
+/// nothing, when the text is not valid UTF-8 or the file is not inside the folder `within`; an
+/// absent folder confines nothing.
 [[nodiscard]] platform::FileOutcome writeTable(const String& text, const platform::URL& file,
                                                const platform::URL& within);
 

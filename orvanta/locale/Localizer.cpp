@@ -13,8 +13,8 @@ using platform::Platform;
 namespace {
 
 // Holds its two lists itself, so that what is posted is not touched by later changes.
-void postLater(const StringList& adopted, const StringList& raw) {
-  Platform::current().mainQueue->dispatchAsync([adopted, raw] {
+void postLater(const StringList& adopted, StringList raw) {
+  Platform::current().mainQueue->dispatchAsync([adopted, raw = std::move(raw)] {
     Platform::current().notifications->postNotification(
         {String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
          Dictionary<StringList>{{String::fromStatic(OVPreferredLocaleKey), adopted},
@@ -25,7 +25,7 @@ void postLater(const StringList& adopted, const StringList& raw) {
 }  // namespace
 
 Localizer& Localizer::sharedLocalizer() {
-  static Localizer* const shared = new Localizer;
+  static auto* const shared = new Localizer;
   return *shared;
 }
 
@@ -36,16 +36,15 @@ Localizer::Localizer() : mainBundle_(Platform::current().bundles->mainBundle()) 
 Localizer::~Localizer() = default;
 
 void Localizer::useDefaultLocale() {
-  // A device list that is empty, like one that matches nothing, asks for nothing in particular.
-  const StringList ranked = mainBundle_->preferredLocalizations();
-  StringList requested = ranked.empty() ? StringList() : availableLocalesFromArray(ranked);
-  if (requested.isAbsent()) {
-    requested = StringList::emptyList();
-  }
-  StringList matched = availableLocalesFromArray(requested);
+  const StringList ranked =
+      mainBundle_ == nullptr ? StringList() : mainBundle_->preferredLocalizations();
+  StringList requested = availableLocalesFromArray(ranked);
+  StringList matched = requested.empty() ? StringList() : availableLocalesFromArray(requested);
   if (matched.empty()) {
-    // What matched once matches again, unless an application's own fallback table leads on from it.
-    matched = availableLocalesFromArray({});
+    // Nothing suits the device, or it asks for nothing and there is no English, or an application's
+    // own fallback table leads on from what it led to: English unchecked, once and for all.
+    requested = StringList::emptyList();
+    matched = availableLocalesFromArray(requested);
   }
   adopt(matched, requested);
 }
@@ -59,11 +58,11 @@ void Localizer::changeOrvantaLanguageToPreferredLocales(const StringList& reques
   }
 }
 
-void Localizer::adopt(const StringList& matched, const StringList& raw) {
+void Localizer::adopt(const StringList& matched, StringList raw) {
   currentLanguageBundle_ = languageBundleForLocale(matched.front());
   preferredLocales_ = matched;
   rightToLeftOrientation_ = rightToLeftOrientationForLocale(matched.front());
-  postLater(matched, raw);
+  postLater(matched, std::move(raw));
 }
 
 void Localizer::updatePreferredLocales(const StringList& languages, const String& country) {
@@ -75,24 +74,31 @@ void Localizer::updatePreferredLocales(const StringList& languages, const String
 }
 
 String Localizer::localizedStringForKey(const String& key) {
-  const String text = key.isAbsent() ? String() : textInCurrentLanguageOrEnglish(key.view());
-  return text.isPresent() || currentLanguageBundle_ == nullptr ? text : key;
+  if (!hasBundleForLookUp() || key.isAbsent()) {
+    return {};
+  }
+  String text = textInCurrentLanguageOrEnglish(key.view());
+  return text.isPresent() ? text : key;
 }
 
 String Localizer::localizedStringForKey(std::string_view key) {
+  if (!hasBundleForLookUp()) {
+    return {};
+  }
   String text = textInCurrentLanguageOrEnglish(key);
-  return text.isPresent() || currentLanguageBundle_ == nullptr ? text : String(key);
+  return text.isPresent() ? text : String(key);
 }
 
-String Localizer::textInCurrentLanguageOrEnglish(std::string_view key) {
+bool Localizer::hasBundleForLookUp() {
   if (currentLanguageBundle_ == nullptr) {
     useDefaultLocale();
   }
+  return currentLanguageBundle_ != nullptr;
+}
+
+String Localizer::textInCurrentLanguageOrEnglish(std::string_view key) {
   // Read whether or not the current language has the text: the first look-up settles the memo.
   const Bundle* english = defaultLocaleBundle();
-  if (currentLanguageBundle_ == nullptr) {
-    return {};
-  }
   const HashedKey hashed(key);
   String text = currentLanguageBundle_->textForKey(hashed, {});
   if (text.isPresent() || english == currentLanguageBundle_.get() || english == nullptr) {

@@ -166,7 +166,8 @@ class ORVANTA_EXPORT Localizer {
   void setMainBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
   /// The English bundle, remembered once it was found and from then on never looked for again.
-  /// Not owned: the bundle registry keeps it for the life of the process. Null while there is none.
+  /// Not owned: the bundle registry keeps its bundles for the life of the process; one that comes
+  /// from elsewhere must live as long as this localizer. Null while there is none.
   [[nodiscard]] platform::Bundle* defaultLocaleBundle();
   void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
 
@@ -180,7 +181,11 @@ class ORVANTA_EXPORT Localizer {
 
  private:
   // Stores what was matched and posts it later with what was asked for. `matched` is not empty.
-  void adopt(const StringList& matched, const StringList& raw);
+  // By value, because the caller's list may be `preferredLocales_` itself.
+  void adopt(const StringList& matched, StringList raw);
+  // Goes back to the device's choice when there is no current bundle; false when that has none.
+  [[nodiscard]] bool hasBundleForLookUp();
+  // Absent when neither has one. There must be a current bundle.
   [[nodiscard]] String textInCurrentLanguageOrEnglish(std::string_view key);
 
   bool rightToLeftOrientation_ = false;

@@ -57,7 +57,7 @@ String stringByDeletingPathExtension(const String& text) {
   if (dot == std::string_view::npos || dot <= start || dot + 1 == whole.size()) {
     return whole.size() == text.size() ? text : String(whole);
   }
-  return String(whole.substr(0, dot));
+  return {whole.substr(0, dot)};
 }
 
 String stringByAppendingPathComponent(const String& folder, std::string_view component) {

@@ -39,7 +39,9 @@ class ORVANTA_EXPORT StringList {
   [[nodiscard]] const String* begin() const noexcept { return items_.get(); }
   [[nodiscard]] const String* end() const noexcept { return items_.get() + size_; }
   /// `index` must be below `size`.
-  [[nodiscard]] const String& operator[](std::size_t index) const noexcept { return items_[index]; }
+  [[nodiscard]] const String& operator[](std::size_t index) const noexcept {
+    return items_.get()[index];
+  }
   /// The list must not be empty.
   [[nodiscard]] const String& front() const noexcept { return items_[0]; }
 

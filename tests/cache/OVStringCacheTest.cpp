@@ -57,6 +57,11 @@ TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
   EXPECT_TRUE(first.isSameObject(cache.availableLanguages()));
   cache.setAvailableLanguages(OVLocaleDictionary(OVLocaleDictionary::Map()));
   EXPECT_TRUE(cache.availableLanguages().empty());
+  cache.setAvailableLanguages({{"en", nullptr}});
+  EXPECT_EQ(cache.bundleForLanguage("en-GB"), nullptr) << "a key without a record";
+  EXPECT_EQ(cache.indexOfFirstAvailableCachedLanguage({"en"}), OVLocaleNotAvailable);
+  EXPECT_TRUE(cache.localizedStringForKey("k", "en").isAbsent());
+  EXPECT_TRUE(cache.availableLanguageCodes().empty());
   cache.setAvailableLanguages({});
   EXPECT_THAT(keysOf(cache.availableLanguages()), UnorderedElementsAre("en"));
   cache.setAvailableLanguageCodes({"never", "read"});

@@ -41,6 +41,21 @@ TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
             std::string("\xFF\xFE\xE9\x00\x28\x06\x22\x6F\x3D\xD8\x00\xDE", 12));
 }
 
+TEST(StringsFile, IsSavedWhereItsURLSays) {
+  TestApplication app;
+  const auto file = app.caches() / "anywhere" / "x y.strings";
+  const auto url = platform::URL::fileURLWithPath(file.string(), false);
+  OVStringCacheUtilities::saveLanguageStringForLanguage("text", "not used", url);
+  EXPECT_EQ(contentsOf(file), utf16("text"));
+  OVStringCacheUtilities::saveLanguageStringForLanguage({}, "fr", url);
+  EXPECT_EQ(contentsOf(file), utf16("text")) << "absent text is no empty text";
+  EXPECT_EQ(app.log,
+            std::vector<std::string>({"file " + url.absoluteString().str() + " written to cache"}));
+  OVStringCacheUtilities::saveLanguageStringForLanguage(
+      "text", "fr", platform::URL::URLWithString("https://host/x.strings"));
+  EXPECT_EQ(app.log.back(), "error saving strings file https://host/x.strings");
+}
+
 TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
   TestApplication app(test::Languages{{"en", {}}});
   OVStringCache cache;
@@ -158,6 +173,14 @@ TEST(CacheUpdate, FollowsTheFolderThatIsSet) {
   cache.updateStrings(payloadOf({{"fr", {{"k", "v"}}}}), "main", "app");
   EXPECT_EQ(test::tablesBelow(elsewhere), 1U);
   EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
+
+  std::filesystem::create_directories(app.caches() / "deep" / "inner");
+  std::filesystem::create_directory_symlink("deep/inner", app.caches() / "link");
+  const auto behindLink = app.caches() / "link" / ".." / "tables";
+  cache.setCacheDirectoryURL(platform::URL::fileURLWithPath(behindLink.string(), true));
+  cache.updateStrings(payloadOf({{"de", {{"k", "v"}}}}), "main", "app");
+  EXPECT_EQ(test::tablesBelow(app.caches() / "deep" / "tables"), 1U);
+  EXPECT_EQ(cache.localizedStringForKey("k", "de"), "v");
 }
 
 }  // namespace

@@ -108,6 +108,29 @@ TEST(Localizer, PostsOnceForEachChange) {
       << "each posting carries its own change";
 }
 
+TEST(Localizer, TellsWhatWasAskedForWhenThatIsItsOwnList) {
+  TestApplication app(test::Languages{{"en", {}}});
+  Localizer localizer;
+  Listener listener(app);
+  listener.hear();
+  const StringList own = {"xx", "en"};
+  localizer.setPreferredLocales(own);
+  localizer.changeOrvantaLanguageToPreferredLocales(localizer.preferredLocales());
+  EXPECT_EQ(listener.hear(), Heard({{{"en"}, own}}));
+}
+
+TEST(Localizer, AsksForEnglishWhereTheDeviceAsksForNothing) {
+  TestApplication app({}, {});
+  app.download("en", {{"k", "english"}});
+  Localizer localizer;
+  Listener listener(app);
+  EXPECT_EQ(listener.hear(), Heard({{{"en"}, {"en"}}}));
+  localizer.setMainBundle(nullptr);
+  localizer.changeOrvantaLanguageToPreferredLocales({"xx", ""});
+  EXPECT_EQ(listener.hear(), Heard({{{"en"}, {"en"}}})) << "an absent bundle ranks nothing";
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "english");
+}
+
 TEST(Localizer, UpdatesFromAnAbsentList) {
   TestApplication app(test::Languages{{"en", {}}});
   Localizer localizer;
@@ -145,7 +168,7 @@ TEST(Localizer, WithoutAnyBundleAsksAgainAtEveryLookUp) {
   EXPECT_EQ(localizer.preferredLocales(), StringList({"en"}));
   EXPECT_EQ(localizer.currentLanguageBundle(), nullptr);
   EXPECT_TRUE(localizer.localizedStringForKey("key").isAbsent());
-  EXPECT_TRUE(localizer.localizedStringForKey("key").isAbsent());
+  EXPECT_TRUE(localizer.localizedStringForKey(String()).isAbsent());
   EXPECT_EQ(listener.hear().size(), 2U);
   app.ship("en", {{"key", "found"}});
   localizer.stringCache().refreshCache();

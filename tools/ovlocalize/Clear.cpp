@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include <orvanta/cache/OVStringCache.h>
 
 #include "Commands.h"
@@ -5,8 +7,21 @@
 namespace ovlocalize {
 
 int clear(const Settings& settings) {
-  installPlatform(settings);
-  orvanta::OVStringCache().clearCache();
+  Settings listening = settings;
+  std::string problem;
+  listening.logSink = [&](std::string_view line) { problem = line; };
+  installPlatform(listening);
+  orvanta::OVStringCache cache;
+  cache.clearCache();
+  const std::string folder = cache.cacheDirectoryURL().path().str();
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(folder, ignored)) {
+    throw Failure(folder.empty() ? "there is no caches directory"
+                                 : "there is no cache folder, and none can be made: " + folder);
+  }
+  if (!problem.empty()) {
+    throw Failure("not everything could be deleted from " + folder + ": " + problem);
+  }
   return 0;
 }
 

@@ -76,11 +76,11 @@ int dump(const Settings& settings, const Source& source) {
   const std::string file = fileOf(settings, source);
   const auto table = orvanta::platform::standard::readStringTable(
       contentsOf(file), [&](const TableProblem& problem) {
-        std::cerr << file << ':' << problem.line << ':' << problem.column << ": " << problem.message
-                  << '\n';
+        std::cerr << nameOf(file) << ':' << problem.line << ':' << problem.column << ": "
+                  << problem.message << '\n';
       });
   if (table == nullptr) {
-    throw Failure(file + " holds nothing like a table of strings");
+    throw Failure(nameOf(file) + " holds nothing like a table of strings");
   }
   settings.json ? printForMachines(*table) : printForPeople(*table);
   return 0;

@@ -9,6 +9,10 @@
 
 namespace ovlocalize {
 
+std::string nameOf(const std::string& file) {
+  return file == "-" ? "standard input" : file;
+}
+
 std::string contentsOf(const std::string& file) {
   if (file == "-") {
     return {std::istreambuf_iterator<char>(std::cin), {}};

@@ -12,15 +12,25 @@ namespace {
 
 using orvanta::StringsUpdate;
 
+// Without the library's own "[json.exception.parse_error.101] ".
+std::string_view reasonOf(const Json::exception& error) {
+  constexpr std::string_view kEndOfNumber = "] ";
+  const std::string_view message = error.what();
+  const std::size_t end = message.find(kEndOfNumber);
+  return message.starts_with('[') && end != std::string_view::npos
+             ? message.substr(end + kEndOfNumber.size())
+             : message;
+}
+
 Json parse(const std::string& file) {
   Json json;
   try {
     json = Json::parse(contentsOf(file));
   } catch (const Json::exception& error) {
-    throw Failure(file + " is no JSON: " + error.what());
+    throw Failure(nameOf(file) + " is no JSON: " + std::string(reasonOf(error)));
   }
   if (!json.is_object()) {
-    throw Failure(file + " is no JSON object from language to payload");
+    throw Failure(nameOf(file) + " is no JSON object from language to payload");
   }
   return json;
 }

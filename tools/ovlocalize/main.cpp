@@ -21,7 +21,12 @@ constexpr const char* kFooter =
     "  ovlocalize --bundle demo/bundle --device ar lookup signin.title\n"
     "\n"
     "Ends with 0 when the question was answered, whatever the answer; with 1 and one line on\n"
-    "standard error when it could not be.";
+    "standard error when it could not be; with 2 and such a line when it was not understood.";
+
+// What an unset shell variable gives must not stand for the default: that may be another cache.
+std::string refuseEmpty(const std::string& word) {
+  return word.empty() ? "must not be empty" : "";
+}
 
 void addRequestCountry(CLI::App& command, Request& request) {
   command
@@ -43,10 +48,12 @@ int run(int argc, char** argv) {
   app.add_option("--bundle", settings.bundle,
                  "The application's main bundle: the folder that holds its .lproj folders\n"
                  "(default: the folder of this command)")
+      ->check(refuseEmpty)
       ->type_name("DIR");
   app.add_option("--cache", settings.cache,
                  "The caches directory that holds, or will hold, OrvantaLocalizations\n"
                  "(default: this command's own folder in $XDG_CACHE_HOME or ~/.cache)")
+      ->check(refuseEmpty)
       ->type_name("DIR");
   const CLI::Option* device =
       app.add_option("--device", devices,
@@ -126,9 +133,14 @@ int run(int argc, char** argv) {
     return 2;
   }
   if (device->count() > 0) {
+    std::erase(devices, "");
     settings.devices = devices;
   }
-  return chosen();
+  const int status = chosen();
+  if (!std::cout.flush()) {
+    throw ovlocalize::Failure("the answer could not be written");
+  }
+  return status;
 }
 
 }  // namespace

@@ -9,11 +9,12 @@ namespace orvanta::platform::standard {
 
 namespace {
 
+constexpr std::align_val_t kAlignment{64};
 constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
 
 // False when there is no memory for it.
 bool enlarge(FileBytes& bytes, std::size_t capacity) {
-  std::unique_ptr<char[]> larger(new (std::nothrow) char[capacity]);
+  AlignedBytes larger = allocateAligned(capacity);
   if (larger == nullptr) {
     return false;
   }
@@ -23,6 +24,14 @@ bool enlarge(FileBytes& bytes, std::size_t capacity) {
 }
 
 }  // namespace
+
+void AlignedDelete::operator()(char* bytes) const noexcept {
+  ::operator delete[](bytes, kAlignment);
+}
+
+AlignedBytes allocateAligned(std::size_t size) noexcept {
+  return AlignedBytes(static_cast<char*>(::operator new[](size, kAlignment, std::nothrow)));
+}
 
 std::optional<FileBytes> readWholeFile(FileManager& files, const String& path,
                                        std::uint64_t expectedSize) {

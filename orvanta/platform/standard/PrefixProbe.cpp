@@ -22,11 +22,13 @@
 //      closing tag, which would end the key. The probe says "yes" to both.
 //    - Binary property lists have neither; their texts stand in one piece.
 //
-// Which form a file has the probe leaves to the reader, except where the first bytes settle it: a
-// byte-order mark of UTF-16, "bplist00", and a first character that is not "<", with which no XML
-// begins. Elsewhere the rules of all forms and encodings are applied together: the characters
-// around a backslash, "&" or "<" are then the nearest bytes that are not zero, at most three bytes
-// of zero away. That finds them in all five encodings, and finds others too, which is harmless.
+// Which form and encoding a file has the probe leaves to the reader, except where the beginning
+// settles it: "bplist00"; a byte-order mark of UTF-16; a first chunk without any zero byte and
+// without such a mark, which the reader takes for UTF-8; a first character that is not "<", with
+// which no XML begins. Elsewhere the rules of all forms and encodings are applied together: the
+// characters around a backslash, "&" or "<" are then the nearest bytes that are not zero, at most
+// three bytes of zero away. That finds them in all five encodings, and finds others too, which is
+// harmless.
 //
 // A chunk of the file is looked at together with the end of the one before, longer than any of
 // these, so that nothing is missed where two chunks meet.
@@ -34,11 +36,13 @@
 #include <array>
 #include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include <orvanta/platform/standard/FileBytes.h>
 #include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/SampledSearch.h>
 
@@ -50,12 +54,13 @@ using namespace std::string_view_literals;
 
 constexpr std::size_t kShortestPrefix = SampledSearch::kShortestPattern;
 constexpr std::size_t kLongestPrefix = 64;
-// Small enough to stay in a core's own cache between being read and being looked at.
-constexpr std::size_t kChunk = std::size_t{64} * 1024;
+// Large enough for few calls of the system, small enough to stay in a core's own cache between
+// being read and being looked at.
+constexpr std::size_t kChunk = std::size_t{256} * 1024;
 constexpr std::size_t kWidestUnit = 4;
 constexpr std::size_t kOverlap = kWidestUnit * kLongestPrefix;
 
-enum class Form { binary, utf16Little, utf16Big, any };
+enum class Form { binary, utf8, utf16Little, utf16Big, any };
 
 struct FileForm {
   Form form = Form::any;
@@ -77,13 +82,15 @@ FileForm formOf(std::string_view start) noexcept {
     return {Form::binary, false};
   }
   const bool mayBeXml = firstCharacterIs('<', start);
-  if (!mayBeXml && start.starts_with("\xFF\xFE"sv) && !start.starts_with("\xFF\xFE\0\0"sv)) {
-    return {Form::utf16Little, false};
+  const bool isLittle = start.starts_with("\xFF\xFE"sv);
+  const bool isBig = start.starts_with("\xFE\xFF"sv);
+  if (!isLittle && !isBig) {
+    return {start.find('\0') == std::string_view::npos ? Form::utf8 : Form::any, mayBeXml};
   }
-  if (!mayBeXml && start.starts_with("\xFE\xFF"sv)) {
-    return {Form::utf16Big, false};
+  if (mayBeXml || start.starts_with("\xFF\xFE\0\0"sv)) {
+    return {Form::any, mayBeXml};
   }
-  return {Form::any, mayBeXml};
+  return {isLittle ? Form::utf16Little : Form::utf16Big, false};
 }
 
 bool canBeProbedFor(char character) noexcept {
@@ -105,8 +112,15 @@ std::string spreadOut(std::string_view prefix, std::size_t zeros) {
 }
 
 SampledSearch searchFor(std::string_view prefix, Form form) {
-  if (form == Form::utf16Little || form == Form::utf16Big) {
-    return SampledSearch({spreadOut(prefix, 1)});
+  switch (form) {
+    case Form::utf8:
+      return SampledSearch({spreadOut(prefix, 0)});
+    case Form::utf16Little:
+    case Form::utf16Big:
+      return SampledSearch({spreadOut(prefix, 1)});
+    case Form::binary:
+    case Form::any:
+      break;
   }
   return SampledSearch({spreadOut(prefix, 0), spreadOut(prefix, 1), spreadOut(prefix, 3)});
 }
@@ -137,15 +151,31 @@ char characterBefore(std::string_view text, std::size_t at) noexcept {
   return found == std::string_view::npos ? '\0' : rest[found];
 }
 
-// The character that a backslash at `at` escapes; NUL where there is no backslash but only one of
-// the two bytes of another character, and for what is not ASCII.
-char escapedInUtf16(std::string_view text, std::size_t at, bool isFirstOfUnit, Form form) noexcept {
-  const auto byteAt = [&](std::size_t index) { return index < text.size() ? text[index] : '\0'; };
-  if (form == Form::utf16Little) {
-    return isFirstOfUnit && byteAt(at + 1) == 0 && byteAt(at + 3) == 0 ? byteAt(at + 2) : '\0';
+// One character of UTF-16 as it stands in the file.
+using Unit = std::uint16_t;
+constexpr std::size_t kUnitSize = sizeof(Unit);
+
+Unit unitOf(char character, Form form) noexcept {
+  const std::array<char, kUnitSize> little = {character, '\0'};
+  const std::array<char, kUnitSize> big = {'\0', character};
+  Unit unit = 0;
+  std::memcpy(&unit, form == Form::utf16Little ? little.data() : big.data(), kUnitSize);
+  return unit;
+}
+
+Unit unitAt(std::string_view units, std::size_t index) noexcept {
+  Unit unit = 0;
+  std::memcpy(&unit, units.data() + index * kUnitSize, kUnitSize);
+  return unit;
+}
+
+// Written so that compilers turn it into vector instructions.
+bool holdsUnit(std::string_view units, Unit wanted) noexcept {
+  Unit found = 0;
+  for (std::size_t index = 0; index < units.size() / kUnitSize; ++index) {
+    found = static_cast<Unit>(found | (unitAt(units, index) == wanted ? 1U : 0U));
   }
-  return !isFirstOfUnit && at > 0 && byteAt(at - 1) == 0 && byteAt(at + 1) == 0 ? byteAt(at + 2)
-                                                                                : '\0';
+  return found != 0;
 }
 
 class CharacterSet {
@@ -190,13 +220,41 @@ class Probe {
 
  private:
   bool holdsSpellingEscape(std::string_view bytes, std::size_t offset) const {
+    if (form_.form == Form::utf16Little || form_.form == Form::utf16Big) {
+      return holdsSpellingEscapeInUtf16(bytes.substr(std::min(offset % kUnitSize, bytes.size())));
+    }
     return anyOccurrence(bytes, '\\', [&](std::size_t at) {
-      const bool isFirstOfUnit = (offset + at) % 2 == 0;
-      const char escaped = form_.form == Form::any
-                               ? characterBehind(bytes, at)
-                               : escapedInUtf16(bytes, at, isFirstOfUnit, form_.form);
-      return spellingEscapes_.has(escaped);
+      return spellingEscapes_.has(characterBehind(bytes, at));
     });
+  }
+
+  // The byte of a backslash is half of many another character, of Chinese ones above all. Where one
+  // of those turns up, a whole block is passed over if no backslash is in it.
+  bool holdsSpellingEscapeInUtf16(std::string_view units) const {
+    constexpr std::size_t kBlock = 1024;
+    const Unit backslash = unitOf('\\', form_.form);
+    std::size_t at = units.find('\\');
+    while (at != std::string_view::npos) {
+      const std::string_view rest = units.substr(at / kUnitSize * kUnitSize);
+      std::size_t next = at + 1;
+      if (rest.size() >= kUnitSize && unitAt(rest, 0) == backslash) {
+        if (rest.size() >= 2 * kUnitSize && spells(unitAt(rest, 1))) {
+          return true;
+        }
+      } else if (!holdsUnit(rest.substr(0, kBlock), backslash)) {
+        next = units.size() - rest.size() + kBlock;
+      }
+      at = units.find('\\', next);
+    }
+    return false;
+  }
+
+  bool spells(Unit escaped) const {
+    std::array<char, kUnitSize> bytes{};
+    std::memcpy(bytes.data(), &escaped, kUnitSize);
+    const bool isLittle = form_.form == Form::utf16Little;
+    const char high = bytes[isLittle ? 1 : 0];
+    return high == 0 && spellingEscapes_.has(bytes[isLittle ? 0 : 1]);
   }
 
   bool holdsSpellingXml(std::string_view bytes) const {
@@ -245,16 +303,20 @@ std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept {
 }
 
 bool mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
-  const auto buffer = std::make_unique_for_overwrite<char[]>(kOverlap + kChunk);
+  const AlignedBytes memory = allocateAligned(kOverlap + kChunk);
+  char* const buffer = memory.get();
+  if (buffer == nullptr) {
+    return true;
+  }
   std::optional<Probe> probe;
   std::size_t kept = 0;
   std::size_t offset = 0;
   for (;;) {
-    const auto count = fill(file, {buffer.get() + kept, kChunk});
+    const auto count = fill(file, {buffer + kept, kChunk});
     if (!count) {
       return true;
     }
-    const std::string_view bytes(buffer.get(), kept + *count);
+    const std::string_view bytes(buffer, kept + *count);
     if (!probe) {
       probe.emplace(prefix, formOf(bytes));
     }
@@ -266,7 +328,7 @@ bool mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
     }
     kept = kOverlap;
     offset += bytes.size() - kept;
-    std::memmove(buffer.get(), bytes.data() + bytes.size() - kept, kept);
+    std::memmove(buffer, bytes.data() + bytes.size() - kept, kept);
   }
 }
 

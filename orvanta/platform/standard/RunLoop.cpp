@@ -13,7 +13,8 @@ namespace orvanta::platform::standard {
 
 namespace {
 
-// The steps that wait for their turn. Outlives the loop while a step that lets go of the loop runs.
+// The steps that wait for their turn. Outlives the loop while a call is under way: a step may let
+// go of the loop that runs it, and a thread may wait for a step when the loop goes.
 class StepQueue {
  public:
   using Step = MainQueue::Step;
@@ -118,7 +119,8 @@ class StandardRunLoop final : public RunLoop {
     // has thrown, and also when it was dropped.
     auto promise = std::make_shared<std::promise<void>>();
     const std::future<void> ended = promise->get_future();
-    queue_->push([&step, promise = std::move(promise)] { step(); });
+    const auto queue = queue_;
+    queue->push([&step, promise = std::move(promise)] { step(); });
     ended.wait();
   }
 

@@ -50,6 +50,8 @@ const StringTable& TableFile::load(const String& path) {
   forget();
   sighting_ = FileSighting::of(*files_, path);
   const std::optional<FileBytes> bytes = readSighted(*files_, sighting_);
+  // What could not be read today may be readable tomorrow without having changed.
+  sighting_.isSettled = sighting_.isSettled && (bytes || !sighting_.stamp);
   contentHash_ = sighting_.isSettled ? 0 : hashOf(bytes);
   table_ = tableOf(bytes);
   return *table_;

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
 
 namespace orvanta::platform::standard {
@@ -20,6 +21,7 @@ struct TrueTypeFace {
 /// Reads a TrueType or OpenType font, as the OpenType specification lays it out ("Font file",
 /// "name", "head", "OS/2"). Absent for anything else: a collection, a table that reaches beyond the
 /// data, no "head" table or no PostScript name. The bytes may come from anywhere.
-[[nodiscard]] std::optional<TrueTypeFace> readTrueTypeFace(std::span<const std::byte> data);
+[[nodiscard]] ORVANTA_EXPORT std::optional<TrueTypeFace> readTrueTypeFace(
+    std::span<const std::byte> data);
 
 }  // namespace orvanta::platform::standard

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
+#include <tests/support/ForwardingFileManager.h>
 #include <tests/support/TestApplication.h>
 
 #include <orvanta/platform/standard/StandardBundles.h>
@@ -122,6 +123,70 @@ TEST_F(StandardBundles, MainBundleIsThereWithoutAFolder) {
   EXPECT_TRUE(main->localizations().isPresent());
   EXPECT_TRUE(main->localizations().empty());
   EXPECT_EQ(main->localizedStringForKey("k"), "k");
+}
+
+// Counts the times that a table's file was opened.
+class CountedOpening {
+ public:
+  [[nodiscard]] std::shared_ptr<FileManager> files() {
+    return std::make_shared<test::ForwardingFileManager>(
+        makeFileManager({}), [this](std::string_view operation, std::string_view /*path*/) {
+          count_ += operation == "openFileForReading" ? 1 : 0;
+          return operation == failing_ ? test::Fault::fail(5) : test::Fault::none();
+        });
+  }
+  [[nodiscard]] int countSinceLast() { return std::exchange(count_, 0); }
+  void fail(std::string_view operation) { failing_ = operation; }
+
+ private:
+  int count_ = 0;
+  std::string_view failing_;
+};
+
+TEST_F(StandardBundles, NeedNoTableToKnowThatSharedPrefixesAreNotThere) {
+  const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
+                                       HashedKey("CONFIG-Language-B")};
+  const std::vector<String> none(2);
+  const std::string file = write("fr.lproj/Localizable.strings", "\"k\" = \"one\";");
+  const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
+  std::filesystem::last_write_time(file, longAgo);
+  CountedOpening opening;
+  const auto registry = makeBundleRegistry(opening.files(), makeLocaleData({}), folder(), {});
+  const auto open = [&] { return registry->bundleWithPath(path("fr.lproj")); };
+
+  EXPECT_EQ(open()->textsForKeys(keys), none);
+  EXPECT_EQ(open()->textsForKeys(keys), none);
+  EXPECT_EQ(opening.countSinceLast(), 1) << "the file had not changed";
+  EXPECT_EQ(open()->localizedStringForKey("k"), "one");
+  EXPECT_EQ(open()->textsForKeys(keys), none);
+  EXPECT_EQ(opening.countSinceLast(), 1) << "the table answers once it is read";
+
+  write("fr.lproj/Localizable.strings", "\"CONFIG-Language-\\U0042\" = \"b\";");
+  EXPECT_EQ(open()->textsForKeys(keys), (std::vector<String>{{}, "b"}));
+  write("fr.lproj/Localizable.strings", "\"CONFIG-Language-A\" = \"a\";");
+  EXPECT_EQ(open()->textsForKeys(keys), (std::vector<String>{"a", {}}));
+  std::filesystem::remove(file);
+  EXPECT_EQ(open()->textsForKeys(keys), none);
+}
+
+TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
+  const std::string file = write("fr.lproj/Localizable.strings", "\"k\" = \"one\";");
+  const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
+  std::filesystem::last_write_time(file, longAgo);
+  write("de.lproj/Localizable.strings", "\"k\" = \"eins\";");
+  write("it.lproj/Localizable.strings", "\0\1\2 no table");
+  CountedOpening opening;
+  const auto registry = makeBundleRegistry(opening.files(), makeLocaleData({}), folder(), {});
+  const auto look = [&](const char* folder) {
+    return registry->bundleWithPath(path(folder))->localizedStringForKey("k");
+  };
+  opening.fail("read");
+  EXPECT_EQ(look("fr.lproj"), "k");
+  opening.fail("openFileForReading");
+  EXPECT_EQ(look("de.lproj"), "k");
+  opening.fail("none");
+  EXPECT_EQ(look("it.lproj"), "k");
+  EXPECT_EQ(look("fr.lproj"), "one") << "readable again, though unchanged";
 }
 
 struct ResourceRow {

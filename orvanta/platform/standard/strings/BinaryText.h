@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
-#include <vector>
 
 #include <orvanta/platform/standard/strings/BinaryObjects.h>
 
@@ -22,9 +22,9 @@ class BinaryText {
 
  private:
   [[nodiscard]] std::string_view decodeUtf16(std::string_view bigEndian);
-  [[nodiscard]] std::string_view decodeBytes(std::string_view bytes);
+  [[nodiscard]] std::string_view decodeUtf8(std::string_view utf8);
 
-  std::vector<char> decoded_;
+  std::string decoded_;
 };
 
 }  // namespace orvanta::platform::standard

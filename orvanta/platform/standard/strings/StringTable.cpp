@@ -134,15 +134,6 @@ bool StringTableBuilder::add(std::string_view key, std::string_view value) {
   return true;
 }
 
-void StringTableBuilder::commitEntry(std::size_t keySize, std::size_t valueSize) {
-  const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
-                                    static_cast<std::uint32_t>(valueSize)};
-  char* start = arena_ + used_;
-  std::memcpy(start, lengths, kHeader);
-  slots_.push_back((textHash({start + kHeader, keySize}) & kHashMask) | used_);
-  used_ += kHeader + keySize + valueSize;
-}
-
 std::shared_ptr<const StringTable> StringTableBuilder::build() {
   auto table = std::make_shared<StringTable>();
   if (slots_.empty()) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <span>
@@ -82,7 +83,14 @@ class ORVANTA_EXPORT StringTableBuilder {
     }
     return arena_ + used_ + kHeader;
   }
-  void commitEntry(std::size_t keySize, std::size_t valueSize);
+  void commitEntry(std::size_t keySize, std::size_t valueSize) {
+    const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
+                                      static_cast<std::uint32_t>(valueSize)};
+    char* start = arena_ + used_;
+    std::memcpy(start, lengths, kHeader);
+    slots_.push_back((textHash({start + kHeader, keySize}) & kHashMask) | used_);
+    used_ += kHeader + keySize + valueSize;
+  }
 
   /// The table; the builder is empty afterwards.
   [[nodiscard]] std::shared_ptr<const StringTable> build();
@@ -90,6 +98,7 @@ class ORVANTA_EXPORT StringTableBuilder {
  private:
   static constexpr std::size_t kHeader = 2 * sizeof(std::uint32_t);
   static constexpr std::size_t kLargestArena = std::numeric_limits<std::uint32_t>::max();
+  static constexpr std::uint64_t kHashMask = 0xFFFFFFFF00000000;
 
   [[nodiscard]] bool reserve(std::size_t more);
 

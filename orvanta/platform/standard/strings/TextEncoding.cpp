@@ -27,21 +27,21 @@ constexpr Mark kMarks[] = {
     {"\xFE\xFF"sv, TextEncoding::kUtf16Big},
 };
 
-// How many of the first 16-bit units have nothing but zeros in their first or in their last byte.
-struct ZeroBytes {
-  std::size_t first = 0;
-  std::size_t last = 0;
+// How many of the first 16-bit units are ASCII in either byte order.
+struct AsciiUnits {
+  std::size_t little = 0;
+  std::size_t big = 0;
 };
 
-ZeroBytes countZeroBytes(std::string_view bytes) noexcept {
+AsciiUnits countAsciiUnits(std::string_view bytes) noexcept {
   constexpr std::size_t kLookedAt = 64;
-  ZeroBytes zeros;
-  const std::size_t size = std::min(bytes.size(), kLookedAt) / 2 * 2;
-  for (std::size_t at = 0; at < size; at += 2) {
-    zeros.first += bytes[at] == 0 ? 1 : 0;
-    zeros.last += bytes[at + 1] == 0 ? 1 : 0;
+  const auto isAscii = [](char c) { return c != 0 && static_cast<unsigned char>(c) < 0x80; };
+  AsciiUnits units;
+  for (std::size_t at = 0; at + 1 < std::min(bytes.size(), kLookedAt); at += 2) {
+    units.little += isAscii(bytes[at]) && bytes[at + 1] == 0 ? 1 : 0;
+    units.big += bytes[at] == 0 && isAscii(bytes[at + 1]) ? 1 : 0;
   }
-  return zeros;
+  return units;
 }
 
 TextEncoding encodingWithoutMark(std::string_view bytes) noexcept {
@@ -53,13 +53,15 @@ TextEncoding encodingWithoutMark(std::string_view bytes) noexcept {
     return TextEncoding::kUtf32Little;
   }
   // A single zero byte may as well be a NUL within UTF-8; a file of two bytes cannot show more.
-  const ZeroBytes zeros = countZeroBytes(bytes);
+  const AsciiUnits units = countAsciiUnits(bytes);
   const std::size_t enough = bytes.size() < 4 ? 1 : 2;
-  if (bytes[1] == 0) {
-    return zeros.last >= enough && zeros.first == 0 ? TextEncoding::kUtf16Little
-                                                    : TextEncoding::kUtf8;
+  if (bytes[1] == 0 && units.little >= enough && units.little > units.big) {
+    return TextEncoding::kUtf16Little;
   }
-  return zeros.first >= enough && zeros.last == 0 ? TextEncoding::kUtf16Big : TextEncoding::kUtf8;
+  if (bytes[0] == 0 && units.big >= enough && units.big > units.little) {
+    return TextEncoding::kUtf16Big;
+  }
+  return TextEncoding::kUtf8;
 }
 
 Transcoded repairUtf8(const char* in, const char* inEnd, char* out, const char* outEnd) noexcept {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include <orvanta/platform/standard/strings/TextCharacters.h>
 #include <orvanta/platform/standard/strings/TextToken.h>
 
@@ -9,7 +11,12 @@ namespace orvanta::platform::standard {
 class TextScanner {
  public:
   /// The text must outlive the scanner.
-  explicit TextScanner(const char* end) noexcept : end_(end) {}
+  explicit TextScanner(std::string_view text) noexcept
+      : end_(text.data() + text.size()),
+        commentSearched_(text.data()),
+        commentEnd_(text.data()),
+        backslashSearched_(text.data()),
+        backslash_(backslashFrom(text.data())) {}
 
   [[nodiscard]] const char* end() const noexcept { return end_; }
 
@@ -21,8 +28,18 @@ class TextScanner {
     return at == end_ || (*at != '/' && !isKind(*at, kWide)) ? at : skipRareIdle(at);
   }
 
-  [[nodiscard]] TextToken readToken(const char* at) const noexcept {
-    return standard::readToken(at, end_);
+  /// The token at `at`, quoted or not; none where none begins, or a quote is not closed.
+  [[nodiscard]] TextToken readToken(const char* at) noexcept {
+    if (at == end_ || !isQuote(*at)) {
+      return standard::readToken(at, end_);
+    }
+    const char* begin = at + 1;
+    const char* close = findCharacter(*at, begin, end_);
+    const char* backslash = nextBackslash(begin);
+    if (close != nullptr && close < backslash) {
+      return {begin, close, close + 1, false};
+    }
+    return readQuoted(at, close, backslash, end_);
   }
 
   [[nodiscard]] bool beginsComment(const char* at) const noexcept {
@@ -41,11 +58,25 @@ class TextScanner {
  private:
   [[nodiscard]] const char* skipRareIdle(const char* at) noexcept;
 
+  [[nodiscard]] const char* backslashFrom(const char* at) const noexcept {
+    const char* found = findCharacter('\\', at, end_);
+    return found == nullptr ? end_ : found;
+  }
+  [[nodiscard]] const char* nextBackslash(const char* at) noexcept {
+    if (at < backslashSearched_ || at > backslash_) {
+      searchBackslash(at);
+    }
+    return backslash_;
+  }
+  void searchBackslash(const char* at) noexcept;
+
   const char* end_;
-  // The last answer to where a comment ends, good for every search that begins in between:
-  // a file of nothing but comment openings is searched once.
-  const char* commentSearched_ = nullptr;
-  const char* commentEnd_ = nullptr;
+  // The last answers to where a comment ends and where a backslash stands, good for every search
+  // that begins in between: what is not there is searched for once.
+  const char* commentSearched_;
+  const char* commentEnd_;
+  const char* backslashSearched_;
+  const char* backslash_;
 };
 
 }  // namespace orvanta::platform::standard

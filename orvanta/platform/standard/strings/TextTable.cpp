@@ -12,8 +12,10 @@ namespace orvanta::platform::standard {
 namespace {
 
 // Of a text that begins with something else than a statement, one part in this many must be
-// statements, or they are taken to be there by chance.
+// statements, or they are taken to be there by chance. Of what begins as object notation does,
+// which may hold any text between its quotes, more must be.
 constexpr std::size_t kLeastPart = 16;
+constexpr std::size_t kLeastPartOfObjects = 2;
 
 constexpr const char* kNotATable = "this is no strings file";
 
@@ -35,13 +37,27 @@ bool beginsMarkup(std::string_view text) noexcept {
          (next >= 'A' && next <= 'Z');
 }
 
+// "[" or "{", then a quoted key and a colon.
+bool beginsObjectNotation(std::string_view text, TextScanner& scanner) noexcept {
+  const char* at = scanner.skipIdle(text.data());
+  if (at == scanner.end() || (*at != '{' && *at != '[')) {
+    return false;
+  }
+  if (*at == '[') {
+    return true;
+  }
+  const TextToken key = scanner.readToken(scanner.skipIdle(at + 1));
+  const char* sign = key.found() ? scanner.skipIdle(key.next) : scanner.end();
+  return sign != scanner.end() && *sign == ':';
+}
+
 // Reads a text that is all there, from where `progress` stands.
 class WholeText {
  public:
   WholeText(std::string_view text, TextStatements& statements, const ProblemCollector& problems)
       : text_(text),
         statements_(statements),
-        scanner_(text.data() + text.size()),
+        scanner_(text),
         problems_(text.data(), problems),
         recovery_(text, scanner_, statements, problems_) {}
 
@@ -79,11 +95,15 @@ class WholeText {
     return true;
   }
 
-  [[nodiscard]] bool isTable() const noexcept {
+  [[nodiscard]] bool isTable() noexcept {
     if (statements_.count() == 0) {
       return !problems_.any() || recovery_.sawOtherValue();
     }
-    return !beginsBadly_ || text_.size() - recovery_.lostBytes() >= text_.size() / kLeastPart;
+    return !beginsBadly_ || text_.size() - recovery_.lostBytes() >= text_.size() / leastPart();
+  }
+
+  [[nodiscard]] std::size_t leastPart() noexcept {
+    return beginsObjectNotation(text_, scanner_) ? kLeastPartOfObjects : kLeastPart;
   }
 
   std::string_view text_;
@@ -102,7 +122,7 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
   for (;;) {
     const std::string_view lines = window.lines();
     const std::size_t countBefore = statements.count();
-    TextScanner scanner(lines.data() + lines.size());
+    TextScanner scanner(lines);
     const char* stop = statements.read(scanner, lines.data());
     const auto consumed = static_cast<std::size_t>(stop - lines.data());
     if (statements.count() != countBefore) {

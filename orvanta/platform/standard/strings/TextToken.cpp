@@ -10,12 +10,6 @@ namespace orvanta::platform::standard {
 
 namespace {
 
-const char* find(char c, const char* begin, const char* end) noexcept {
-  return begin == end ? nullptr
-                      : static_cast<const char*>(
-                            std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
-}
-
 // The closing quote at or behind `close`, where `close` is the first of any after `backslash`.
 const char* closingQuote(char quote, const char* backslash, const char* close,
                          const char* end) noexcept {
@@ -25,12 +19,12 @@ const char* closingQuote(char quote, const char* backslash, const char* close,
     }
     const char* at = backslash + 2;
     if (at > close) {
-      close = find(quote, at, end);
+      close = findCharacter(quote, at, end);
       if (close == nullptr) {
         return nullptr;
       }
     }
-    backslash = find('\\', at, close);
+    backslash = findCharacter('\\', at, close);
   }
   return close;
 }
@@ -116,18 +110,13 @@ const char* resolveEscape(const char* at, const char* end, char*& out) noexcept 
 
 }  // namespace
 
-TextToken readQuoted(const char* open, const char* end) noexcept {
-  const char* begin = open + 1;
-  const char* close = find(*open, begin, end);
-  if (close == nullptr) {
-    return {};
+TextToken readQuoted(const char* open, const char* close, const char* backslash,
+                     const char* end) noexcept {
+  const bool escapes = close != nullptr && backslash < close;
+  if (escapes) {
+    close = closingQuote(*open, backslash, close, end);
   }
-  const char* backslash = find('\\', begin, close);
-  if (backslash == nullptr) {
-    return {begin, close, close + 1, false};
-  }
-  close = closingQuote(*open, backslash, close, end);
-  return close == nullptr ? TextToken{} : TextToken{begin, close, close + 1, true};
+  return close == nullptr ? TextToken{} : TextToken{open + 1, close, close + 1, escapes};
 }
 
 TextToken readToken(const char* at, const char* end) noexcept {
@@ -135,7 +124,9 @@ TextToken readToken(const char* at, const char* end) noexcept {
     return {};
   }
   if (isQuote(*at)) {
-    return readQuoted(at, end);
+    const char* close = findCharacter(*at, at + 1, end);
+    const char* backslash = close == nullptr ? nullptr : findCharacter('\\', at + 1, close);
+    return readQuoted(at, close, backslash == nullptr ? end : backslash, end);
   }
   const char* begin = at;
   while (at != end && isKind(*at, kPlain)) {
@@ -148,7 +139,7 @@ char* resolveEscapes(std::string_view raw, char* out) noexcept {
   const char* at = raw.data();
   const char* end = at + raw.size();
   while (at != end) {
-    const char* backslash = find('\\', at, end);
+    const char* backslash = findCharacter('\\', at, end);
     const char* stop = backslash == nullptr ? end : backslash;
     std::memcpy(out, at, static_cast<std::size_t>(stop - at));
     out += stop - at;

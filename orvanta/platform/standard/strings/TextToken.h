@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace orvanta::platform::standard {
@@ -21,11 +23,21 @@ struct TextToken {
   return c == '"' || c == '\'';
 }
 
-/// The string whose opening quote stands at `open`; none when nothing closes it before `end`.
-[[nodiscard]] TextToken readQuoted(const char* open, const char* end) noexcept;
-
-/// The token at `at`, quoted or not; none where none begins, or a quote is not closed.
+/// The token at `at`, quoted or not; none where none begins, or a quote is not closed before `end`.
 [[nodiscard]] TextToken readToken(const char* at, const char* end) noexcept;
+
+/// The same, where `at` is known to be a quote, and the first quote of its kind behind it (null for
+/// none) and the first backslash behind it (`end` for none) have been looked up.
+[[nodiscard]] TextToken readQuoted(const char* open, const char* close, const char* backslash,
+                                   const char* end) noexcept;
+
+/// The first `c` from `begin` on; null when there is none before `end`.
+[[nodiscard]] inline const char* findCharacter(char c, const char* begin,
+                                               const char* end) noexcept {
+  return begin == end ? nullptr
+                      : static_cast<const char*>(
+                            std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
+}
 
 /// Writes the text that a quoted string stands for and gives its end. It is never longer than
 /// `raw`.

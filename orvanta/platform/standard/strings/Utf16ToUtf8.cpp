@@ -16,23 +16,46 @@ namespace {
 constexpr std::size_t kBlock = 16;
 constexpr char32_t kReplacement = 0xFFFD;
 
-// The UTF-8 of a unit below U+0800, of which the second byte may be meaningless.
-using Pair = std::array<char, 2>;
-
-constexpr std::array<Pair, 0x800> makePairs() {
-  std::array<Pair, 0x800> pairs = {};
-  for (unsigned unit = 0; unit < pairs.size(); ++unit) {
-    if (unit < 0x80) {
-      pairs[unit] = {static_cast<char>(unit), 0};
-    } else {
-      pairs[unit] = {static_cast<char>(0xC0 | (unit >> 6)),
-                     static_cast<char>(0x80 | (unit & 0x3F))};
-    }
+// The UTF-8 of the units below U+0800: the bytes, of the first the lowest, and above them, from
+// bit 24 on, their number.
+constexpr std::array<std::uint32_t, 0x800> makePairs() {
+  std::array<std::uint32_t, 0x800> pairs = {};
+  for (std::uint32_t unit = 0; unit < pairs.size(); ++unit) {
+    pairs[unit] = unit < 0x80 ? unit | (1U << 24)
+                              : (0xC0 | (unit >> 6)) | ((0x80 | (unit & 0x3F)) << 8) | (2U << 24);
   }
   return pairs;
 }
 
-constexpr std::array<Pair, 0x800> kPairs = makePairs();
+constexpr std::array<std::uint32_t, 0x800> kPairs = makePairs();
+
+// What all units with the same upper ten bits have in common in UTF-8, where a character's last
+// byte holds the lower six.
+struct Form {
+  std::uint32_t bytes;  // Of the first byte the lowest, with nothing for the lower six bits.
+  std::uint8_t shift;   // To where the lower six bits belong.
+  std::uint8_t length;
+};
+
+constexpr std::uint32_t kSurrogate = 0x80000000;  // In place of bytes: half a character.
+
+constexpr std::array<Form, 1024> makeForms() {
+  std::array<Form, 1024> forms = {};
+  for (std::uint32_t upper = 0; upper < forms.size(); ++upper) {
+    if (upper < (0x80 >> 6)) {
+      forms[upper] = {upper << 6, 0, 1};
+    } else if (upper < (0x800 >> 6)) {
+      forms[upper] = {0x80C0 | upper, 8, 2};
+    } else if (upper >= (0xD800 >> 6) && upper < (0xE000 >> 6)) {
+      forms[upper] = {kSurrogate, 0, 0};
+    } else {
+      forms[upper] = {0x8080E0 | (upper >> 6) | ((upper & 0x3F) << 8), 16, 3};
+    }
+  }
+  return forms;
+}
+
+constexpr std::array<Form, 1024> kForms = makeForms();
 
 template <std::endian kOrder>
 std::uint16_t unitAt(const char* in) noexcept {
@@ -52,27 +75,30 @@ constexpr std::uint64_t fourTimes(std::uint16_t mask) {
   return 0x0001000100010001U * std::uint64_t{inOrder};
 }
 
+std::uint64_t fourUnitsAt(const char* in) noexcept {
+  std::uint64_t units = 0;
+  std::memcpy(&units, in, sizeof units);
+  return units;
+}
+
 std::uint64_t anyOfBlock(const char* in) noexcept {
-  std::array<std::uint64_t, kBlock / 4> words = {};
-  std::memcpy(words.data(), in, sizeof words);
-  return (words[0] | words[1]) | (words[2] | words[3]);
+  std::uint64_t any = 0;
+  for (std::size_t index = 0; index < kBlock; index += 4) {
+    any |= fourUnitsAt(in + 2 * index);
+  }
+  return any;
 }
 
 template <std::endian kOrder>
 void narrowBlock(const char* in, char* out) noexcept {
+  std::array<std::uint16_t, kBlock> units = {};
+  std::memcpy(units.data(), in, sizeof units);
+  std::array<char, kBlock> bytes = {};
   for (std::size_t index = 0; index < kBlock; ++index) {
-    out[index] = in[2 * index + (kOrder == std::endian::big ? 1 : 0)];
+    bytes[index] =
+        static_cast<char>(kOrder == std::endian::native ? units[index] : units[index] >> 8);
   }
-}
-
-template <std::endian kOrder>
-char* pairBlock(const char* in, char* out) noexcept {
-  for (std::size_t index = 0; index < kBlock; ++index) {
-    const std::uint16_t unit = unitAt<kOrder>(in + 2 * index);
-    std::memcpy(out, kPairs[unit].data(), sizeof(Pair));
-    out += unit >= 0x80 ? 2 : 1;
-  }
-  return out;
+  std::memcpy(out, bytes.data(), sizeof bytes);
 }
 
 void store(char* out, std::uint32_t firstByteLowest) noexcept {
@@ -85,15 +111,15 @@ void store(char* out, std::uint32_t firstByteLowest) noexcept {
   }
 }
 
-// No surrogate. Writes four bytes, of which the length that it gives are meant.
+// Writes four bytes, of which the length that the form gives are meant.
+void put(const Form& form, std::uint32_t unit, char* out) noexcept {
+  store(out, form.bytes | ((unit & 0x3F) << form.shift));
+}
+
 char* putBasic(std::uint32_t unit, char* out) noexcept {
-  const std::uint32_t last = 0x80 | (unit & 0x3F);
-  const std::uint32_t two = (0xC0 | (unit >> 6)) | (last << 8);
-  const std::uint32_t three =
-      (0xE0 | (unit >> 12)) | ((0x80 | ((unit >> 6) & 0x3F)) << 8) | (last << 16);
-  const std::uint32_t upToTwo = unit < 0x80 ? unit : two;
-  store(out, unit < 0x800 ? upToTwo : three);
-  return out + 1 + (unit >= 0x80 ? 1 : 0) + (unit >= 0x800 ? 1 : 0);
+  const Form& form = kForms[unit >> 6];
+  put(form, unit, out);
+  return out + form.length;
 }
 
 char* putBeyondBasic(std::uint32_t high, std::uint32_t low, char* out) noexcept {
@@ -118,9 +144,33 @@ Transcoded putCharacter(const char* in, const char* inEnd, char* out) noexcept {
   return {in + 2, putBasic(kReplacement, out)};
 }
 
+template <std::endian kOrder>
+char* putBlockBelow800(const char* in, char* out) noexcept {
+  for (std::size_t index = 0; index < kBlock; ++index) {
+    const std::uint32_t pair = kPairs[unitAt<kOrder>(in + 2 * index)];
+    store(out, pair);
+    out += pair >> 24;
+  }
+  return out;
+}
+
+// Null when there is a surrogate among them.
+template <std::endian kOrder>
+char* putBlock(const char* in, char* out) noexcept {
+  std::uint32_t seen = 0;
+  for (std::size_t index = 0; index < kBlock; ++index) {
+    const std::uint32_t unit = unitAt<kOrder>(in + 2 * index);
+    const Form& form = kForms[unit >> 6];
+    put(form, unit, out);
+    out += form.length;
+    seen |= form.bytes;
+  }
+  return (seen & kSurrogate) == 0 ? out : nullptr;
+}
+
 // The block, and one unit more where it ends within a pair of surrogates.
 template <std::endian kOrder>
-Transcoded putBlock(const char* in, const char* inEnd, char* out) noexcept {
+Transcoded putBlockWithSurrogates(const char* in, const char* inEnd, char* out) noexcept {
   const char* blockEnd = in + 2 * kBlock;
   Transcoded at = {in, out};
   while (at.in < blockEnd) {
@@ -130,8 +180,8 @@ Transcoded putBlock(const char* in, const char* inEnd, char* out) noexcept {
 }
 
 template <std::endian kOrder>
-Transcoded transcode(const char* in, const char* inEnd, char* out, const char* outEnd) noexcept {
-  Transcoded at = {in, out};
+Transcoded transcode(const char* in, const char* inEnd, char* begin, const char* outEnd) noexcept {
+  Transcoded at = {in, begin};
   const auto hasRoom = [&] { return outEnd - at.out >= static_cast<std::ptrdiff_t>(kUtf16Room); };
   while (hasRoom() && inEnd - at.in >= static_cast<std::ptrdiff_t>(2 * kBlock)) {
     const std::uint64_t any = anyOfBlock(at.in);
@@ -139,9 +189,11 @@ Transcoded transcode(const char* in, const char* inEnd, char* out, const char* o
       narrowBlock<kOrder>(at.in, at.out);
       at = {at.in + 2 * kBlock, at.out + kBlock};
     } else if ((any & fourTimes<kOrder>(0xF800)) == 0) {
-      at = {at.in + 2 * kBlock, pairBlock<kOrder>(at.in, at.out)};
+      at = {at.in + 2 * kBlock, putBlockBelow800<kOrder>(at.in, at.out)};
+    } else if (char* out = putBlock<kOrder>(at.in, at.out)) {
+      at = {at.in + 2 * kBlock, out};
     } else {
-      at = putBlock<kOrder>(at.in, inEnd, at.out);
+      at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out);
     }
   }
   while (hasRoom() && inEnd - at.in >= 2) {

@@ -38,19 +38,14 @@ bool isValidBlock(const Byte* block) noexcept {
   for (std::ptrdiff_t index = 0; index < static_cast<std::ptrdiff_t>(kBlock); ++index) {
     const Byte byte = block[index];
     const Byte before = block[index - 1];
-    const Byte continues = (byte & 0xC0) == 0x80 ? 1 : 0;
-    const Byte awaited = before >= 0xC0 ? 1 : 0;
-    const Byte awaitedThird = block[index - 2] >= 0xE0 ? 1 : 0;
-    const Byte awaitedFourth = block[index - 3] >= 0xF0 ? 1 : 0;
-    const Byte overlong =
-        static_cast<Byte>(static_cast<Byte>((byte & 0xFE) == 0xC0 ? 1 : 0) |
-                          static_cast<Byte>((before == 0xE0 ? 1 : 0) & (byte < 0xA0 ? 1 : 0)) |
-                          static_cast<Byte>((before == 0xF0 ? 1 : 0) & (byte < 0x90 ? 1 : 0)));
-    const Byte surrogate = static_cast<Byte>((before == 0xED ? 1 : 0) & (byte >= 0xA0 ? 1 : 0));
-    const Byte beyond = static_cast<Byte>((byte >= 0xF5 ? 1 : 0) |
-                                          ((before == 0xF4 ? 1 : 0) & (byte >= 0x90 ? 1 : 0)));
-    wrong |= static_cast<Byte>((continues ^ (awaited | awaitedThird | awaitedFourth)) | overlong |
-                               surrogate | beyond);
+    const bool continues = (byte & 0xC0) == 0x80;
+    const bool awaited = (before >= 0xC0) | (block[index - 2] >= 0xE0) | (block[index - 3] >= 0xF0);
+    const bool overlong = ((byte & 0xFE) == 0xC0) | ((before == 0xE0) & (byte < 0xA0)) |
+                          ((before == 0xF0) & (byte < 0x90));
+    const bool surrogate = (before == 0xED) & (byte >= 0xA0);
+    const bool beyond = (byte >= 0xF5) | ((before == 0xF4) & (byte >= 0x90));
+    const bool isWrong = (continues != awaited) | overlong | surrogate | beyond;
+    wrong |= static_cast<Byte>(isWrong);
   }
   return wrong == 0;
 }

@@ -16,14 +16,14 @@ class XmlProblems {
       : utf8_(utf8), collector_(collector) {}
 
   /// `message` must live as long as this object.
-  void add(std::size_t offset, std::string_view message);
+  void add(std::size_t offset, const char* message);
 
   void handOver();
 
  private:
   struct Problem {
     std::size_t offset;
-    std::string_view message;
+    const char* message;
   };
 
   std::string_view utf8_;

@@ -17,14 +17,11 @@ constexpr std::string_view kList = "plist";
 constexpr std::string_view kDictionary = "dict";
 constexpr std::string_view kKey = "key";
 constexpr std::string_view kValue = "string";
-constexpr std::string_view kNoList = "no property list";
+constexpr const char* kNoList = "no property list";
+constexpr const char* kStrayText = "text outside of a key or value";
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
                                                          "<!--"};
-
-bool isBlank(std::string_view text) noexcept {
-  return text.find_first_not_of(kWhiteSpace) == std::string_view::npos;
-}
 
 bool endsDictionary(const XmlToken& token) noexcept {
   return token.closes(kDictionary) || token.closes(kList);
@@ -82,12 +79,10 @@ class XmlTableReader {
         finish(token.offset);
         return false;
       case XmlPiece::kText:
-        if (!isBlank(token.text)) {
-          problems_.add(token.offset, "text outside of a key or value");
-        }
+        reportStrayText(token);
         return true;
       case XmlPiece::kLiteral:
-        problems_.add(token.offset, "text outside of a key or value");
+        problems_.add(token.offset, kStrayText);
         return true;
       case XmlPiece::kBroken:
         problems_.add(token.offset, "a '<' that begins no whole tag");
@@ -98,6 +93,13 @@ class XmlTableReader {
         return readOpening(token);
     }
     return false;
+  }
+
+  void reportStrayText(const XmlToken& token) {
+    const std::size_t blank = token.text.find_first_not_of(kWhiteSpace);
+    if (blank != std::string_view::npos) {
+      problems_.add(token.offset + blank, kStrayText);
+    }
   }
 
   bool readClosing(const XmlToken& token) {

@@ -181,7 +181,7 @@ TEST(BinaryTable, LosesOnlyThePairThatIsDamaged) {
       {"flag", sound, "\x09"},
       {"array", sound, "\xA1"s + '\0'},
       {"dictionary of itself", sound, "\xD1"s + number(3, 2) + number(3, 2)},
-      {"unknown kind", sound, "\x75hello"},
+      {"unknown kind", sound, number(0x75, 1) + "hello"},
       {"text longer than the file", sound, longMarker(0x5, 1 << 20, 2)},
       {"text of almost endless length", sound, longMarker(0x6, ~std::uint64_t{0} / 2 + 2, 3)},
       {"count beyond 8 bytes", sound, "\x5F\x14"s + number(1, 8) + number(3, 8) + "abc"},

@@ -69,7 +69,7 @@ TEST(XmlTable, TellsPropertyListsFromOtherDocuments) {
       {"text on top", "<plist><string>a</string></plist>", true, false},
       {"empty list", "<plist/><dict>" + kGood + "</dict>", true, false},
       {"cut off", "<plist>", true, false},
-      {"text form", "\"<plist><dict>\" = \"a\";", false, false},
+      {"text form", R"("<plist><dict>" = "a";)", false, false},
       {"nothing", "", false, false},
   };
   for (const Row& row : rows) {

@@ -1,0 +1,129 @@
+#include "OrderWindow.h"
+
+#include <QActionGroup>
+#include <QMap>
+#include <QMenu>
+#include <QVBoxLayout>
+#include <utility>
+
+#include <orvanta/orvanta.h>
+#include <orvanta/platform/qt/FormLoader.h>
+#include <orvanta/platform/qt/Text.h>
+#include <orvanta/platform/qt/UILocalizedButton.h>
+#include <orvanta/platform/qt/UILocalizedLabel.h>
+#include <orvanta/platform/qt/UILocalizedTextField.h>
+
+#include "DownloadedLanguages.h"
+
+namespace demo {
+
+namespace {
+
+using orvanta::qt::fromQString;
+using orvanta::qt::toQString;
+using orvanta::qt::UILocalizedButton;
+using orvanta::qt::UILocalizedLabel;
+using orvanta::qt::UILocalizedTextField;
+
+constexpr auto kEmailPlaceholder = "STRING.TUNDEL.NONMEMBER.email.emailTextField.placeholder";
+constexpr auto kPasswordPlaceholder = "STRING.TUNDEL.NONMEMBER.email.passwordTextField.placeholder";
+
+}  // namespace
+
+OrderWindow::OrderWindow(QString downloadsPath, QWidget* parent)
+    : QWidget(parent),
+      localizer_(orvanta::Localizer::sharedLocalizer()),
+      downloadsPath_(std::move(downloadsPath)),
+      batch_(*this),
+      observer_([this] { languageChanged(); }) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(orvanta::qt::FormLoader().load(QStringLiteral(":/window.ui"), this));
+  findWidgets();
+  connectActions();
+  fillLanguageMenu();
+  languageChanged();
+  resize(940, 580);
+}
+
+void OrderWindow::findWidgets() {
+  languageButton_ = findChild<UILocalizedButton*>(QStringLiteral("languageButton"));
+  downloadButton_ = findChild<UILocalizedButton*>(QStringLiteral("downloadButton"));
+  signInButton_ = findChild<UILocalizedButton*>(QStringLiteral("signInButton"));
+  placeButton_ = findChild<UILocalizedButton*>(QStringLiteral("placeButton"));
+  emailField_ = findChild<UILocalizedTextField*>(QStringLiteral("emailField"));
+  passwordField_ = findChild<UILocalizedTextField*>(QStringLiteral("passwordField"));
+  summaryLabel_ = findChild<UILocalizedLabel*>(QStringLiteral("summaryLabel"));
+  statusLabel_ = findChild<UILocalizedLabel*>(QStringLiteral("statusLabel"));
+}
+
+void OrderWindow::connectActions() {
+  languageMenu_ = new QMenu(languageButton_);
+  languageButton_->setMenu(languageMenu_);
+  connect(downloadButton_, &QPushButton::clicked, this, &OrderWindow::downloadLanguages);
+  connect(placeButton_, &QPushButton::clicked, this, [this] { showStatus("order.placed"); });
+  connect(signInButton_, &QPushButton::clicked, this, [this] { placeButton_->setFocus(); });
+  // From now on the text is the customer's own; a change of language leaves it alone.
+  connect(emailField_, &QLineEdit::textEdited, this,
+          [this] { emailField_->control().setOriginalKey({}); });
+}
+
+void OrderWindow::fillLanguageMenu() {
+  QMap<QString, QString> namesByIdentifier;
+  for (const auto& [identifier, language] : localizer_.stringCache().availableLanguages()) {
+    namesByIdentifier.insert(
+        toQString(identifier),
+        toQString(language->bundle()->localizedStringForKey("language.name", identifier)));
+  }
+  languageMenu_->clear();
+  auto* group = new QActionGroup(languageMenu_);
+  const orvanta::StringList& current = localizer_.currentLocales();
+  for (auto entry = namesByIdentifier.begin(); entry != namesByIdentifier.end(); ++entry) {
+    const orvanta::String identifier = fromQString(entry.key());
+    QAction* action = languageMenu_->addAction(entry.value());
+    action->setData(entry.key());
+    action->setCheckable(true);
+    action->setChecked(!current.empty() && current.front() == identifier);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this,
+            [this, identifier] { localizer_.updatePreferredLocales({identifier}, {}); });
+  }
+}
+
+void OrderWindow::downloadLanguages() {
+  const QString language = storeDownloadedLanguages(downloadsPath_);
+  if (language.isNull()) {
+    return;
+  }
+  downloaded_ = true;
+  localizer_.updatePreferredLocales({fromQString(language)}, {});
+}
+
+void OrderWindow::showStatus(const char* key) {
+  statusLabel_->control().setOriginalKey(key);
+  statusLabel_->control().handleOVPreferredLocaleDidChangeNotification(nullptr);
+}
+
+void OrderWindow::languageChanged() {
+  fillLanguageMenu();
+  localizeFields();
+  summaryLabel_->setText(toQString(
+      localizer_.stringWithLocalizedPunctuation(localizer_.localizedStringForKey("order.list"))));
+  setWindowTitle(toQString(localizer_.localizedStringForKey("order.title")));
+  showStatus(std::exchange(downloaded_, false) ? "status.downloaded" : "status.language");
+}
+
+// A field without a text of its own has no key that its other texts could come along with.
+void OrderWindow::localizeFields() {
+  const auto text = [this](const char* key) {
+    return toQString(localizer_.localizedStringForKey(key));
+  };
+  emailField_->setPlaceholderText(text(kEmailPlaceholder));
+  emailField_->setAccessibleName(text("signin.email.label"));
+  emailField_->setAccessibleDescription(text("signin.email.hint"));
+  passwordField_->setPlaceholderText(text(kPasswordPlaceholder));
+  passwordField_->setAccessibleName(text("signin.password.label"));
+  passwordField_->setAccessibleDescription(text("signin.password.hint"));
+}
+
+}  // namespace demo

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWidget>
+
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/qt/LanguageChangeObserver.h>
+#include <orvanta/platform/qt/LayoutDirectionFollower.h>
+#include <orvanta/platform/qt/RepaintBatch.h>
+
+class QMenu;
+
+namespace orvanta::qt {
+class UILocalizedButton;
+class UILocalizedLabel;
+class UILocalizedTextField;
+}  // namespace orvanta::qt
+
+namespace demo {
+
+/// The window of a café: signing in, an order, and a menu of languages. What its form describes
+/// localizes itself; the window adds what a form cannot say.
+class OrderWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `downloadsPath`: the JSON file that "download more languages" fetches.
+  explicit OrderWindow(QString downloadsPath, QWidget* parent = nullptr);
+
+ private:
+  void findWidgets();
+  void connectActions();
+  void fillLanguageMenu();
+  void downloadLanguages();
+  void showStatus(const char* key);
+  void languageChanged();
+  void localizeFields();
+
+  orvanta::Localizer& localizer_;
+  QString downloadsPath_;
+  orvanta::qt::LayoutDirectionFollower direction_;
+  orvanta::qt::RepaintBatch batch_;
+  orvanta::qt::LanguageChangeObserver observer_;
+  bool downloaded_ = false;
+
+  QMenu* languageMenu_ = nullptr;
+  orvanta::qt::UILocalizedButton* languageButton_ = nullptr;
+  orvanta::qt::UILocalizedButton* downloadButton_ = nullptr;
+  orvanta::qt::UILocalizedButton* signInButton_ = nullptr;
+  orvanta::qt::UILocalizedButton* placeButton_ = nullptr;
+  orvanta::qt::UILocalizedTextField* emailField_ = nullptr;
+  orvanta::qt::UILocalizedTextField* passwordField_ = nullptr;
+  orvanta::qt::UILocalizedLabel* summaryLabel_ = nullptr;
+  orvanta::qt::UILocalizedLabel* statusLabel_ = nullptr;
+};
+
+}  // namespace demo

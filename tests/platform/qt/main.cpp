@@ -1,0 +1,37 @@
+#include <QApplication>
+#include <QFont>
+#include <QTest>
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/platform/qt/QtPlatform.h>
+
+#include "OrderWindowTest.h"
+#include "PlatformTest.h"
+#include "Support.h"
+#include "WidgetsTest.h"
+#include "tests/support/TestApplication.h"
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const orvanta::test::ScratchFolder caches;
+  orvanta::platform::standard::StandardOptions options;
+  options.mainBundlePath = DEMO_BUNDLE;
+  options.cachesPath = caches.path();
+  options.deviceLanguages = {{"en"}};
+  orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
+  orvanta::platform::Platform::current().mainQueue->dispatchAsync(
+      [] { orvanta::test::earlyStepRan = true; });
+
+  QApplication application(argc, argv);
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
+  PlatformTest platformTest;
+  WidgetsTest widgetsTest;
+  OrderWindowTest windowTest;
+  int failures = 0;
+  for (QObject* test : {static_cast<QObject*>(&platformTest), static_cast<QObject*>(&widgetsTest),
+                        static_cast<QObject*>(&windowTest)}) {
+    failures += QTest::qExec(test, QStringList(QString::fromLocal8Bit(argv[0])));
+  }
+  return failures == 0 ? 0 : 1;
+}

@@ -1,0 +1,212 @@
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/platform/Utf8.h>
+#include <orvanta/platform/standard/strings/TextEncoding.h>
+#include <orvanta/platform/standard/strings/Utf8Validity.h>
+
+#include "TableReading.h"
+
+namespace orvanta::platform::standard {
+namespace {
+
+using namespace std::string_literals;
+
+std::string encoded(std::u32string_view text, TextEncoding encoding) {
+  std::string bytes;
+  const auto put = [&](std::uint32_t unit, int size, bool bigEndian) {
+    for (int index = 0; index < size; ++index) {
+      bytes.push_back(static_cast<char>(unit >> (8 * (bigEndian ? size - 1 - index : index))));
+    }
+  };
+  for (const char32_t c : text) {
+    switch (encoding) {
+      case TextEncoding::kUtf8:
+        utf8::append(bytes, c);
+        break;
+      case TextEncoding::kUtf16Little:
+      case TextEncoding::kUtf16Big: {
+        const bool big = encoding == TextEncoding::kUtf16Big;
+        if (c < 0x10000) {
+          put(c, 2, big);
+        } else {
+          put(0xD800 + ((c - 0x10000) >> 10), 2, big);
+          put(0xDC00 + ((c - 0x10000) & 0x3FF), 2, big);
+        }
+        break;
+      }
+      case TextEncoding::kUtf32Little:
+      case TextEncoding::kUtf32Big:
+        put(c, 4, encoding == TextEncoding::kUtf32Big);
+        break;
+    }
+  }
+  return bytes;
+}
+
+constexpr TextEncoding kEncodings[] = {TextEncoding::kUtf8, TextEncoding::kUtf16Little,
+                                       TextEncoding::kUtf16Big, TextEncoding::kUtf32Little,
+                                       TextEncoding::kUtf32Big};
+
+std::string transcoded(EncodedText text, std::size_t room) {
+  Utf8Transcoder transcoder(text);
+  std::string out;
+  std::vector<char> piece(room);
+  while (!transcoder.atEnd()) {
+    const std::size_t size = transcoder.transcode(piece.data(), room);
+    EXPECT_GT(size, 0U);
+    out.append(piece.data(), size);
+  }
+  return out;
+}
+
+TEST(TextEncoding, TellsEveryEncodingWithAndWithoutMark) {
+  struct Row {
+    const char* name;
+    std::u32string text;
+  };
+  const Row rows[] = {
+      {"statement", U"\"k\" = \"\u00E9\u05E9\u20AC\U0001F600\";\n"},
+      {"low bytes of zero", U"\"\u4E00\u0100\" = \"\u4E00\u4E00\";"},
+      {"one character beyond ASCII in front", U"\"\u4E16\u754C\" = \"\u4E16\";"},
+      {"comment", U"/* \u4E16 */\n\"k\" = \"v\";"},
+      {"shortest", U"k;"},
+      {"a NUL inside", U"\"a\" = \"\0\0b\";"s},
+      {"nothing", U""},
+  };
+  for (const Row& row : rows) {
+    const TableReading expected = readTable(encoded(row.text, TextEncoding::kUtf8));
+    EXPECT_TRUE(expected.isTable);
+    for (const TextEncoding encoding : kEncodings) {
+      SCOPED_TRACE(row.name + " "s + std::to_string(static_cast<int>(encoding)));
+      for (const auto* mark : {U"", U"\uFEFF"}) {
+        const TableReading reading = readTable(encoded(mark + row.text, encoding));
+        EXPECT_TRUE(reading.isTable);
+        EXPECT_EQ(reading.pairs, expected.pairs);
+        EXPECT_TRUE(reading.places.empty());
+      }
+    }
+  }
+}
+
+TEST(TextEncoding, KeepsAZeroByteOfUtf8) {
+  const std::string bytes = "\"\0\" = \"\u2022 \u2022\";"s;
+  EXPECT_EQ(readTable(bytes).pairs, Pairs({{"\0"s, "\u2022 \u2022"}}));
+}
+
+TEST(TextEncoding, ReplacesWhatIsNoCharacter) {
+  struct Row {
+    const char* name;
+    TextEncoding encoding;
+    std::string bytes;
+    std::string text;
+  };
+  using enum TextEncoding;
+  const Row rows[] = {
+      {"stray bytes", kUtf8, "a\x80\xFFz", "a\uFFFD\uFFFDz"},
+      {"overlong", kUtf8, "\xC0\xAF\xE0\x80\xAF", "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"surrogate in UTF-8", kUtf8, "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
+      {"cut off", kUtf8, "a\xF0\x9F\x98", "a\uFFFD"},
+      {"cut off by a character", kUtf8, "\xE2\x82z\xE2\x82\xAC", "\uFFFDz\u20AC"},
+      {"lone high", kUtf16Little, "\x3D\xD8z\0"s, "\uFFFDz"},
+      {"lone low", kUtf16Big, "\xDE\0\0z"s, "\uFFFDz"},
+      {"swapped", kUtf16Little, "\x00\xDE\x3D\xD8"s, "\uFFFD\uFFFD"},
+      {"high at the end", kUtf16Little, "z\0\x3D\xD8"s, "z\uFFFD"},
+      {"odd byte", kUtf16Big, "\0z\0"s, "z\uFFFD"},
+      {"surrogate in UTF-32", kUtf32Big, "\0\0\xD8\0\0\0\0z"s, "\uFFFDz"},
+      {"beyond the last", kUtf32Little, "\0\0\x11\0z\0\0\0\xFF\xFF\xFF\xFF"s, "\uFFFDz\uFFFD"},
+      {"torn unit", kUtf32Little, "z\0\0\0z\0\0"s, "z\uFFFD"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(transcoded({row.encoding, row.bytes}, 256), row.text);
+  }
+}
+
+// Every way of packing units is hit at every distance from a block's edges, and every piece of
+// room stops somewhere else.
+TEST(TextEncoding, TranscodesLikeOneCharacterAtATime) {
+  std::mt19937 random(7);
+  const std::u32string_view characters[] = {U"ab\"=;\n", U"\u00E9\u0440\u07FF\u0080",
+                                            U"\u0800\u20AC\uFFFD\uD7FF\uE000",
+                                            U"\U0001F600\U0010FFFF"};
+  for (int round = 0; round < 400; ++round) {
+    std::u32string text;
+    while (text.size() < 150) {
+      const auto& kind = characters[random() % (1 + static_cast<unsigned>(round) % 4)];
+      text.append(1 + random() % 40, kind[random() % kind.size()]);
+    }
+    const std::string expected = encoded(text, TextEncoding::kUtf8);
+    for (const TextEncoding encoding : kEncodings) {
+      const std::string bytes = encoded(text, encoding);
+      const std::size_t room = Utf8Transcoder::kSlack + random() % 200;
+      ASSERT_EQ(transcoded({encoding, bytes}, room), expected) << static_cast<int>(encoding);
+    }
+  }
+}
+
+TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
+  std::mt19937 random(11);
+  const std::string pieces[] = {"a",
+                                "\u00E9",
+                                "\u20AC",
+                                "\u0905",
+                                "\uD7A3",
+                                "\U0001F600",
+                                "\xC0\x80",
+                                "\xE0\x9F\x80",
+                                "\xED\xA0\x80",
+                                "\xF4\x90\x80\x80",
+                                "\xF0\x8F\x80\x80",
+                                "\xF5\x80\x80\x80",
+                                "\x80",
+                                "\xC3",
+                                "\xE2\x82"};
+  int valid = 0;
+  for (int round = 0; round < 20000; ++round) {
+    std::string text(random() % 70, 'a');
+    while (text.size() < random() % 200) {
+      text += pieces[random() % (random() % 40 == 0 ? std::size(pieces) : 6)];
+    }
+    text.resize(text.size() - (text.empty() ? 0 : random() % 2));
+    ASSERT_EQ(isValidUtf8(text), utf8::isValid(text)) << testing::PrintToString(text);
+    valid += isValidUtf8(text) ? 1 : 0;
+  }
+  EXPECT_GT(valid, 2000);
+  EXPECT_LT(valid, 18000);
+}
+
+// The window through which UTF-16 is read must not show: statements and comments longer than it,
+// and statements across its edges.
+TEST(TextEncoding, ReadsLongTextsAlike) {
+  std::u32string text;
+  for (int index = 0; index < 3000; ++index) {
+    const std::string number = std::to_string(index);
+    text += U"/* \u00E9 */\n\"key" + std::u32string(number.begin(), number.end()) + U"\" = \"";
+    text.append(static_cast<std::size_t>(index % 97), index % 3 == 0 ? U'\u4E16' : U'v');
+    text += U"\";\n";
+    if (index % 1000 == 500) {
+      text += U"/*" + std::u32string(70'000, U'*') + U"*/ long = \"" +
+              std::u32string(70'000, U'\n') + U"\";";
+    }
+  }
+  for (const char* end : {"", "\"bad = \"1\";\n", "// no line break"}) {
+    const std::u32string whole = text + std::u32string(end, end + std::string_view(end).size());
+    const TableReading expected = readTable(encoded(whole, TextEncoding::kUtf8));
+    EXPECT_EQ(expected.pairs.size(), 3001U);
+    EXPECT_EQ(expected.places.empty(), !whole.ends_with(U"1\";\n"));
+    const TableReading reading = readTable(encoded(U"\uFEFF" + whole, TextEncoding::kUtf16Little));
+    EXPECT_TRUE(reading.pairs == expected.pairs);
+    EXPECT_EQ(reading.places, expected.places);
+    // The same through repaired UTF-8.
+    const TableReading repaired = readTable(encoded(whole, TextEncoding::kUtf8) + "// \xFF");
+    EXPECT_TRUE(repaired.pairs == expected.pairs);
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::platform::standard
