@@ -7,6 +7,7 @@
 #include <orvanta/locale/Localizer.h>
 
 #include "contenders/Application.h"
+#include "contenders/ReleasableBundles.h"
 #include "data/TableForms.h"
 #include "harness/Check.h"
 #include "rows/Rows.h"
@@ -31,12 +32,15 @@ class OurStart {
       : application_(application), isConfigured_(isConfigured) {}
 
   void start() {
-    localizer_ = nullptr;
-    platform::Platform::install(application_.makePlatform("fr"));
+    platform::Platform platform = application_.makePlatform("fr");
+    bundles_ = std::make_shared<ReleasableBundles>(std::move(platform.bundles));
+    platform.bundles = bundles_;
+    platform::Platform::install(std::move(platform));
     localizer_ = std::make_unique<Localizer>();
   }
 
   void check() {
+    forget();
     start();
     const OVLocaleDictionary languages = localizer_->stringCache().availableLanguages();
     expect(languages.size() == shippedLanguages().size(), "another number of languages");
@@ -52,11 +56,17 @@ class OurStart {
     expectText(localizer_->currentLocalesString().view(), "fr", "the current language");
   }
 
-  void forget() { localizer_ = nullptr; }
+  void forget() {
+    localizer_ = nullptr;
+    if (bundles_ != nullptr) {
+      bundles_->release();
+    }
+  }
 
  private:
   const Application& application_;
   bool isConfigured_;
+  std::shared_ptr<ReleasableBundles> bundles_;
   std::unique_ptr<Localizer> localizer_;
 };
 
