@@ -41,7 +41,7 @@ QString styleNameOf(const QFont& font) {
 class QtFont final : public Font {
  public:
   // An absent name: the one that Qt's family and style make.
-  explicit QtFont(QFont font, String name = {}) : font_(std::move(font)), name_(std::move(name)) {}
+  explicit QtFont(const QFont& font, String name = {}) : font_(font), name_(std::move(name)) {}
 
   const QFont& font() const { return font_; }
 

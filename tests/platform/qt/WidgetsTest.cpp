@@ -244,7 +244,7 @@ void WidgetsTest::livesThroughSwitching() {
           {orvanta::qt::fromQString(languages[i / 100 % 3])}, {});
     }
     if (i % 3 == 0) {
-      widgets[widgets.size() / 2].reset(new UILocalizedButton);
+      widgets[widgets.size() / 2] = std::make_unique<UILocalizedButton>();
     }
   }
   QVERIFY(speak(QStringLiteral("fr")));
