@@ -21,15 +21,8 @@ bool beginsValue(char c) noexcept {
 
 }  // namespace
 
-const char* TextLandmarks::lineEnd(const char* at) noexcept {
-  if (!lineEnd_.covers(at)) {
-    lineEnd_ = {at, scanner_.lineEnd(at)};
-  }
-  return lineEnd_.found;
-}
-
 const char* TextLandmarks::firstBehindLine(const char* at) noexcept {
-  return scanner_.skipIdle(lineEnd(at));
+  return scanner_.skipIdle(scanner_.lineEnd(at));
 }
 
 bool TextLandmarks::isHead(const char* at) noexcept {
@@ -39,12 +32,12 @@ bool TextLandmarks::isHead(const char* at) noexcept {
   if (*at == '}') {
     return isRestIdle(at + 1);
   }
-  const char* end = lineEnd(at);
+  const char* end = scanner_.lineEnd(at);
   const TextToken key = readToken(at, end);
   if (!key.found()) {
     return false;
   }
-  const char* sign = scanner_.skipIdle(key.next);
+  const char* sign = scanner_.skipIdleUpTo(key.next, end);
   if (sign >= end) {
     return false;
   }
@@ -54,13 +47,14 @@ bool TextLandmarks::isHead(const char* at) noexcept {
   if (*sign != '=') {
     return false;
   }
-  const char* value = scanner_.skipIdle(sign + 1);
+  const char* value = scanner_.skipIdleUpTo(sign + 1, end);
   return value < end ? beginsValue(*value) : isQuote(*at);
 }
 
 bool TextLandmarks::isRestIdle(const char* at) noexcept {
-  const char* stop = scanner_.skipIdle(at);
-  return stop >= lineEnd(at) || scanner_.beginsComment(stop);
+  const char* end = scanner_.lineEnd(at);
+  const char* stop = scanner_.skipIdleUpTo(at, end);
+  return stop >= end || scanner_.beginsComment(stop);
 }
 
 const char* TextLandmarks::nextHead(const char* at) noexcept {
@@ -83,7 +77,7 @@ const char* TextLandmarks::nextStart(const char* at) noexcept {
 }
 
 bool TextLandmarks::endsLine(const char* quote) noexcept {
-  const char* end = lineEnd(quote);
+  const char* end = scanner_.lineEnd(quote);
   const char* at = quote + 1;
   while (at != end && isKind(*at, kBlank)) {
     ++at;
@@ -98,7 +92,11 @@ bool TextLandmarks::endsValue(const char* quote, const char* begin) noexcept {
   if (!isEscaped(quote, begin)) {
     return true;
   }
+  if (budget_.isUsedUp()) {
+    return false;
+  }
   const char* next = firstBehindLine(quote);
+  budget_.spend(quote, next);
   return next == scanner_.end() || isHead(next);
 }
 
@@ -115,13 +113,13 @@ const char* TextLandmarks::quoteThatEndsLine(char quote, const char* at) noexcep
 }
 
 const char* TextLandmarks::contentEnd(const char* at, const char* limit) noexcept {
-  const char* end = lineEnd(at);
+  const char* end = scanner_.lineEnd(at);
   for (;;) {
     const char* line = scanner_.skipIdle(end);
     if (line >= limit) {
       return end;
     }
-    end = lineEnd(line);
+    end = scanner_.lineEnd(line);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <orvanta/platform/standard/strings/LookAheadBudget.h>
 #include <orvanta/platform/standard/strings/TextScanner.h>
 
 namespace orvanta::platform::standard {
@@ -12,10 +13,9 @@ namespace orvanta::platform::standard {
 /// many places costs one look. All pointers are into the scanner's text.
 class TextLandmarks {
  public:
-  explicit TextLandmarks(TextScanner& scanner) noexcept : scanner_(scanner) {}
-
-  /// The line break that ends the line of `at`, or the end of the text.
-  [[nodiscard]] const char* lineEnd(const char* at) noexcept;
+  /// `budget` outlives this.
+  TextLandmarks(TextScanner& scanner, LookAheadBudget& budget) noexcept
+      : scanner_(scanner), budget_(budget) {}
 
   /// The beginning of the first statement behind the line of `at`: a line that goes
   /// `key =` and has a value begin, `"key";`, or `}`. The end of the text when there is none.
@@ -55,7 +55,7 @@ class TextLandmarks {
   [[nodiscard]] bool endsValue(const char* quote, const char* begin) noexcept;
 
   TextScanner& scanner_;
-  Answer lineEnd_;
+  LookAheadBudget& budget_;
   Answer head_;
   std::array<Answer, 2> quotes_;
 };

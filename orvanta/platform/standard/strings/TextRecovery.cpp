@@ -7,8 +7,6 @@ namespace orvanta::platform::standard {
 
 namespace {
 
-constexpr std::size_t kLookAheadPerByte = 16;
-
 constexpr const char* kStrayCharacter = "a stray control character";
 constexpr const char* kOpenComment = "a comment that is never closed; taken to end with its line";
 constexpr const char* kStraySemicolon = "a semicolon without a statement";
@@ -37,12 +35,20 @@ TextRecovery::TextRecovery(std::string_view text, TextScanner& scanner, TextStat
     : scanner_(scanner),
       statements_(statements),
       problems_(problems),
-      landmarks_(scanner),
+      budget_(text.size()),
+      landmarks_(scanner, budget_),
       end_(scanner.end()),
-      lookAhead_(kLookAheadPerByte * text.size()) {}
+      readTo_(text.data()) {}
 
 const char* TextRecovery::recover(const char* at, const char* previous) {
   strays_.clear();
+  readTo_ = at;
+  const char* next = recoverHere(at, previous);
+  budget_.spend(next, readTo_);
+  return budget_.isUsedUp() && next < readTo_ ? landmarks_.nextStart(readTo_) : next;
+}
+
+const char* TextRecovery::recoverHere(const char* at, const char* previous) {
   if (statements_.braces() == TextStatements::Braces::kClosed) {
     problems_.add(at, kBehindBrace);
     statements_.leaveBraces();
@@ -75,14 +81,14 @@ const char* TextRecovery::recoverMark(const char* at) {
 }
 
 const char* TextRecovery::recoverStatement(Damaged statement) {
-  statement.key = scanner_.readToken(statement.begin);
+  statement.key = readToken(statement.begin);
   if (!statement.key.found()) {
     return giveUp(statement, statement.begin, isQuote(*statement.begin) ? kEndlessString : kNoKey);
   }
   const char* sign = skipIdle(statement.key.next);
   if (sign != end_ && *sign == ';') {
     reportStrays(sign);
-    accept(statement.key, statement.key);
+    statements_.add(statement.key, statement.key);
     return sign + 1;
   }
   if (sign == end_ || *sign != '=') {
@@ -100,7 +106,7 @@ const char* TextRecovery::recoverValue(const Damaged& statement) {
   if (first == '<' || first == '(' || first == '{') {
     return passCollection(statement);
   }
-  const TextToken value = scanner_.readToken(statement.value);
+  const TextToken value = readToken(statement.value);
   if (isQuote(first)) {
     return value.found() ? recoverString(statement, value) : recoverOpenString(statement, value);
   }
@@ -112,13 +118,13 @@ const char* TextRecovery::recoverPlain(const Damaged& statement, const TextToken
   const char* next = skipIdle(value.next);
   if (next != end_ && *next == ';') {
     reportStrays(next);
-    accept(statement.key, value);
+    statements_.add(statement.key, value);
     return next + 1;
   }
-  if (next > landmarks_.lineEnd(value.next) && landmarks_.isHead(next)) {
+  if (next > scanner_.lineEnd(value.next) && landmarks_.isHead(next)) {
     reportStrays(value.next);
     problems_.add(value.next, kMissingSemicolon);
-    accept(statement.key, value);
+    statements_.add(statement.key, value);
     return value.next;
   }
   return giveUp(statement, value.next, kNoSemicolon);
@@ -129,14 +135,14 @@ const char* TextRecovery::recoverString(const Damaged& statement, const TextToke
   const char* next = skipIdle(value.next);
   if (next != end_ && *next == ';') {
     reportStrays(next);
-    accept(statement.key, value);
+    statements_.add(statement.key, value);
     return next + 1;
   }
   strays_.resize(straysBefore);
   if (isSemicolonMissing(value.next, next)) {
     reportStrays(value.next);
     problems_.add(value.next, kMissingSemicolon);
-    accept(statement.key, value);
+    statements_.add(statement.key, value);
     return value.next;
   }
   return recoverOpenString(statement, value);
@@ -146,7 +152,7 @@ bool TextRecovery::isSemicolonMissing(const char* valueEnd, const char* next) {
   if (next == end_) {
     return true;
   }
-  const bool nextLine = next > landmarks_.lineEnd(valueEnd);
+  const bool nextLine = next > scanner_.lineEnd(valueEnd);
   return landmarks_.isHead(next) && (nextLine || isQuote(*next) || *next == '}');
 }
 
@@ -159,7 +165,7 @@ const char* TextRecovery::recoverOpenString(const Damaged& statement, const Text
   if (close < head) {
     reportStrays(begin);
     problems_.add(value.found() ? std::min(value.end, close) : statement.value, kBareQuote);
-    accept(statement.key, rawText(begin, close));
+    statements_.add(statement.key, rawText(begin, close));
     return std::find(close, end_, ';') + 1;
   }
   if (value.found() && value.next < head) {
@@ -171,7 +177,7 @@ const char* TextRecovery::recoverOpenString(const Damaged& statement, const Text
 const char* TextRecovery::takeLine(const Damaged& statement, const char* head) {
   const char* begin = statement.value + 1;
   const char* contentEnd = landmarks_.contentEnd(begin, head);
-  if (head == end_ && contentEnd != landmarks_.lineEnd(begin)) {
+  if (head == end_ && contentEnd != scanner_.lineEnd(begin)) {
     return giveUp(statement, statement.value, kEndlessString);
   }
   const char* end = contentEnd;
@@ -183,15 +189,15 @@ const char* TextRecovery::takeLine(const Damaged& statement, const char* head) {
   }
   reportStrays(begin);
   problems_.add(statement.value, kOpenString);
-  accept(statement.key, rawText(begin, end));
+  statements_.add(statement.key, rawText(begin, end));
   return contentEnd;
 }
 
 const char* TextRecovery::passCollection(const Damaged& statement) {
-  const PassedCollection passed = lookAhead_ == 0 ? PassedCollection{statement.value, false}
+  const PassedCollection passed = budget_.isUsedUp() ? PassedCollection{statement.value, false}
                                                   : passOverCollection(scanner_, statement.value);
+  readTo_ = std::max(readTo_, passed.end);
   if (!passed.closed) {
-    spend(statement.value, passed.end);
     return giveUp(statement, statement.value, kOpenCollection);
   }
   reportStrays(statement.value);
@@ -221,28 +227,28 @@ const char* TextRecovery::extendPrevious(const Damaged& statement) {
   if (statement.previous == nullptr) {
     return nullptr;
   }
-  const TextToken key = scanner_.readToken(statement.previous);
+  const TextToken key = readToken(statement.previous);
   const char* sign = scanner_.skipIdle(key.next);
   if (*sign != '=') {
     return nullptr;
   }
   const char* open = scanner_.skipIdle(sign + 1);
-  const TextToken value = scanner_.readToken(open);
-  if (!isQuote(*open) || landmarks_.lineEnd(value.next) < statement.begin) {
+  const TextToken value = readToken(open);
+  if (!isQuote(*open) || scanner_.lineEnd(value.next) < statement.begin) {
     return nullptr;
   }
   const char* close = landmarks_.quoteThatEndsLine(*open, statement.begin);
-  if (close >= landmarks_.lineEnd(statement.begin) ||
+  if (close >= scanner_.lineEnd(statement.begin) ||
       std::find(statement.begin, close, '=') != close) {
     return nullptr;
   }
   problems_.add(value.end, kBareQuote);
-  accept(key, rawText(value.begin, close));
+  statements_.add(key, rawText(value.begin, close));
   return std::find(close, end_, ';') + 1;
 }
 
 const char* TextRecovery::statementInLine(const char* at) {
-  const char* lineEnd = landmarks_.lineEnd(at);
+  const char* lineEnd = scanner_.lineEnd(at);
   while ((at = std::find(at, lineEnd, ';')) != lineEnd) {
     ++at;
     while (at != lineEnd && isKind(*at, kBlank)) {
@@ -256,36 +262,32 @@ const char* TextRecovery::statementInLine(const char* at) {
 }
 
 bool TextRecovery::isStatementInLine(const char* at, const char* lineEnd) {
-  if (lookAhead_ == 0) {
+  if (budget_.isUsedUp()) {
     return false;
   }
-  const TextToken key = readToken(at, lineEnd);
+  const TextToken key = standard::readToken(at, lineEnd);
   if (!key.found()) {
-    spend(at, isQuote(*at) ? lineEnd : at + 1);
+    budget_.spend(at, isQuote(*at) ? lineEnd : at);
     return false;
   }
-  const char* next = scanner_.skipIdle(key.next);
-  if (next < lineEnd && *next == ';') {
-    return isQuote(*at);
+  bool isWhole = isQuote(*at);
+  const char* next = scanner_.skipIdleUpTo(key.next, lineEnd);
+  if (next < lineEnd && *next == '=') {
+    const char* begin = scanner_.skipIdleUpTo(next + 1, lineEnd);
+    const TextToken value = begin < lineEnd ? standard::readToken(begin, lineEnd) : TextToken{};
+    next = value.found() ? scanner_.skipIdleUpTo(value.next, lineEnd) : lineEnd;
+    isWhole = true;
   }
-  spend(at, key.next);
-  if (next >= lineEnd || *next != '=') {
-    return false;
-  }
-  const char* valueBegin = scanner_.skipIdle(next + 1);
-  const TextToken value = valueBegin < lineEnd ? readToken(valueBegin, lineEnd) : TextToken{};
-  spend(valueBegin, value.found() ? value.next : std::max(valueBegin, lineEnd));
-  if (!value.found()) {
-    return false;
-  }
-  next = scanner_.skipIdle(value.next);
-  return next < lineEnd && *next == ';';
+  isWhole = isWhole && next < lineEnd && *next == ';';
+  budget_.spend(at, isWhole ? at : next);
+  return isWhole;
 }
 
 // Passes over stray characters and comments that are never closed, and takes note of them.
 const char* TextRecovery::skipIdle(const char* at) {
   for (;;) {
     at = scanner_.skipIdle(at);
+    readTo_ = std::max(readTo_, at);
     if (at == end_) {
       return at;
     }
@@ -296,15 +298,17 @@ const char* TextRecovery::skipIdle(const char* at) {
       }
     } else if (scanner_.beginsComment(at)) {
       strays_.push_back({at, kOpenComment});
-      at = landmarks_.lineEnd(at);
+      at = scanner_.lineEnd(at);
     } else {
       return at;
     }
   }
 }
 
-void TextRecovery::accept(const TextToken& key, const TextToken& value) {
-  statements_.add(key, value);
+TextToken TextRecovery::readToken(const char* at) {
+  const TextToken token = scanner_.readToken(at);
+  readTo_ = std::max(readTo_, token.found() ? token.next : at);
+  return token;
 }
 
 void TextRecovery::reportStrays(const char* before) {
@@ -313,10 +317,6 @@ void TextRecovery::reportStrays(const char* before) {
       problems_.add(stray.at, stray.message);
     }
   }
-}
-
-void TextRecovery::spend(const char* from, const char* to) noexcept {
-  lookAhead_ -= std::min(lookAhead_, static_cast<std::size_t>(to - from));
 }
 
 }  // namespace orvanta::platform::standard

@@ -51,6 +51,7 @@ class TextRecovery {
     const char* message;
   };
 
+  [[nodiscard]] const char* recoverHere(const char* at, const char* previous);
   [[nodiscard]] const char* recoverMark(const char* at);
   [[nodiscard]] const char* recoverStatement(Damaged statement);
   [[nodiscard]] const char* recoverValue(const Damaged& statement);
@@ -59,28 +60,27 @@ class TextRecovery {
   [[nodiscard]] const char* recoverOpenString(const Damaged& statement, const TextToken& value);
   [[nodiscard]] const char* takeLine(const Damaged& statement, const char* head);
   [[nodiscard]] const char* passCollection(const Damaged& statement);
-  [[nodiscard]] const char* behindCollection(const char* open);
   [[nodiscard]] const char* giveUp(const Damaged& statement, const char* at, const char* message);
   [[nodiscard]] const char* extendPrevious(const Damaged& statement);
 
   [[nodiscard]] bool isSemicolonMissing(const char* valueEnd, const char* next);
   [[nodiscard]] const char* statementInLine(const char* at);
   [[nodiscard]] bool isStatementInLine(const char* at, const char* lineEnd);
+  // These move over the text and take note of how far it was read.
   [[nodiscard]] const char* skipIdle(const char* at);
-  void accept(const TextToken& key, const TextToken& value);
+  [[nodiscard]] TextToken readToken(const char* at);
+
   void reportStrays(const char* before);
-  void spend(const char* from, const char* to) noexcept;
 
   TextScanner& scanner_;
   TextStatements& statements_;
   TextProblems& problems_;
+  LookAheadBudget budget_;
   TextLandmarks landmarks_;
   const char* end_;
+  const char* readTo_;  // How far the statement at hand was read, however it ended.
   // What is wrong between the tokens of the statement at hand, reported if that is saved.
   std::vector<Stray> strays_;
-  // What may still be read ahead in vain. Real damage uses next to nothing of it; a file made to
-  // have the reader look ahead over and over is read more coarsely once it is used up.
-  std::size_t lookAhead_;
   std::size_t lostBytes_ = 0;
   bool sawOtherValue_ = false;
 };

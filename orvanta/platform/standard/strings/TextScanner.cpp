@@ -14,6 +14,8 @@ constexpr std::string_view kWideBlanks[] = {"\u0085", "\u00A0", "\u2028", "\u202
 // The inside and the end of the comment that stands before every statement of a downloaded table.
 constexpr std::string_view kEmptyComment = " */";
 
+constexpr std::string_view kCommentEnd = "*/";
+
 std::size_t wideBlankAt(std::string_view text) noexcept {
   for (const std::string_view blank : kWideBlanks) {
     if (text.starts_with(blank)) {
@@ -25,8 +27,8 @@ std::size_t wideBlankAt(std::string_view text) noexcept {
 
 }  // namespace
 
-const char* TextScanner::skipRareIdle(const char* at) noexcept {
-  while (at != end_) {
+const char* TextScanner::skipIdleUpTo(const char* at, const char* limit) noexcept {
+  while (at < limit) {
     const char* before = at;
     if (isKind(*at, kBlank)) {
       ++at;
@@ -50,29 +52,20 @@ const char* TextScanner::skipComment(const char* at) noexcept {
   if (std::string_view(inside, end_).starts_with(kEmptyComment)) {
     return inside + kEmptyComment.size();
   }
-  if (inside < commentSearched_ || inside > commentEnd_) {
-    const std::size_t length = std::string_view(inside, end_).find("*/");
-    commentSearched_ = inside;
-    commentEnd_ = length == std::string_view::npos ? end_ : inside + length;
-  }
-  return commentEnd_ == end_ ? nullptr : commentEnd_ + 2;
+  const char* end = commentEnds_.first(inside);
+  return end == end_ ? nullptr : end + kCommentEnd.size();
 }
 
-// Going back costs no more than the way back: what is there was looked at before.
-void TextScanner::searchBackslash(const char* at) noexcept {
-  if (at > backslash_) {
-    backslash_ = backslashFrom(at);
-  } else if (const char* found = findCharacter('\\', at, backslashSearched_)) {
-    backslash_ = found;
-  }
-  backslashSearched_ = at;
+const char* TextScanner::findCommentEnd(const char* from, const char* to) noexcept {
+  const std::size_t length = std::string_view(from, to).find(kCommentEnd);
+  return length == std::string_view::npos ? nullptr : from + length;
 }
 
-const char* TextScanner::lineEnd(const char* at) const noexcept {
-  while (at != end_ && !isKind(*at, kLineBreak)) {
-    ++at;
+const char* TextScanner::findLineEnd(const char* from, const char* to) noexcept {
+  while (from != to && !isKind(*from, kLineBreak)) {
+    ++from;
   }
-  return at;
+  return from == to ? nullptr : from;
 }
 
 }  // namespace orvanta::platform::standard

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include <orvanta/platform/standard/strings/RememberedSearch.h>
 #include <orvanta/platform/standard/strings/TextCharacters.h>
 #include <orvanta/platform/standard/strings/TextToken.h>
 
@@ -13,10 +14,9 @@ class TextScanner {
   /// The text must outlive the scanner.
   explicit TextScanner(std::string_view text) noexcept
       : end_(text.data() + text.size()),
-        commentSearched_(text.data()),
-        commentEnd_(text.data()),
-        backslashSearched_(text.data()),
-        backslash_(backslashFrom(text.data())) {}
+        commentEnds_(text.data(), end_),
+        lineEnds_(text.data(), end_),
+        backslashes_(text.data(), end_) {}
 
   [[nodiscard]] const char* end() const noexcept { return end_; }
 
@@ -25,8 +25,11 @@ class TextScanner {
     while (at != end_ && isKind(*at, kBlank)) {
       ++at;
     }
-    return at == end_ || (*at != '/' && !isKind(*at, kWide)) ? at : skipRareIdle(at);
+    return at == end_ || (*at != '/' && !isKind(*at, kWide)) ? at : skipIdleUpTo(at, end_);
   }
+
+  /// The same, but not on from `limit` or beyond: a comment may lead there, never further.
+  [[nodiscard]] const char* skipIdleUpTo(const char* at, const char* limit) noexcept;
 
   /// The token at `at`, quoted or not; none where none begins, or a quote is not closed.
   [[nodiscard]] TextToken readToken(const char* at) noexcept {
@@ -35,7 +38,7 @@ class TextScanner {
     }
     const char* begin = at + 1;
     const char* close = findCharacter(*at, begin, end_);
-    const char* backslash = nextBackslash(begin);
+    const char* backslash = backslashes_.first(begin);
     if (close != nullptr && close < backslash) {
       return {begin, close, close + 1, false};
     }
@@ -53,30 +56,19 @@ class TextScanner {
   [[nodiscard]] const char* skipComment(const char* at) noexcept;
 
   /// The line break that ends the line of `at`, or the end of the text.
-  [[nodiscard]] const char* lineEnd(const char* at) const noexcept;
+  [[nodiscard]] const char* lineEnd(const char* at) noexcept { return lineEnds_.first(at); }
 
  private:
-  [[nodiscard]] const char* skipRareIdle(const char* at) noexcept;
-
-  [[nodiscard]] const char* backslashFrom(const char* at) const noexcept {
-    const char* found = findCharacter('\\', at, end_);
-    return found == nullptr ? end_ : found;
+  [[nodiscard]] static const char* findCommentEnd(const char* from, const char* to) noexcept;
+  [[nodiscard]] static const char* findLineEnd(const char* from, const char* to) noexcept;
+  [[nodiscard]] static const char* findBackslash(const char* from, const char* to) noexcept {
+    return findCharacter('\\', from, to);
   }
-  [[nodiscard]] const char* nextBackslash(const char* at) noexcept {
-    if (at < backslashSearched_ || at > backslash_) {
-      searchBackslash(at);
-    }
-    return backslash_;
-  }
-  void searchBackslash(const char* at) noexcept;
 
   const char* end_;
-  // The last answers to where a comment ends and where a backslash stands, good for every search
-  // that begins in between: what is not there is searched for once.
-  const char* commentSearched_;
-  const char* commentEnd_;
-  const char* backslashSearched_;
-  const char* backslash_;
+  RememberedSearch<findCommentEnd, 2> commentEnds_;
+  RememberedSearch<findLineEnd> lineEnds_;
+  RememberedSearch<findBackslash> backslashes_;
 };
 
 }  // namespace orvanta::platform::standard
