@@ -60,6 +60,7 @@ int run(int argc, char** argv) {
                      "The device's languages, best first (default: LANGUAGE, LC_ALL,\n"
                      "LC_MESSAGES and LANG)")
           ->delimiter(',')
+          ->allow_extra_args(false)
           ->type_name("a,b");
   app.add_flag("--json", settings.json, "Answer in JSON, for machines");
 
@@ -83,6 +84,7 @@ int run(int argc, char** argv) {
       ->add_option("--locales", request.locales,
                    "The languages to look in, best first (default: the device's languages)")
       ->delimiter(',')
+      ->allow_extra_args(false)
       ->type_name("a,b");
   addRequestCountry(*lookup, request);
   lookup->add_option("keys", keys, "The keys to look up")->required()->type_name("KEY");
