@@ -194,8 +194,9 @@ const char* TextRecovery::takeLine(const Damaged& statement, const char* head) {
 }
 
 const char* TextRecovery::passCollection(const Damaged& statement) {
-  const PassedCollection passed = budget_.isUsedUp() ? PassedCollection{statement.value, false}
-                                                  : passOverCollection(scanner_, statement.value);
+  const PassedCollection passed = budget_.isUsedUp()
+                                      ? PassedCollection{statement.value, false}
+                                      : passOverCollection(scanner_, statement.value);
   readTo_ = std::max(readTo_, passed.end);
   if (!passed.closed) {
     return giveUp(statement, statement.value, kOpenCollection);
