@@ -1,4 +1,5 @@
 #include <iostream>
+#include <vector>
 
 #include <orvanta/platform/standard/strings/StringTableReader.h>
 
@@ -74,13 +75,15 @@ void printForPeople(const StringTable& table) {
 
 int dump(const Settings& settings, const Source& source) {
   const std::string file = fileOf(settings, source);
+  std::vector<TableProblem> problems;
   const auto table = orvanta::platform::standard::readStringTable(
-      contentsOf(file), [&](const TableProblem& problem) {
-        std::cerr << nameOf(file) << ':' << problem.line << ':' << problem.column << ": "
-                  << problem.message << '\n';
-      });
+      contentsOf(file), [&](const TableProblem& problem) { problems.push_back(problem); });
   if (table == nullptr) {
     throw Failure(nameOf(file) + " holds nothing like a table of strings");
+  }
+  for (const TableProblem& problem : problems) {
+    std::cerr << file << ':' << problem.line << ':' << problem.column << ": " << problem.message
+              << '\n';
   }
   settings.json ? printForMachines(*table) : printForPeople(*table);
   return 0;
