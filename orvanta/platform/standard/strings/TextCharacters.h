@@ -31,8 +31,8 @@ constexpr std::array<unsigned char, 256> makeCharacterKinds() {
       kinds[code] = kStray;
     }
   }
-  for (const unsigned char mark : {'_', '$', '/', ':', '.', '-'}) {
-    kinds[mark] = kPlain;
+  for (const char mark : {'_', '$', '/', ':', '.', '-'}) {
+    kinds[static_cast<unsigned char>(mark)] = kPlain;
   }
   return kinds;
 }

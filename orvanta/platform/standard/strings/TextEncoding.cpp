@@ -140,7 +140,7 @@ std::size_t Utf8Transcoder::transcode(char* out, std::size_t room) noexcept {
   return static_cast<std::size_t>(stop.out - out);
 }
 
-WholeUtf8::WholeUtf8(EncodedText text) : size_(0) {
+WholeUtf8::WholeUtf8(EncodedText text) {
   Utf8Transcoder transcoder(text);
   const std::size_t room = transcoder.roomForRest();
   bytes_ = std::make_unique_for_overwrite<char[]>(room);

@@ -54,7 +54,7 @@ class WholeUtf8 {
 
  private:
   std::unique_ptr<char[]> bytes_;
-  std::size_t size_;
+  std::size_t size_ = 0;
 };
 
 }  // namespace orvanta::platform::standard

@@ -14,7 +14,7 @@ constexpr const char* kStrayBrace = "a stray brace";
 constexpr const char* kBehindBrace = "text behind the closing brace";
 constexpr const char* kMissingBrace = "the closing brace is missing";
 constexpr const char* kNoKey = "no statement begins here; skipped";
-constexpr const char* kNoSign = "\"=\" or \";\" is missing behind the key; statement skipped";
+constexpr const char* kNoSign = R"("=" or ";" is missing behind the key; statement skipped)";
 constexpr const char* kNoValue = "the value is missing; statement skipped";
 constexpr const char* kOtherValue = "the value is no text; statement skipped";
 constexpr const char* kOpenCollection = "a value that is no text and does not end; skipped";

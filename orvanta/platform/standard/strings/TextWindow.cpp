@@ -6,7 +6,7 @@ namespace orvanta::platform::standard {
 
 namespace {
 
-constexpr std::size_t kSize = 32 * 1024;
+constexpr std::size_t kSize = std::size_t{32} * 1024;
 
 }  // namespace
 

@@ -70,8 +70,9 @@ std::uint16_t unitAt(const char* in) noexcept {
 // A mask that four units, loaded at once, are to be tested with.
 template <std::endian kOrder>
 constexpr std::uint64_t fourTimes(std::uint16_t mask) {
+  const unsigned wide = mask;
   const unsigned inOrder =
-      kOrder == std::endian::native ? mask : ((mask << 8) | (mask >> 8)) & 0xFFFFU;
+      kOrder == std::endian::native ? wide : ((wide << 8) | (wide >> 8)) & 0xFFFFU;
   return 0x0001000100010001U * std::uint64_t{inOrder};
 }
 
