@@ -65,6 +65,8 @@ enum class Form { binary, utf8, utf16Little, utf16Big, any };
 struct FileForm {
   Form form = Form::any;
   bool mayBeXml = false;
+
+  friend bool operator==(const FileForm&, const FileForm&) = default;
 };
 
 bool firstCharacterIs(char wanted, std::string_view start) noexcept {
@@ -173,7 +175,7 @@ Unit unitAt(std::string_view units, std::size_t index) noexcept {
 bool holdsUnit(std::string_view units, Unit wanted) noexcept {
   Unit found = 0;
   for (std::size_t index = 0; index < units.size() / kUnitSize; ++index) {
-    found = static_cast<Unit>(found | (unitAt(units, index) == wanted ? 1U : 0U));
+    found = static_cast<Unit>(found | (unitAt(units, index) == wanted ? 0xFFFFU : 0U));
   }
   return found != 0;
 }
@@ -198,15 +200,19 @@ class CharacterSet {
   std::bitset<256> set_;
 };
 
-// Looks at the bytes of one file.
-class Probe {
+// Looks at the bytes of files of one form.
+class FormProbe {
  public:
-  Probe(std::string_view prefix, const FileForm& form)
-      : form_(form), search_(searchFor(prefix, form.form)) {
+  FormProbe(std::string_view prefix, const FileForm& form)
+      : prefix_(prefix), form_(form), search_(searchFor(prefix, form.form)) {
     ofPrefix_.add(prefix);
     spellingEscapes_.add(prefix);
     spellingEscapes_.remove("abfnrtv");
     spellingEscapes_.add("Uux0123456789\n\r");
+  }
+
+  [[nodiscard]] bool isFor(std::string_view prefix, const FileForm& form) const {
+    return prefix_ == prefix && form_ == form;
   }
 
   // `offset` is where `bytes` stand in the file.
@@ -231,7 +237,7 @@ class Probe {
   // The byte of a backslash is half of many another character, of Chinese ones above all. Where one
   // of those turns up, a whole block is passed over if no backslash is in it.
   bool holdsSpellingEscapeInUtf16(std::string_view units) const {
-    constexpr std::size_t kBlock = 1024;
+    constexpr std::size_t kBlock = 256;
     const Unit backslash = unitOf('\\', form_.form);
     std::size_t at = units.find('\\');
     while (at != std::string_view::npos) {
@@ -265,6 +271,7 @@ class Probe {
            });
   }
 
+  std::string prefix_;
   FileForm form_;
   SampledSearch search_;
   CharacterSet ofPrefix_;
@@ -302,13 +309,31 @@ std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept {
   return prefix.size() < kShortestPrefix ? std::string_view() : prefix;
 }
 
-bool mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
-  const AlignedBytes memory = allocateAligned(kOverlap + kChunk);
-  char* const buffer = memory.get();
+struct PrefixProbe::Tools {
+  // Most files of an application have one form.
+  const FormProbe& probeFor(std::string_view prefix, const FileForm& form) {
+    if (!probe || !probe->isFor(prefix, form)) {
+      probe.emplace(prefix, form);
+    }
+    return *probe;
+  }
+
+  AlignedBytes buffer = allocateAligned(kOverlap + kChunk);
+  std::optional<FormProbe> probe;
+};
+
+PrefixProbe::PrefixProbe() = default;
+PrefixProbe::~PrefixProbe() = default;
+
+bool PrefixProbe::mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
+  if (tools_ == nullptr) {
+    tools_ = std::make_unique<Tools>();
+  }
+  char* const buffer = tools_->buffer.get();
   if (buffer == nullptr) {
     return true;
   }
-  std::optional<Probe> probe;
+  const FormProbe* probe = nullptr;
   std::size_t kept = 0;
   std::size_t offset = 0;
   for (;;) {
@@ -317,8 +342,8 @@ bool mayHoldKeysWithPrefix(ReadableFile& file, std::string_view prefix) {
       return true;
     }
     const std::string_view bytes(buffer, kept + *count);
-    if (!probe) {
-      probe.emplace(prefix, formOf(bytes));
+    if (probe == nullptr) {
+      probe = &tools_->probeFor(prefix, formOf(bytes));
     }
     if (probe->mayHoldPrefix(bytes, offset)) {
       return true;

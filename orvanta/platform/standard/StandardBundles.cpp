@@ -24,17 +24,24 @@ bool isFolder(FileManager& files, const String& path) {
          ItemKind::directory;
 }
 
+// What all bundles of a registry share.
+struct Surroundings {
+  std::shared_ptr<FileManager> files;
+  std::shared_ptr<LocaleData> locales;
+  std::shared_ptr<PrefixProbe> probe;
+};
+
 class StandardBundle final : public Bundle {
  public:
   enum class Role { main, plain };
 
-  StandardBundle(std::shared_ptr<FileManager> files, std::shared_ptr<LocaleData> locales,
-                 String path, Role role)
-      : files_(std::move(files)),
-        locales_(std::move(locales)),
+  StandardBundle(Surroundings surroundings, String path, Role role)
+      : files_(std::move(surroundings.files)),
+        locales_(std::move(surroundings.locales)),
+        probe_(std::move(surroundings.probe)),
         path_(std::move(path)),
         role_(role),
-        defaultTable_(files_) {}
+        defaultTable_(files_, probe_) {}
 
   String bundlePath() const override { return path_; }
 
@@ -128,7 +135,7 @@ class StandardBundle final : public Bundle {
   const StringTable& tableNamed(const String& name) const {
     const bool isDefault = name == kDefaultTable;
     TableFile& table =
-        isDefault ? defaultTable_ : otherTables_.try_emplace(name, files_).first->second;
+        isDefault ? defaultTable_ : otherTables_.try_emplace(name, files_, probe_).first->second;
     const StringTable* loaded = table.loaded();
     return loaded != nullptr ? *loaded : table.load(pathOfTable(name));
   }
@@ -141,6 +148,7 @@ class StandardBundle final : public Bundle {
 
   std::shared_ptr<FileManager> files_;
   std::shared_ptr<LocaleData> locales_;
+  std::shared_ptr<PrefixProbe> probe_;
   String path_;
   Role role_;
   // Filled by look-ups, which change nothing that a caller could see.
@@ -152,11 +160,10 @@ class StandardBundleRegistry final : public BundleRegistry {
  public:
   StandardBundleRegistry(std::shared_ptr<FileManager> files, std::shared_ptr<LocaleData> locales,
                          const String& mainBundlePath, String libraryPath)
-      : files_(std::move(files)),
-        locales_(std::move(locales)),
+      : surroundings_{std::move(files), std::move(locales), std::make_shared<PrefixProbe>()},
         libraryPath_(std::move(libraryPath)) {
     String path = normalizedBundlePath(mainBundlePath);
-    main_ = std::make_shared<StandardBundle>(files_, locales_, path, StandardBundle::Role::main);
+    main_ = std::make_shared<StandardBundle>(surroundings_, path, StandardBundle::Role::main);
     bundles_.emplace(std::move(path), main_);
   }
 
@@ -166,13 +173,13 @@ class StandardBundleRegistry final : public BundleRegistry {
 
   std::shared_ptr<Bundle> bundleWithPath(const String& path) override {
     const String normalized = normalizedBundlePath(path);
-    if (normalized.isAbsent() || !isFolder(*files_, normalized)) {
+    if (normalized.isAbsent() || !isFolder(*surroundings_.files, normalized)) {
       return nullptr;
     }
     const auto [entry, isNew] = bundles_.try_emplace(normalized, nullptr);
     if (isNew) {
-      entry->second = std::make_shared<StandardBundle>(files_, locales_, normalized,
-                                                       StandardBundle::Role::plain);
+      entry->second =
+          std::make_shared<StandardBundle>(surroundings_, normalized, StandardBundle::Role::plain);
     } else {
       entry->second->openAgain();
     }
@@ -180,8 +187,7 @@ class StandardBundleRegistry final : public BundleRegistry {
   }
 
  private:
-  std::shared_ptr<FileManager> files_;
-  std::shared_ptr<LocaleData> locales_;
+  Surroundings surroundings_;
   String libraryPath_;
   std::shared_ptr<StandardBundle> main_;
   std::unordered_map<String, std::shared_ptr<StandardBundle>, TextHash, TextEqual> bundles_;

@@ -57,7 +57,7 @@ bool TableFile::findOutWhetherItLacks(std::string_view prefix, const String& pat
   forget();
   sighting_ = FileSighting::of(*files_, path);
   const auto file = files_->openFileForReading(path);
-  if (file == nullptr || mayHoldKeysWithPrefix(*file, prefix)) {
+  if (file == nullptr || probe_->mayHoldKeysWithPrefix(*file, prefix)) {
     return false;
   }
   lackedPrefix_ = prefix;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
@@ -29,7 +30,8 @@ struct FileSighting {
 /// One string table of a bundle, read from its file when it is first asked for.
 class TableFile {
  public:
-  explicit TableFile(std::shared_ptr<FileManager> files) : files_(std::move(files)) {}
+  TableFile(std::shared_ptr<FileManager> files, std::shared_ptr<PrefixProbe> probe)
+      : files_(std::move(files)), probe_(std::move(probe)) {}
 
   /// The table, null as long as it was not read.
   [[nodiscard]] const StringTable* loaded() const noexcept { return table_.get(); }
@@ -57,6 +59,7 @@ class TableFile {
   void forget() noexcept;
 
   std::shared_ptr<FileManager> files_;
+  std::shared_ptr<PrefixProbe> probe_;
   std::shared_ptr<const StringTable> table_;
   FileSighting sighting_;
   std::uint64_t contentHash_ = 0;

@@ -36,8 +36,9 @@ class MemoryFile final : public ReadableFile {
 };
 
 bool probeSays(std::string_view bytes, std::string_view prefix = kPrefix) {
+  static PrefixProbe probe;  // One for files of all forms, as in an application.
   MemoryFile file(bytes);
-  return mayHoldKeysWithPrefix(file, prefix);
+  return probe.mayHoldKeysWithPrefix(file, prefix);
 }
 
 bool tableHolds(std::string_view bytes, std::string_view prefix = kPrefix) {
@@ -120,7 +121,7 @@ const FormRow kFormRows[] = {
     {"empty", "", Expected::unseen},
     {"usual", statement("anything"), Expected::unseen},
     {"usual XML", xml("anything"), Expected::unseen},
-    {"usual escapes", "\"a\\n\\t\\r\\\"\\'\\\\\" = \"\\a\\b\\f\\v\";", Expected::unseen},
+    {"usual escapes", R"("a\n\t\r\"\'\\" = "\a\b\f\v";)", Expected::unseen},
     {"most of the prefix", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag"), Expected::unseen},
     {"another case", statement("CONFIG-DO_NOT_TRANSLATE-Orvantalanguage"), Expected::unseen},
     {"Chinese with the bytes of a backslash", statement("\u5C0F\u5C31\u4E5C\u555C\u5C55\u5C5C"),
@@ -148,11 +149,12 @@ TEST(PrefixProbe, SeesEverySpellingInEveryEncoding) {
 TEST(PrefixProbe, ReadsInPiecesOfAnySize) {
   const std::string held = statement(std::string(kPrefix));
   const std::string unseen = statement("anything");
+  PrefixProbe probe;
   for (const std::size_t most : {1U, 7U, 64U}) {
     MemoryFile holding(held, most);
-    EXPECT_TRUE(mayHoldKeysWithPrefix(holding, kPrefix)) << most;
+    EXPECT_TRUE(probe.mayHoldKeysWithPrefix(holding, kPrefix)) << most;
     MemoryFile lacking(unseen, most);
-    EXPECT_FALSE(mayHoldKeysWithPrefix(lacking, kPrefix)) << most;
+    EXPECT_FALSE(probe.mayHoldKeysWithPrefix(lacking, kPrefix)) << most;
   }
 }
 
@@ -160,15 +162,15 @@ TEST(PrefixProbe, TakesAnUnreadableFileForOneThatMayHoldAnything) {
   class Broken final : public ReadableFile {
     std::optional<std::size_t> read(std::span<char> /*buffer*/) override { return std::nullopt; }
   } broken;
-  EXPECT_TRUE(mayHoldKeysWithPrefix(broken, kPrefix));
+  EXPECT_TRUE(PrefixProbe().mayHoldKeysWithPrefix(broken, kPrefix));
 }
 
-// A binary property list of one dictionary with one pair; texts of fewer than 15 characters are
-// written out, the key as given.
+// A binary property list of one dictionary with one pair. An ASCII text of n characters, fewer than
+// 15, begins with the n-th letter behind "P".
 std::string binaryList(std::string_view keyObject) {
   std::string bytes = "bplist00";
   std::string offsets;
-  for (const std::string_view object : {"\xD1\1\2"sv, keyObject, "\x51x"sv}) {
+  for (const std::string_view object : {"\xD1\1\2"sv, keyObject, "Qx"sv}) {
     offsets.push_back(static_cast<char>(bytes.size()));
     bytes.append(object);
   }
@@ -186,7 +188,7 @@ TEST(PrefixProbe, SeesTheTextsOfBinaryLists) {
     EXPECT_TRUE(tableHolds(bytes));
     EXPECT_TRUE(probeSays(bytes));
   }
-  const std::string other = binaryList("\x53\\U0"sv);
+  const std::string other = binaryList(R"(S\U0)"sv);
   EXPECT_EQ(readStringTable(other)->size(), 1U);
   EXPECT_FALSE(probeSays(other)) << "binary lists know no escapes";
 }
@@ -266,7 +268,7 @@ TEST(PrefixProbe, AgreesWithTheTableOnRandomFiles) {
       key.replace(below(key.size()), below(2), pieces[below(std::size(pieces))]);
       text = isXml ? "<plist><dict><key>" + key : "\"" + key;
     }
-    text += isXml ? "</key><string>x</string></dict></plist>" : "\" = \"x\";";
+    text += isXml ? "</key><string>x</string></dict></plist>" : R"(" = "x";)";
     const std::string bytes = encode(kEncodings[below(std::size(kEncodings))], text);
     const bool says = probeSays(bytes, kShortPrefix);
     const bool holds = tableHolds(bytes, kShortPrefix);
