@@ -62,6 +62,7 @@ TYPED_TEST_P(MainQueueSuite, RunsTheStepsOfOtherThreadsOnTheMainOne) {
   std::atomic<int> ended = 0;
   std::vector<int> seen;  // By steps on the main thread alone.
   std::vector<std::thread> threads;
+  threads.reserve(4);
   for (int number = 0; number < 4; ++number) {
     threads.emplace_back([&, number] {
       bool ran = false;

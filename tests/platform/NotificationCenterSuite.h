@@ -188,6 +188,7 @@ TYPED_TEST_P(NotificationCenterSuite, MayBeUsedFromSeveralThreads) {
   std::atomic<bool> isOver = false;
   std::atomic<std::size_t> told = 0;
   std::vector<std::thread> threads;
+  threads.reserve(2);
   for (int number = 0; number < 2; ++number) {
     threads.emplace_back([&] {
       while (!isOver) {

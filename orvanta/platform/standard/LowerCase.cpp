@@ -1,8 +1,6 @@
+// The two declare the calls of POSIX as well.
 #include <clocale>
 #include <cwctype>
-
-#include <locale.h>
-#include <wctype.h>
 
 #include <orvanta/platform/Utf8.h>
 #include <orvanta/platform/standard/LowerCase.h>

@@ -58,8 +58,8 @@ TEST_F(StandardBundles, AreAbsentWithoutAFolder) {
 }
 
 TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
-  const std::string file = write("fr.lproj/Localizable.strings", "\"k\" = \"one\";");
-  write("fr.lproj/Other.strings", "\"k\" = \"other\";");
+  const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
+  write("fr.lproj/Other.strings", R"("k" = "other";)");
   const auto registry = registryFor();
   const auto bundle = registry->bundleWithPath(path("fr.lproj"));
   const String one = bundle->localizedStringForKey("k");
@@ -71,7 +71,7 @@ TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
   EXPECT_TRUE(bundle->localizedStringForKey("k").isSameObject(one)) << "nothing had changed";
 
   // Of the same length, in place, and at once: only the content tells.
-  write("fr.lproj/Localizable.strings", "\"k\" = \"two\";");
+  write("fr.lproj/Localizable.strings", R"("k" = "two";)");
   EXPECT_EQ(bundle->localizedStringForKey("k"), "one") << "not opened again yet";
   EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
   EXPECT_EQ(bundle->localizedStringForKey("k"), "two");
@@ -80,7 +80,7 @@ TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
   EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
   EXPECT_EQ(bundle->localizedStringForKey("k"), "k");
 
-  write("fr.lproj/Localizable.strings", "\"k\" = \"back\";");
+  write("fr.lproj/Localizable.strings", R"("k" = "back";)");
   EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
   EXPECT_EQ(bundle->localizedStringForKey("k"), "back");
   EXPECT_EQ(one, "one") << "what was handed out stays";
@@ -101,15 +101,15 @@ TEST_F(StandardBundles, ListLanguageFolders) {
 }
 
 TEST_F(StandardBundles, MainBundleFallsBackOnItsPreferredLocalization) {
-  write("fr.lproj/Localizable.strings", "\"k\" = \"fr\";");
-  write("en.lproj/Localizable.strings", "\"k\" = \"en\";");
+  write("fr.lproj/Localizable.strings", R"("k" = "fr";)");
+  write("en.lproj/Localizable.strings", R"("k" = "en";)");
   write("fr.lproj/image.png", "");
   const auto registry = registryFor();
   const auto main = registry->mainBundle();
   EXPECT_EQ(main->localizedStringForKey("k"), "fr");
   EXPECT_EQ(main->pathForResource("image", "png"), String(path("fr.lproj/image.png")));
 
-  write("Localizable.strings", "\"k\" = \"direct\";");
+  write("Localizable.strings", R"("k" = "direct";)");
   EXPECT_EQ(registry->bundleWithPath(folder()), main);
   EXPECT_EQ(main->localizedStringForKey("k"), "direct");
 }
@@ -147,7 +147,7 @@ TEST_F(StandardBundles, NeedNoTableToKnowThatSharedPrefixesAreNotThere) {
   const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
                                        HashedKey("CONFIG-Language-B")};
   const std::vector<String> none(2);
-  const std::string file = write("fr.lproj/Localizable.strings", "\"k\" = \"one\";");
+  const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
   const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
   std::filesystem::last_write_time(file, longAgo);
   CountedOpening opening;
@@ -161,19 +161,19 @@ TEST_F(StandardBundles, NeedNoTableToKnowThatSharedPrefixesAreNotThere) {
   EXPECT_EQ(open()->textsForKeys(keys), none);
   EXPECT_EQ(opening.countSinceLast(), 1) << "the table answers once it is read";
 
-  write("fr.lproj/Localizable.strings", "\"CONFIG-Language-\\U0042\" = \"b\";");
+  write("fr.lproj/Localizable.strings", R"("CONFIG-Language-\U0042" = "b";)");
   EXPECT_EQ(open()->textsForKeys(keys), (std::vector<String>{{}, "b"}));
-  write("fr.lproj/Localizable.strings", "\"CONFIG-Language-A\" = \"a\";");
+  write("fr.lproj/Localizable.strings", R"("CONFIG-Language-A" = "a";)");
   EXPECT_EQ(open()->textsForKeys(keys), (std::vector<String>{"a", {}}));
   std::filesystem::remove(file);
   EXPECT_EQ(open()->textsForKeys(keys), none);
 }
 
 TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
-  const std::string file = write("fr.lproj/Localizable.strings", "\"k\" = \"one\";");
+  const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
   const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
   std::filesystem::last_write_time(file, longAgo);
-  write("de.lproj/Localizable.strings", "\"k\" = \"eins\";");
+  write("de.lproj/Localizable.strings", R"("k" = "eins";)");
   write("it.lproj/Localizable.strings", "\0\1\2 no table");
   CountedOpening opening;
   const auto registry = makeBundleRegistry(opening.files(), makeLocaleData({}), folder(), {});
