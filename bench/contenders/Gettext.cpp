@@ -7,6 +7,7 @@
 
 #include <libintl.h>
 
+#include "data/Escaped.h"
 #include "harness/Files.h"
 
 namespace orvanta::bench::gettext {
@@ -15,16 +16,7 @@ namespace {
 
 void appendQuoted(std::string& out, std::string_view text) {
   out += '"';
-  for (const char character : text) {
-    if (character == '\n') {
-      out += "\\n";
-      continue;
-    }
-    if (character == '"' || character == '\\') {
-      out += '\\';
-    }
-    out += character;
-  }
+  appendEscaped(out, text);
   out += "\"\n";
 }
 

@@ -4,6 +4,7 @@
 
 #include <unicode/unistr.h>
 
+#include "data/Escaped.h"
 #include "harness/Files.h"
 
 namespace orvanta::bench::icu {
@@ -12,16 +13,7 @@ namespace {
 
 void appendQuoted(std::string& out, std::string_view text) {
   out += '"';
-  for (const char character : text) {
-    if (character == '\n') {
-      out += "\\n";
-      continue;
-    }
-    if (character == '"' || character == '\\') {
-      out += '\\';
-    }
-    out += character;
-  }
+  appendEscaped(out, text);
   out += '"';
 }
 

@@ -1,22 +1,10 @@
+#include "data/Escaped.h"
 #include "data/TableForms.h"
 #include "data/Utf16.h"
 
 namespace orvanta::bench {
 
 namespace {
-
-void appendEscaped(std::string& out, std::string_view text) {
-  for (const char character : text) {
-    if (character == '\n') {
-      out += "\\n";
-      continue;
-    }
-    if (character == '"' || character == '\\') {
-      out += '\\';
-    }
-    out += character;
-  }
-}
 
 void appendField(std::string& out, std::string_view text) {
   for (const char character : text) {

@@ -184,7 +184,7 @@ StringsUpdate OVStringCache::updateLanguage(const String& language, const String
   const URL folder = cacheDirectoryURL();
   const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(folder, language);
   const auto error =
-      writeTable(OVStringCacheUtilities::localizableStringsFile(*table), file, folder);
+      writeTableInside(folder, OVStringCacheUtilities::localizableStringsFile(*table), file);
   if (!error) {
     return {language, StringsUpdate::Result::written, file, {}};
   }

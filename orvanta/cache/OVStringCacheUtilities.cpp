@@ -58,16 +58,25 @@ URL stringsFileURLForLanguage(const URL& directory, const String& language) {
 }
 
 String localizableStringsFile(const StringsPayload& table) {
+  constexpr std::string_view kBeforeKey = "/* */\n\"";
+  constexpr std::string_view kBeforeValue = "\" = \"";
+  constexpr std::string_view kBehindValue = "\";\n\n";
+  std::size_t size = 0;
+  for (const auto& [key, value] : table.entries()) {
+    size += kBeforeKey.size() + key.size() + kBeforeValue.size() + value.text().size() +
+            kBehindValue.size();
+  }
   std::string text;
+  text.reserve(size);
   for (const auto& [key, value] : table.entries()) {
     if (value.text().empty() || key.empty()) {
       continue;
     }
-    text += "/* */\n\"";
+    text += kBeforeKey;
     text += key.view();
-    text += "\" = \"";
+    text += kBeforeValue;
     text += value.text().view();
-    text += "\";\n\n";
+    text += kBehindValue;
   }
   return text;
 }
@@ -75,7 +84,7 @@ String localizableStringsFile(const StringsPayload& table) {
 void saveLanguageStringForLanguage(const String& text, const String& /*language*/,
                                    const URL& file) {
   if (text.isPresent()) {
-    static_cast<void>(writeTable(text, file, {}));
+    static_cast<void>(writeTable(text, file));
   }
 }
 

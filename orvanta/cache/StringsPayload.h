@@ -24,7 +24,8 @@ class ORVANTA_EXPORT StringsPayload {
 
   [[nodiscard]] static StringsPayload dictionary(std::vector<Entry> entries = {});
 
-  /// Adds an entry and makes this a dictionary if it was none. Of a repeated key the last holds.
+  /// Adds an entry and makes this a dictionary if it was none. Keys are meant to differ; a look-up
+  /// finds the last of those that do not.
   void add(String key, StringsPayload value);
 
   [[nodiscard]] bool isText() const noexcept { return !isDictionary_ && text_.isPresent(); }

@@ -31,27 +31,29 @@ bool isAsciiBlock(const char* bytes) {
   return (block & 0x8080808080808080) == 0;
 }
 
-FileOutcome replaceTable(const String& text, const URL& file, const URL& within) {
-  platform::FileManager& files = *Platform::current().files;
-  if (file.isAbsent()) {
-    return FileError{EINVAL, "no URL can hold this language's name"_s};
-  }
-  const String path = within.isAbsent() ? file.path() : confinedPath(files, file, within);
-  if (path.isAbsent()) {
-    return within.isAbsent() ? FileError{EINVAL, "the URL is not that of a file"_s}
-                             : FileError{EPERM, "the file would not be inside the cache folder"_s};
-  }
-  if (!utf8::isValid(text.view())) {
+FileOutcome replaceTable(const String& text, const String& path) {
+  const std::optional<std::string> bytes = utf16WithByteOrderMark(text.view());
+  if (!bytes) {
     return FileError{EILSEQ, "the table is not valid UTF-8"_s};
   }
   OVStringCacheUtilities::createDirectoryIfNeeded(
       URL::fileURLWithPath(path::stringByDeletingLastPathComponent(path), true));
-  return replaceFile(files, path, utf16WithByteOrderMark(text.view()));
+  return replaceFile(*Platform::current().files, path, *bytes);
+}
+
+FileOutcome logged(FileOutcome outcome, const URL& file) {
+  const std::string_view name =
+      file.isAbsent() ? std::string_view("(null)") : file.absoluteString().view();
+  std::string message = outcome ? "error saving strings file " : "file ";
+  message += name;
+  message += outcome ? "" : " written to cache";
+  Platform::current().log->log(message);
+  return outcome;
 }
 
 }  // namespace
 
-std::string utf16WithByteOrderMark(std::string_view utf8) {
+std::optional<std::string> utf16WithByteOrderMark(std::string_view utf8) {
   std::string units(2 + 2 * utf8.size(), '\0');
   char* out = put(units.data(), 0xFEFF);
   while (!utf8.empty()) {
@@ -63,6 +65,9 @@ std::string utf16WithByteOrderMark(std::string_view utf8) {
       continue;
     }
     const utf8::Decoded next = utf8::decode(utf8);
+    if (!next.valid) {
+      return std::nullopt;
+    }
     if (next.codePoint > 0xFFFF) {
       out = put(out, 0xD800 + ((next.codePoint - 0x10000) >> 10));
       out = put(out, 0xDC00 + ((next.codePoint - 0x10000) & 0x3FF));
@@ -75,15 +80,22 @@ std::string utf16WithByteOrderMark(std::string_view utf8) {
   return units;
 }
 
-FileOutcome writeTable(const String& text, const URL& file, const URL& within) {
-  FileOutcome outcome = replaceTable(text, file, within);
-  const std::string_view name =
-      file.isAbsent() ? std::string_view("(null)") : file.absoluteString().view();
-  std::string message = outcome ? "error saving strings file " : "file ";
-  message += name;
-  message += outcome ? "" : " written to cache";
-  Platform::current().log->log(message);
-  return outcome;
+FileOutcome writeTable(const String& text, const URL& file) {
+  const String path = file.path();
+  return logged(path.isAbsent() ? FileError{EINVAL, "the URL is not that of a file"_s}
+                                : replaceTable(text, path),
+                file);
+}
+
+FileOutcome writeTableInside(const URL& folder, const String& text, const URL& file) {
+  if (file.isAbsent()) {
+    return logged(FileError{EINVAL, "no URL can hold this language's name"_s}, file);
+  }
+  const String path = confinedPath(*Platform::current().files, file, folder);
+  return logged(path.isAbsent()
+                    ? FileError{EPERM, "the file would not be inside the cache folder"_s}
+                    : replaceTable(text, path),
+                file);
 }
 
 }  // namespace orvanta

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,13 +10,15 @@
 
 namespace orvanta {
 
-/// The text as UTF-16, little-endian, with a byte-order mark. It must be valid UTF-8.
-[[nodiscard]] std::string utf16WithByteOrderMark(std::string_view utf8);
+/// The text as UTF-16, little-endian, with a byte-order mark; absent when it is not valid UTF-8.
+[[nodiscard]] std::optional<std::string> utf16WithByteOrderMark(std::string_view utf8);
 
 /// Writes a table's text to `file`, making its folder, and logs how that ended. Fails, and touches
-/// nothing, when the text is not valid UTF-8 or the file is not inside the folder `within`; an
-/// absent folder confines nothing.
-[[nodiscard]] platform::FileOutcome writeTable(const String& text, const platform::URL& file,
-                                               const platform::URL& within);
+/// nothing, when the text is not valid UTF-8.
+[[nodiscard]] platform::FileOutcome writeTable(const String& text, const platform::URL& file);
+
+/// The same for a file whose name comes from elsewhere: fails also when it is not inside `folder`.
+[[nodiscard]] platform::FileOutcome writeTableInside(const platform::URL& folder,
+                                                     const String& text, const platform::URL& file);
 
 }  // namespace orvanta

@@ -76,7 +76,7 @@ void UILocalizedButton::refresh(const String& locale) {
 }
 
 void UILocalizedButton::refreshStrings() {
-  // Set twice: some toolkits settle a title only when it is set again.
+  // Twice on purpose, with the same result: whoever watches the titles sees each set two times.
   takeSteps([&] { setTitlesFromKey(originalKey()); }, [&] { setTitlesFromKey(originalKey()); },
             [&] { refreshAccessibility(button_); });
 }

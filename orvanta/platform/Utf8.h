@@ -25,7 +25,8 @@ struct Decoded {
 /// Appends one character; what is no Unicode scalar value is written as U+FFFD.
 ORVANTA_EXPORT void append(std::string& out, char32_t codePoint);
 
-/// True when every byte belongs to a valid sequence.
+/// True when every byte belongs to a valid sequence; looks at one character at a time, and is what
+/// faster answers are held against.
 [[nodiscard]] ORVANTA_EXPORT bool isValid(std::string_view text) noexcept;
 
 }  // namespace orvanta::utf8

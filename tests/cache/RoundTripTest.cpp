@@ -40,7 +40,8 @@ TEST(RoundTrip, WhatIsWrittenReadsBackEqual) {
     const String text =
         OVStringCacheUtilities::localizableStringsFile(test::tableOf({pairs.begin(), pairs.end()}));
     const auto read = platform::standard::readStringTable(
-        utf16WithByteOrderMark(text.view()), [](const platform::standard::TableProblem& problem) {
+        utf16WithByteOrderMark(text.view()).value(),
+        [](const platform::standard::TableProblem& problem) {
           ADD_FAILURE() << problem.line << ": " << problem.message;
         });
     ASSERT_NE(read, nullptr);

@@ -5,6 +5,7 @@
 #include <orvanta/platform/standard/strings/TextEncoding.h>
 #include <orvanta/platform/standard/strings/Utf16ToUtf8.h>
 #include <orvanta/platform/standard/strings/Utf8Output.h>
+#include <orvanta/platform/standard/strings/Utf8Validity.h>
 
 namespace orvanta::platform::standard {
 
@@ -141,10 +142,14 @@ std::size_t Utf8Transcoder::transcode(char* out, std::size_t room) noexcept {
 }
 
 WholeUtf8::WholeUtf8(EncodedText text) {
+  if (text.encoding == TextEncoding::kUtf8 && isValidUtf8(text.bytes)) {
+    view_ = text.bytes;
+    return;
+  }
   Utf8Transcoder transcoder(text);
   const std::size_t room = transcoder.roomForRest();
   bytes_ = std::make_unique_for_overwrite<char[]>(room);
-  size_ = transcoder.transcode(bytes_.get(), room);
+  view_ = {bytes_.get(), transcoder.transcode(bytes_.get(), room)};
 }
 
 }  // namespace orvanta::platform::standard

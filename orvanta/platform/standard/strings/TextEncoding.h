@@ -44,17 +44,17 @@ class Utf8Transcoder {
   const char* end_;
 };
 
-/// All of a text as UTF-8, at once.
+/// All of a text as UTF-8, at once. Valid UTF-8 is not copied.
 class WholeUtf8 {
  public:
   explicit WholeUtf8(EncodedText text);
 
-  /// Valid as long as this object lives.
-  [[nodiscard]] std::string_view view() const noexcept { return {bytes_.get(), size_}; }
+  /// Valid as long as this object and the bytes that it was made from live.
+  [[nodiscard]] std::string_view view() const noexcept { return view_; }
 
  private:
   std::unique_ptr<char[]> bytes_;
-  std::size_t size_ = 0;
+  std::string_view view_;
 };
 
 }  // namespace orvanta::platform::standard
