@@ -33,7 +33,7 @@ constexpr Family kFamilies[] = {
 };
 
 constexpr std::string_view kHelp =
-    "usage: bench/run [--help] [FAMILY...]\n"
+    "usage: bench/run [--help] [--contender=NAME] [FAMILY...]\n"
     "\n"
     "Measures the library and the alternatives to it, prints a Markdown table of all rows and\n"
     "another of how our cost grows, and writes the first to build/bench.json.\n"
@@ -48,11 +48,14 @@ constexpr std::string_view kHelp =
     "the variable LANGUAGE; ICU with bundles of genrb, its answers left in UTF-16; Qt with .qm\n"
     "files of lrelease, asked by text identifier.\n"
     "\n"
+    "--contender runs one contender alone, for a profiler.\n"
+    "\n"
     "Families of rows, all of them unless some are named:";
 
 struct Arguments {
   std::string json = "build/bench.json";
   std::string scratch = "build/bench/data";
+  std::string contender;
   std::vector<std::string_view> families;
   bool help = false;
 };
@@ -65,6 +68,8 @@ Arguments parse(int count, char** words) {
       arguments.help = true;
     } else if (word.starts_with("--json=")) {
       arguments.json = word.substr(word.find('=') + 1);
+    } else if (word.starts_with("--contender=")) {
+      arguments.contender = word.substr(word.find('=') + 1);
     } else if (word.starts_with("--scratch=")) {
       arguments.scratch = word.substr(word.find('=') + 1);
     } else if (std::any_of(std::begin(kFamilies), std::end(kFamilies),
@@ -95,7 +100,7 @@ void startWithUsualHeap() {
 
 void runFamilies(const Arguments& arguments) {
   startWithUsualHeap();
-  bench::Bench session(std::filesystem::absolute(arguments.scratch));
+  bench::Bench session(std::filesystem::absolute(arguments.scratch), arguments.contender);
   bench::gettext::chooseLanguages("fr:en");
   for (const Family& family : kFamilies) {
     const auto& wanted = arguments.families;

@@ -13,8 +13,8 @@ namespace orvanta::fuzz {
 
 namespace {
 
+using platform::StringTable;
 using platform::standard::readStringTable;
-using platform::standard::StringTable;
 using platform::standard::TableProblem;
 
 // An entry costs at most an index slot or two besides its characters; the shortest statement that

@@ -1,10 +1,15 @@
 #include "harness/Bench.h"
 
 #include <iostream>
+#include <vector>
 
 namespace orvanta::bench {
 
-void Bench::run(const Row& row) {
+void Bench::run(Row row) {
+  if (!onlyContender_.empty()) {
+    std::erase_if(row.contenders,
+                  [&](const Contender& each) { return each.name != onlyContender_; });
+  }
   std::clog << row.name << "..." << std::endl;
   report_.add(row, measure(row));
 }

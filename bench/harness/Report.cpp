@@ -89,7 +89,7 @@ void Report::printTable(std::ostream& out) const {
     for (const Measurement& measurement : measurements) {
       const bool isMemory = measurement.bytes > 0;
       const double ratio = ratioOf(measurement, measurements);
-      const bool hasGoal = row.goal && measurement.contender == kOurs;
+      const bool hasGoal = row.goal && measurement.contender == kOurs && ratio > 0;
       out << "| " << row.name << " | " << measurement.contender << " | "
           << (isMemory ? asBytes(measurement.bytes) : asTime(measurement.median)) << " | "
           << (isMemory ? "" : asTime(measurement.least) + " – " + asTime(measurement.most)) << " | "

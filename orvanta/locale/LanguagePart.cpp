@@ -26,7 +26,7 @@ std::string_view languagePart(std::string_view identifier) noexcept {
 }
 
 String languagePart(const String& identifier) {
-  return identifier.prefix(languagePart(identifier.view()).size());
+  return identifier.substring(0, languagePart(identifier.view()).size());
 }
 
 }  // namespace orvanta

@@ -74,19 +74,45 @@ void Localizer::updatePreferredLocales(const StringList& languages, const String
 }
 
 String Localizer::localizedStringForKey(const String& key) {
-  if (!hasBundleForLookUp() || key.isAbsent()) {
-    return {};
-  }
-  String text = textInCurrentLanguageOrEnglish(key.view());
-  return text.isPresent() ? text : key;
+  return hasBundleForLookUp() && key.isPresent() ? textOrKey(key.view(), key) : String();
 }
 
 String Localizer::localizedStringForKey(std::string_view key) {
-  if (!hasBundleForLookUp()) {
-    return {};
+  return hasBundleForLookUp() ? textOrKey(key, key) : String();
+}
+
+// The two parts of a look-up: what nearly every one needs, without a call on the way, and the rest.
+template <typename Key>
+[[gnu::always_inline]] inline String Localizer::textOrKey(std::string_view characters,
+                                                          const Key& key) {
+  if (defaultLocaleBundle_ == nullptr) {
+    // Whether or not the current language has the text: the first look-up settles the memo.
+    static_cast<void>(defaultLocaleBundle());
   }
-  String text = textInCurrentLanguageOrEnglish(key);
-  return text.isPresent() ? text : String(key);
+  const HashedKey hashed(characters);
+  const platform::StringTable* table = currentLanguageBundle_->loadedDefaultTable();
+  const std::string_view text = table == nullptr ? std::string_view() : table->find(hashed);
+  return text.data() == nullptr ? textElsewhereOrKey(hashed, key) : table->handleTo(text);
+}
+
+template <typename Key>
+String Localizer::textElsewhereOrKey(HashedKey hashed, const Key& key) {
+  if (currentLanguageBundle_->loadedDefaultTable() == nullptr) {
+    String text = currentLanguageBundle_->textForKey(hashed, {});
+    if (text.isPresent()) {
+      return text;
+    }
+  }
+  if (defaultLocaleBundle_ == nullptr || defaultLocaleBundle_ == currentLanguageBundle_.get()) {
+    return String(key);
+  }
+  // An empty English text is an empty default value, which gives way to the key.
+  if (const platform::StringTable* english = defaultLocaleBundle_->loadedDefaultTable()) {
+    const std::string_view text = english->find(hashed);
+    return text.empty() ? String(key) : english->handleTo(text);
+  }
+  String text = defaultLocaleBundle_->textForKey(hashed, {});
+  return text.empty() ? String(key) : text;
 }
 
 bool Localizer::hasBundleForLookUp() {
@@ -94,19 +120,6 @@ bool Localizer::hasBundleForLookUp() {
     useDefaultLocale();
   }
   return currentLanguageBundle_ != nullptr;
-}
-
-String Localizer::textInCurrentLanguageOrEnglish(std::string_view key) {
-  // Read whether or not the current language has the text: the first look-up settles the memo.
-  const Bundle* english = defaultLocaleBundle();
-  const HashedKey hashed(key);
-  String text = currentLanguageBundle_->textForKey(hashed, {});
-  if (text.isPresent() || english == currentLanguageBundle_.get() || english == nullptr) {
-    return text;
-  }
-  text = english->textForKey(hashed, {});
-  // An empty English text is an empty default value, which gives way to the key.
-  return text.empty() ? String() : text;
 }
 
 String Localizer::currentLocalesString() const {

@@ -185,8 +185,11 @@ class ORVANTA_EXPORT Localizer {
   void adopt(const StringList& matched, StringList raw);
   // Goes back to the device's choice when there is no current bundle; false when that has none.
   [[nodiscard]] bool hasBundleForLookUp();
-  // Absent when neither has one. There must be a current bundle.
-  [[nodiscard]] String textInCurrentLanguageOrEnglish(std::string_view key);
+  // There must be a current bundle. `key` is what becomes the result when no language has a text.
+  template <typename Key>
+  [[nodiscard]] String textOrKey(std::string_view characters, const Key& key);
+  template <typename Key>
+  [[nodiscard]] String textElsewhereOrKey(HashedKey hashed, const Key& key);
 
   bool rightToLeftOrientation_ = false;
   StringList originalLocales_;

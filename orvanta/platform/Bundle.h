@@ -7,6 +7,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
+#include <orvanta/platform/StringTable.h>
 #include <orvanta/platform/TextHash.h>
 #include <orvanta/platform/URL.h>
 
@@ -46,9 +47,16 @@ class ORVANTA_EXPORT Bundle {
   [[nodiscard]] String localizedStringForKey(const String& key, const String& value = {},
                                              const String& table = {}) const;
 
-  /// The text found under `key`, absent when the table has no such entry. What
-  /// `localizedStringForKey` is made of, for callers who ask several tables for one key.
+  /// The text found under `key`, absent when the table has no such entry; the table "Localizable"
+  /// when `table` is absent or empty. What `localizedStringForKey` is made of, for callers who ask
+  /// several tables for one key.
   [[nodiscard]] virtual String textForKey(const HashedKey& key, const String& table) const = 0;
+
+  /// The table "Localizable" where the bundle has it in memory, which then answers as `textForKey`
+  /// would, without a virtual call; null otherwise.
+  [[nodiscard]] const StringTable* loadedDefaultTable() const noexcept {
+    return loadedDefaultTable_;
+  }
 
   /// The same for several keys of the table "Localizable" at once, one result for each. Worth its
   /// own operation because a bundle may answer that none of them is there without building a table.
@@ -56,6 +64,15 @@ class ORVANTA_EXPORT Bundle {
 
  protected:
   Bundle() = default;
+
+  /// `table` must stay until something else is set.
+  void setLoadedDefaultTable(const StringTable* table) const noexcept {
+    loadedDefaultTable_ = table;
+  }
+
+ private:
+  // What the bundle found out already; part of no answer.
+  mutable const StringTable* loadedDefaultTable_ = nullptr;
 };
 
 /// Opens bundles and keeps them: one object for each path, never freed.

@@ -1,15 +1,53 @@
 #include <algorithm>
+#include <cstdlib>
+#include <new>
 
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/Utf8.h>
 
 namespace orvanta {
 
+namespace {
+
+// A text in one block with its count. Of size 1 at least, so that the empty text is an object.
+class CopiedText final : public TextStorage {
+ public:
+  static CopiedText* make(std::string_view text) {
+    void* block = ::operator new(sizeof(CopiedText) + std::max<std::size_t>(text.size(), 1));
+    auto* made = new (block) CopiedText;
+    std::copy(text.begin(), text.end(), made->characters());
+    return made;
+  }
+  // The block is larger than the object.
+  static void operator delete(void* block) { ::operator delete(block); }
+
+  char* characters() noexcept { return reinterpret_cast<char*>(this + 1); }
+
+ private:
+  CopiedText() noexcept = default;
+};
+
+class TakenOverText final : public TextStorage {
+ public:
+  explicit TakenOverText(char* block) noexcept : block_(block) {}
+  TakenOverText(const TakenOverText&) = delete;
+  TakenOverText& operator=(const TakenOverText&) = delete;
+  ~TakenOverText() override { std::free(block_); }
+
+ private:
+  char* block_;
+};
+
+}  // namespace
+
 String::String(std::string_view text) : size_(text.size()) {
-  // One block for the text and its count; of size 1 at least, so that the empty text is an object.
-  auto storage = std::make_shared<char[]>(std::max<std::size_t>(text.size(), 1));
-  std::copy(text.begin(), text.end(), storage.get());
-  text_ = std::shared_ptr<const char>(storage, storage.get());
+  auto* copy = CopiedText::make(text);
+  text_ = copy->characters();
+  storage_ = copy;
+}
+
+String String::takingOver(char* block, std::size_t size) {
+  return {block, size, new TakenOverText(block)};
 }
 
 String::String(const char* text) {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include <orvanta/Export.h>
+#include <orvanta/platform/TextStorage.h>
 
 namespace orvanta {
 
@@ -32,14 +32,36 @@ class ORVANTA_EXPORT String {
   String(const char* text);
   // NOLINTEND(google-explicit-constructor)
 
-  /// A handle to text that lives inside `owner`'s storage; `text.data()` must not be null.
-  static String sharing(const std::shared_ptr<const void>& owner, std::string_view text) noexcept {
-    return {std::shared_ptr<const char>(owner, text.data()), text.size()};
-  }
-
   /// A handle to text that lives as long as the process, such as a literal. Never allocates.
   static String fromStatic(std::string_view text) noexcept {
-    return {std::shared_ptr<const char>(std::shared_ptr<const void>(), text.data()), text.size()};
+    return {text.data(), text.size(), nullptr};
+  }
+
+  /// Text that stands at the start of a block of `std::malloc`, which its last handle frees.
+  static String takingOver(char* block, std::size_t size);
+
+  String(const String& other) noexcept
+      : text_(other.text_), size_(other.size_), storage_(other.storage_) {
+    if (storage_ != nullptr) {
+      storage_->retain();
+    }
+  }
+  String(String&& other) noexcept
+      : text_(std::exchange(other.text_, nullptr)),
+        size_(std::exchange(other.size_, 0)),
+        storage_(std::exchange(other.storage_, nullptr)) {}
+  String& operator=(const String& other) noexcept { return *this = String(other); }
+  String& operator=(String&& other) noexcept {
+    String incoming(std::move(other));
+    std::swap(text_, incoming.text_);
+    std::swap(size_, incoming.size_);
+    std::swap(storage_, incoming.storage_);
+    return *this;
+  }
+  ~String() {
+    if (storage_ != nullptr) {
+      storage_->release();
+    }
   }
 
   [[nodiscard]] bool isAbsent() const noexcept { return text_ == nullptr; }
@@ -56,11 +78,16 @@ class ORVANTA_EXPORT String {
   [[nodiscard]] std::size_t utf16Length() const noexcept;
 
   /// The characters, valid as long as some handle to this text lives; empty when absent.
-  [[nodiscard]] std::string_view view() const noexcept { return {text_.get(), size_}; }
+  [[nodiscard]] std::string_view view() const noexcept { return {text_, size_}; }
   [[nodiscard]] std::string str() const { return std::string(view()); }
 
-  /// The first `count` bytes, at most `size`, as a handle that shares this text's storage.
-  [[nodiscard]] String prefix(std::size_t count) const noexcept { return {text_, count}; }
+  /// The `count` bytes from `start` on, all inside the text, as a handle that shares its storage.
+  [[nodiscard]] String substring(std::size_t start, std::size_t count) const noexcept {
+    if (storage_ != nullptr) {
+      storage_->retain();
+    }
+    return {text_ + start, count, storage_};
+  }
 
   /// Identity: both handles lead to the same text object. Absent is the same object as absent.
   [[nodiscard]] bool isSameObject(const String& other) const noexcept {
@@ -81,11 +108,13 @@ class ORVANTA_EXPORT String {
   friend ORVANTA_EXPORT std::ostream& operator<<(std::ostream& out, const String& text);
 
  private:
-  String(std::shared_ptr<const char> text, std::size_t size) noexcept
-      : text_(std::move(text)), size_(size) {}
+  // Takes over one count of `storage`.
+  String(const char* text, std::size_t size, TextStorage* storage) noexcept
+      : text_(text), size_(size), storage_(storage) {}
 
-  std::shared_ptr<const char> text_;
+  const char* text_ = nullptr;
   std::size_t size_ = 0;
+  TextStorage* storage_ = nullptr;
 };
 
 inline namespace literals {

@@ -1,64 +1,53 @@
 #include <chrono>
-#include <cstring>
+#include <exception>
 #include <random>
 
 #include <orvanta/platform/TextHash.h>
 
-namespace orvanta {
+namespace orvanta::hashing {
 
 namespace {
 
-// Odd constants without structure (the fractional digits of pi).
-constexpr std::uint64_t kFirst = 0x243F6A8885A308D3;
-constexpr std::uint64_t kSecond = 0x13198A2E03707345;
+// The step of the generator SplitMix64.
+std::uint64_t nextWord(std::uint64_t& state) noexcept {
+  state += 0x9E3779B97F4A7C15;
+  std::uint64_t word = state;
+  word = (word ^ (word >> 30)) * 0xBF58476D1CE4E5B9;
+  word = (word ^ (word >> 27)) * 0x94D049BB133111EB;
+  return word ^ (word >> 31);
+}
 
-std::uint64_t makeSeed() noexcept {
-  const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-  std::uint64_t seed = static_cast<std::uint64_t>(now) * kFirst;
+bool fillSecrets() noexcept {
+  auto state =
+      static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
   try {
     std::random_device device;
-    seed ^= (static_cast<std::uint64_t>(device()) << 32) ^ device();
+    state ^= (static_cast<std::uint64_t>(device()) << 32) ^ device();
   } catch (const std::exception&) {
     // No source of randomness: the clock alone still differs between runs.
   }
-  return seed;
-}
-
-std::uint64_t load(const char* bytes, std::size_t count) noexcept {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, count);
-  return word;
-}
-
-// The full product folded on itself: every bit of both factors reaches every bit of the result.
-std::uint64_t fold(std::uint64_t a, std::uint64_t b) noexcept {
-  __extension__ using Wide = unsigned __int128;
-  const Wide product = static_cast<Wide>(a) * b;
-  return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+  for (std::uint64_t& word : secrets.words) {
+    word = nextWord(state);
+  }
+  secrets.areDrawn.store(true, std::memory_order_release);
+  return true;
 }
 
 }  // namespace
 
-std::uint64_t textHash(std::string_view text) noexcept {
-  static const std::uint64_t seed = makeSeed();
-  const char* bytes = text.data();
-  std::size_t left = text.size();
-  std::uint64_t hash = seed ^ (left * kSecond);
-  while (left > 16) {
-    hash = fold(load(bytes, 8) ^ kFirst, load(bytes + 8, 8) ^ hash);
-    bytes += 16;
-    left -= 16;
-  }
-  std::uint64_t low = 0;
-  std::uint64_t high = 0;
-  if (left >= 8) {
-    // The last 16 bytes or fewer as two words that may overlap: no loop over single bytes.
-    low = load(bytes, 8);
-    high = load(bytes + left - 8, 8);
-  } else if (left > 0) {
-    low = load(bytes, left);
-  }
-  return fold(low ^ kSecond, high ^ hash ^ kFirst);
+// Needs no code to be made: hashes may be wanted while static objects are.
+constinit Secrets secrets;
+
+void drawSecrets() noexcept {
+  [[maybe_unused]] static const bool areDrawn = fillSecrets();
 }
 
-}  // namespace orvanta
+std::uint64_t ofLong(const char* bytes, std::size_t size, const std::uint64_t* words) noexcept {
+  std::uint64_t hash = size;
+  for (; size > 64; size -= 16, bytes += 16) {
+    hash = fold(load(bytes) ^ words[0], load(bytes + 8) ^ words[1] ^ hash);
+  }
+  return fold(ofUsual(bytes, size, words) ^ words[2], hash ^ words[3]);
+}
+
+}  // namespace orvanta::hashing

@@ -12,7 +12,7 @@ namespace ovlocalize {
 
 namespace {
 
-using orvanta::platform::standard::StringTable;
+using orvanta::platform::StringTable;
 using orvanta::platform::standard::TableProblem;
 
 std::string fileOf(const Settings& settings, const Source& source) {

@@ -16,7 +16,7 @@ namespace orvanta::platform::standard {
 namespace {
 
 constexpr std::string_view kLanguageFolderExtension = ".lproj";
-constexpr std::string_view kDefaultTable = "Localizable";
+const String kDefaultTable = "Localizable"_s;
 
 // True for a link to a folder, too: a "." behind it asks what it leads to.
 bool isFolder(FileManager& files, const String& path) {
@@ -85,10 +85,6 @@ class StandardBundle final : public Bundle {
   }
 
   String textForKey(const HashedKey& key, const String& table) const override {
-    if (table.empty()) {
-      const StringTable* loaded = defaultTable_.loaded();
-      return (loaded != nullptr ? *loaded : loadDefaultTable()).textForKey(key);
-    }
     return tableNamed(table).textForKey(key);
   }
 
@@ -98,6 +94,7 @@ class StandardBundle final : public Bundle {
 
   void openAgain() {
     checkAgain(defaultTable_, kDefaultTable);
+    setLoadedDefaultTable(defaultTable_.loaded());
     for (auto& [name, table] : otherTables_) {
       checkAgain(table, name);
     }
@@ -128,14 +125,16 @@ class StandardBundle final : public Bundle {
             defaultTable_.findOutWhetherItLacks(prefix, pathOfTable(kDefaultTable)));
   }
 
-  const StringTable& loadDefaultTable() const {
-    return defaultTable_.load(pathOfTable(kDefaultTable));
+  const StringTable& tableNamed(const String& name) const {
+    if (name.empty() || name == kDefaultTable) {
+      const StringTable& table = loadedTable(defaultTable_, kDefaultTable);
+      setLoadedDefaultTable(&table);
+      return table;
+    }
+    return loadedTable(otherTables_.try_emplace(name, files_, probe_).first->second, name);
   }
 
-  const StringTable& tableNamed(const String& name) const {
-    const bool isDefault = name == kDefaultTable;
-    TableFile& table =
-        isDefault ? defaultTable_ : otherTables_.try_emplace(name, files_, probe_).first->second;
+  const StringTable& loadedTable(TableFile& table, const String& name) const {
     const StringTable* loaded = table.loaded();
     return loaded != nullptr ? *loaded : table.load(pathOfTable(name));
   }

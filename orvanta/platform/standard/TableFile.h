@@ -8,8 +8,8 @@
 #include <utility>
 
 #include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/StringTable.h>
 #include <orvanta/platform/standard/PrefixProbe.h>
-#include <orvanta/platform/standard/strings/StringTable.h>
 
 namespace orvanta::platform::standard {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/standard/strings/StringTable.h>
+#include <orvanta/platform/StringTable.h>
 
 namespace orvanta::platform::standard {
 

@@ -2,7 +2,8 @@
 
 #include <cstddef>
 
-#include <orvanta/platform/standard/strings/StringTable.h>
+#include <orvanta/platform/StringTable.h>
+#include <orvanta/platform/StringTableBuilder.h>
 #include <orvanta/platform/standard/strings/TextScanner.h>
 
 namespace orvanta::platform::standard {

@@ -2,7 +2,8 @@
 
 #include <string_view>
 
-#include <orvanta/platform/standard/strings/StringTable.h>
+#include <orvanta/platform/StringTable.h>
+#include <orvanta/platform/StringTableBuilder.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
 #include <orvanta/platform/standard/strings/TextEncoding.h>
 
