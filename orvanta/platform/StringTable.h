@@ -2,10 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <memory>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -14,6 +14,10 @@
 #include <orvanta/platform/TextHash.h>
 
 namespace orvanta::platform {
+
+namespace standard {
+class StringTableBuilder;
+}
 
 /// One language's texts under their keys, read once and never changed.
 ///
@@ -60,7 +64,7 @@ class ORVANTA_EXPORT StringTable {
   [[nodiscard]] std::size_t heapBytes() const noexcept;
 
  private:
-  friend class StringTableBuilder;
+  friend class standard::StringTableBuilder;
 
   using Slot = std::uint64_t;
 
@@ -88,14 +92,16 @@ class ORVANTA_EXPORT StringTable {
     return {{record + kHeader, lengths[0]}, {record + kHeader + lengths[0], lengths[1]}};
   }
 
-  void fillIndex(std::span<const Slot> records);
-
   static constexpr Slot kEmptyIndex[1] = {kFree};
 
+  struct FreeIndex {
+    void operator()(Slot* index) const noexcept { std::free(index); }
+  };
+
   String arena_;
+  std::unique_ptr<Slot[], FreeIndex> ownIndex_;
   const Slot* index_ = kEmptyIndex;
   std::uint32_t slotCount_ = 1;
-  std::unique_ptr<Slot[]> slots_;
   std::size_t size_ = 0;
 };
 

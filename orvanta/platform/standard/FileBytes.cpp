@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <limits>
-#include <new>
 #include <utility>
 
 #include <orvanta/platform/standard/FileBytes.h>
@@ -9,12 +8,11 @@ namespace orvanta::platform::standard {
 
 namespace {
 
-constexpr std::align_val_t kAlignment{64};
 constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
 
 // False when there is no memory for it.
 bool enlarge(FileBytes& bytes, std::size_t capacity) {
-  AlignedBytes larger = allocateAligned(capacity);
+  Bytes larger(allocateBytes(capacity));
   if (larger == nullptr) {
     return false;
   }
@@ -24,14 +22,6 @@ bool enlarge(FileBytes& bytes, std::size_t capacity) {
 }
 
 }  // namespace
-
-void AlignedDelete::operator()(char* bytes) const noexcept {
-  ::operator delete[](bytes, kAlignment);
-}
-
-AlignedBytes allocateAligned(std::size_t size) noexcept {
-  return AlignedBytes(static_cast<char*>(::operator new[](size, kAlignment, std::nothrow)));
-}
 
 std::optional<FileBytes> readWholeFile(FileManager& files, const String& path,
                                        std::uint64_t expectedSize) {

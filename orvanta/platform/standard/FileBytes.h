@@ -1,26 +1,17 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string_view>
 
 #include <orvanta/platform/FileManager.h>
+#include <orvanta/platform/standard/Memory.h>
 
 namespace orvanta::platform::standard {
 
-/// Memory aligned to a line of the cache: systems copy files faster to there.
-struct AlignedDelete {
-  void operator()(char* bytes) const noexcept;
-};
-using AlignedBytes = std::unique_ptr<char[], AlignedDelete>;
-
-/// Not initialized; null when there is not so much memory.
-[[nodiscard]] AlignedBytes allocateAligned(std::size_t size) noexcept;
-
 /// The bytes of a whole file.
 struct FileBytes {
-  AlignedBytes data;
+  Bytes data;
   std::size_t size = 0;
 
   [[nodiscard]] std::string_view view() const noexcept { return {data.get(), size}; }

@@ -42,7 +42,7 @@
 #include <optional>
 #include <vector>
 
-#include <orvanta/platform/standard/FileBytes.h>
+#include <orvanta/platform/standard/Memory.h>
 #include <orvanta/platform/standard/PrefixProbe.h>
 #include <orvanta/platform/standard/SampledSearch.h>
 
@@ -318,7 +318,7 @@ struct PrefixProbe::Tools {
     return *probe;
   }
 
-  AlignedBytes buffer = allocateAligned(kOverlap + kChunk);
+  Bytes buffer = Bytes(allocateBytes(kOverlap + kChunk));
   std::optional<FormProbe> probe;
 };
 

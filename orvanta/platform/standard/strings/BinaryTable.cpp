@@ -64,16 +64,27 @@ class BinaryTableReader {
     if (!charge(kEntryOverhead + least)) {
       return false;
     }
-    const std::string_view keyText = key_.decode(key);
-    const std::string_view valueText = value_.decode(value);
-    return charge(keyText.size() + valueText.size() - least) && table_.add(keyText, valueText);
+    const BinaryText keyText(key);
+    const BinaryText valueText(value);
+    char* const begin = table_.beginEntry(keyText.room() + valueText.room());
+    if (begin == nullptr) {
+      return false;
+    }
+    char* const keyEnd = keyText.decode(begin);
+    char* const valueEnd = valueText.decode(keyEnd);
+    if (!charge(static_cast<std::size_t>(valueEnd - begin) - least)) {
+      return false;
+    }
+    table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
+                       static_cast<std::size_t>(valueEnd - keyEnd));
+    return true;
   }
 
   // The beginning of a key, for a message.
-  std::string quoted(BinaryObject key) {
+  static std::string quoted(BinaryObject key) {
     const bool whole = key.payload.size() <= kLongestQuote;
     key.payload = key.payload.substr(0, kLongestQuote);
-    return std::string(key_.decode(key)) + (whole ? "" : "...");
+    return BinaryText(key).str() + (whole ? "" : "...");
   }
 
   void report(std::string message) const {
@@ -86,8 +97,6 @@ class BinaryTableReader {
   StringTableBuilder& table_;
   const ProblemCollector& problems_;
   std::size_t left_;
-  BinaryText key_;
-  BinaryText value_;
 };
 
 }  // namespace

@@ -2,29 +2,37 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 #include <orvanta/platform/standard/strings/BinaryObjects.h>
 
 namespace orvanta::platform::standard {
 
-/// Turns the texts of a binary property list into UTF-8, one after the other.
+/// A text of a binary property list on its way to UTF-8.
 ///
 /// Units of UTF-16 that form no character give U+FFFD. The texts that the format calls ASCII are
 /// taken as UTF-8, which some writers put there; invalid bytes give U+FFFD.
 class BinaryText {
  public:
-  /// Fewer bytes than this the text never gives: what it costs, known before any work is done.
+  /// `text` must be one, and its file outlive this.
+  explicit BinaryText(const BinaryObject& text) noexcept;
+
+  /// Fewer bytes than this it never gives: what it costs, known before any work is done.
   [[nodiscard]] static std::size_t leastSize(const BinaryObject& text) noexcept;
 
-  /// Valid until the next call, and as long as the file.
-  [[nodiscard]] std::string_view decode(const BinaryObject& text);
+  /// More bytes than this it never writes.
+  [[nodiscard]] std::size_t room() const noexcept { return room_; }
+
+  /// Writes it into `room()` bytes, all of which may be overwritten, and gives its end.
+  char* decode(char* out) const noexcept;
+
+  [[nodiscard]] std::string str() const;
 
  private:
-  [[nodiscard]] std::string_view decodeUtf16(std::string_view bigEndian);
-  [[nodiscard]] std::string_view decodeUtf8(std::string_view utf8);
+  enum class Form { ascii, utf8, utf16 };
 
-  std::string decoded_;
+  std::string_view payload_;
+  Form form_;
+  std::size_t room_;
 };
 
 }  // namespace orvanta::platform::standard

@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include <orvanta/platform/StringTable.h>
-#include <orvanta/platform/StringTableBuilder.h>
+#include <orvanta/platform/standard/strings/StringTableBuilder.h>
 #include <orvanta/platform/standard/strings/TextScanner.h>
 
 namespace orvanta::platform::standard {

@@ -156,10 +156,10 @@ char* putBlockBelow800(const char* in, char* out) noexcept {
 }
 
 // Null when there is a surrogate among them.
-template <std::endian kOrder>
+template <std::endian kOrder, std::size_t kUnits = kBlock>
 char* putBlock(const char* in, char* out) noexcept {
   std::uint32_t seen = 0;
-  for (std::size_t index = 0; index < kBlock; ++index) {
+  for (std::size_t index = 0; index < kUnits; ++index) {
     const std::uint32_t unit = unitAt<kOrder>(in + 2 * index);
     const Form& form = kForms[unit >> 6];
     put(form, unit, out);
@@ -196,6 +196,14 @@ Transcoded transcode(const char* in, const char* inEnd, char* begin, const char*
     } else {
       at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out);
     }
+  }
+  // What is left, and short texts: fewer at a time, and one by one from where there are surrogates.
+  while (hasRoom() && inEnd - at.in >= 8) {
+    char* out = putBlock<kOrder, 4>(at.in, at.out);
+    if (out == nullptr) {
+      break;
+    }
+    at = {at.in + 8, out};
   }
   while (hasRoom() && inEnd - at.in >= 2) {
     at = putCharacter<kOrder>(at.in, inEnd, at.out);

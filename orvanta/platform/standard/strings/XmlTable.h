@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include <orvanta/platform/StringTable.h>
-#include <orvanta/platform/StringTableBuilder.h>
+#include <orvanta/platform/standard/strings/StringTableBuilder.h>
 #include <orvanta/platform/standard/strings/StringTableReader.h>
 
 namespace orvanta::platform::standard {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -12,7 +13,7 @@
 #include <orvanta/platform/StringTable.h>
 #include <orvanta/platform/TextHash.h>
 
-namespace orvanta::platform {
+namespace orvanta::platform::standard {
 
 /// Fills a table. Of a key that is added twice the last value holds.
 class ORVANTA_EXPORT StringTableBuilder {
@@ -46,19 +47,22 @@ class ORVANTA_EXPORT StringTableBuilder {
     used_ += kHeader + keySize + valueSize;
   }
 
-  /// The table; the builder is empty afterwards.
+  /// The table, null when there is no memory for its index; the builder is empty afterwards.
   [[nodiscard]] std::shared_ptr<const StringTable> build();
 
  private:
   static constexpr std::size_t kHeader = StringTable::kHeader;
   static constexpr std::size_t kLargestArena = std::numeric_limits<std::uint32_t>::max();
 
+  using Slot = StringTable::Slot;
+
   [[nodiscard]] bool reserve(std::size_t more);
+  [[nodiscard]] static bool fillIndex(StringTable& table, std::span<const Slot> records);
 
   char* arena_ = nullptr;
   std::size_t used_ = 0;
   std::size_t capacity_ = 0;
-  std::vector<StringTable::Slot> records_;  // In the order of adding.
+  std::vector<Slot> records_;  // In the order of adding.
 };
 
-}  // namespace orvanta::platform
+}  // namespace orvanta::platform::standard
