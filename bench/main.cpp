@@ -28,7 +28,7 @@ constexpr Family kFamilies[] = {
     {"hit", bench::hitRows},          {"hit-sizes", bench::hitSizeRows},
     {"fallback", bench::fallbackRow}, {"load", bench::loadRows},
     {"startup", bench::startupRows},  {"switch", bench::switchRows},
-    {"match", bench::matchRows},      {"update", bench::updateRow},
+    {"match", bench::matchRows},      {"update", bench::updateRows},
     {"memory", bench::memoryRow},     {"hit-threaded", bench::hitThreadedRow},
 };
 

@@ -13,7 +13,7 @@ void loadRows(Bench& bench);
 void startupRows(Bench& bench);
 void switchRows(Bench& bench);
 void matchRows(Bench& bench);
-void updateRow(Bench& bench);
+void updateRows(Bench& bench);
 void memoryRow(Bench& bench);
 
 }  // namespace orvanta::bench

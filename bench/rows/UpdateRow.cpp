@@ -1,9 +1,12 @@
-// Putting one downloaded table in the place of the one that is cached, so that it would survive a
+// Putting downloaded tables in the place of those that are cached, so that they would survive a
 // loss of power.
 #include <QSaveFile>
 #include <algorithm>
 #include <cstdio>
+#include <initializer_list>
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,6 +24,7 @@ namespace orvanta::bench {
 namespace {
 
 constexpr std::size_t kStrings = 10'000;
+constexpr const char* kTableFile = "Localizable.strings";
 
 void require(bool holds, const char* what) {
   if (!holds) {
@@ -49,86 +53,123 @@ void expectBytes(const std::filesystem::path& file, const std::string& bytes) {
   expect(readFile(file) == bytes, "the file holds something else");
 }
 
-Contender updateFloor(const std::filesystem::path& folder, const std::string& bytes) {
-  const std::string target = (folder / "Localizable.strings").string();
-  std::filesystem::create_directories(folder);
-  const auto round = [folder = folder.string(), target, &bytes] {
-    replaceFile(folder, target, bytes);
-  };
-  const auto check = [round, target, &bytes] {
-    round();
-    expectBytes(target, bytes);
-  };
-  return {std::string(kFloor), check, round};
-}
+// One language's table and the bytes of its file.
+struct Download {
+  std::string language;
+  Table table;
+  std::string bytes;
+};
+using Downloads = std::vector<Download>;
 
-Contender updateQt(const std::filesystem::path& folder, const std::string& bytes) {
-  const std::string target = (folder / "Localizable.strings").string();
-  std::filesystem::create_directories(folder);
-  const auto round = [target, &bytes] {
-    QSaveFile file(QString::fromStdString(target));
-    require(file.open(QIODevice::WriteOnly) &&
-                file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.commit(),
-            "QSaveFile fails");
-  };
-  const auto check = [round, target, &bytes] {
-    round();
-    expectBytes(target, bytes);
-  };
-  return {"qt", check, round};
-}
-
-StringsPayload makePayload(const Table& table) {
-  StringsPayload texts;
-  for (const auto& [key, value] : table) {
-    texts.add(key, String(value));
+Downloads makeDownloads(std::size_t languages) {
+  Downloads downloads;
+  for (const Language& language : shippedLanguages()) {
+    if (downloads.size() == languages) {
+      break;
+    }
+    Table table = makeTable(language, makeKeys(kStrings));
+    for (Entry& entry : table) {
+      // A downloaded value is source text, which is written as it is.
+      std::replace(entry.value.begin(), entry.value.end(), '\n', ' ');
+    }
+    std::string bytes = textFormUtf16(table);
+    downloads.push_back({std::string(language.name), std::move(table), std::move(bytes)});
   }
-  StringsPayload data;
-  data.add("zantorData"_s, std::move(texts));
-  StringsPayload name;
-  name.add("main"_s, std::move(data));
-  StringsPayload language;
-  language.add("app"_s, std::move(name));
+  return downloads;
+}
+
+std::filesystem::path languageFolder(const std::filesystem::path& folder,
+                                     const Download& download) {
+  return folder / (download.language + ".lproj");
+}
+
+// `replace` puts bytes in the place of a file in a folder.
+template <typename Replace>
+Contender updateEach(std::string_view name, const std::filesystem::path& folder,
+                     const Downloads& downloads, Replace replace) {
+  for (const Download& download : downloads) {
+    std::filesystem::create_directories(languageFolder(folder, download));
+  }
+  const auto round = [folder, &downloads, replace] {
+    for (const Download& download : downloads) {
+      const std::filesystem::path target = languageFolder(folder, download);
+      replace(target.string(), (target / kTableFile).string(), download.bytes);
+    }
+  };
+  const auto check = [round, folder, &downloads] {
+    round();
+    for (const Download& download : downloads) {
+      expectBytes(languageFolder(folder, download) / kTableFile, download.bytes);
+    }
+  };
+  return {std::string(name), check, round};
+}
+
+void replaceWithQt(const std::string& /*folder*/, const std::string& target,
+                   std::string_view bytes) {
+  QSaveFile file(QString::fromStdString(target));
+  require(file.open(QIODevice::WriteOnly) &&
+              file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.commit(),
+          "QSaveFile fails");
+}
+
+// Dictionaries around a value, the outermost first.
+StringsPayload nested(std::initializer_list<const char*> keys, StringsPayload value) {
+  for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
+    StringsPayload around;
+    around.add(*key, std::move(value));
+    value = std::move(around);
+  }
+  return value;
+}
+
+StringsPayload makePayload(const Downloads& downloads) {
   StringsPayload payload;
-  payload.add("fr"_s, std::move(language));
+  for (const Download& download : downloads) {
+    StringsPayload texts;
+    for (const auto& [key, value] : download.table) {
+      texts.add(key, String(value));
+    }
+    payload.add(download.language, nested({"app", "main", "zantorData"}, std::move(texts)));
+  }
   return payload;
 }
 
-Contender updateOurs(const Application& application, const StringsPayload& payload,
-                     const std::string& bytes) {
+Contender updateOurs(const Application& application, const Downloads& downloads) {
   const auto cache = std::make_shared<OVStringCache>();
-  const auto round = [cache, &payload] { cache->updateStrings(payload, "main"_s, "app"_s); };
-  const auto check = [round, &application, &bytes] {
+  const auto round = [cache, payload = makePayload(downloads)] {
+    cache->updateStrings(payload, "main"_s, "app"_s);
+  };
+  const auto check = [round, &application, &downloads] {
     round();
-    expectBytes(
-        application.cachesFolder() / "OrvantaLocalizations" / "fr.lproj" / "Localizable.strings",
-        bytes);
+    for (const Download& download : downloads) {
+      expectBytes(languageFolder(application.cachesFolder() / "OrvantaLocalizations", download) /
+                      kTableFile,
+                  download.bytes);
+    }
   };
   return {std::string(kOurs), check, round};
 }
 
-}  // namespace
-
-void updateRow(Bench& bench) {
-  const ScratchFolder folder = bench.folder("update");
-  Table table = makeTable(languageNamed("fr"), makeKeys(kStrings));
-  for (Entry& entry : table) {
-    // A downloaded value is source text, which is written as it is.
-    std::replace(entry.value.begin(), entry.value.end(), '\n', ' ');
-  }
+void updateRow(Bench& bench, std::size_t languages, Row row) {
+  const ScratchFolder folder = bench.folder(row.name);
+  const Downloads downloads = makeDownloads(languages);
   const Application application(folder.path());
   application.ship("en", makeTable(languageNamed("en"), makeKeys(1)), textFormUtf8);
   platform::Platform::install(application.makePlatform("en"));
-  const StringsPayload payload = makePayload(table);
-  const std::string bytes = textFormUtf16(table);
+  row.contenders = {updateEach(kFloor, folder.path() / "floor", downloads, replaceFile),
+                    updateOurs(application, downloads),
+                    updateEach("qt", folder.path() / "qt", downloads, replaceWithQt)};
   // What other rows wrote is not to be on its way to the disk meanwhile.
   sync();
-  bench.run({.name = "update",
-             .samples = 31,
-             .goal = 1.2,
-             .contenders = {updateFloor(folder.path() / "floor", bytes),
-                            updateOurs(application, payload, bytes),
-                            updateQt(folder.path() / "qt", bytes)}});
+  bench.run(std::move(row));
+}
+
+}  // namespace
+
+void updateRows(Bench& bench) {
+  updateRow(bench, 1, {.name = "update", .samples = 31, .goal = 1.2});
+  updateRow(bench, 40, {.name = "update-40", .samples = 7, .goal = 2.0});
 }
 
 }  // namespace orvanta::bench

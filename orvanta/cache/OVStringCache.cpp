@@ -5,6 +5,7 @@
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/ReplacingWriter.h>
+#include <orvanta/cache/StringsFileText.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/platform/Platform.h>
@@ -29,7 +30,7 @@ StringList codesOf(const OVLocaleDictionary& languages) {
 }
 
 // A dictionary that an application has set may hold a key without a record.
-const OVLocale* localeUnder(std::string_view key, const OVLocaleDictionary& languages) {
+const OVLocale* localeUnder(const HashedKey& key, const OVLocaleDictionary& languages) {
   const auto* locale = languages.find(key);
   return locale == nullptr ? nullptr : locale->get();
 }
@@ -39,7 +40,7 @@ std::string formatted(const String& text) {
 }
 
 std::shared_ptr<Bundle> bundleUnder(std::string_view key, const OVLocaleDictionary& languages) {
-  const OVLocale* locale = localeUnder(key, languages);
+  const OVLocale* locale = localeUnder(HashedKey(key), languages);
   return locale == nullptr ? nullptr : locale->bundle();
 }
 
@@ -105,6 +106,10 @@ void OVStringCache::setCachedLanguages(OVLocaleDictionary languages) {
 }
 
 OVLocaleDictionary OVStringCache::availableLanguages() {
+  return languages();
+}
+
+const OVLocaleDictionary& OVStringCache::languages() {
   if (availableLanguages_.isAbsent()) {
     OVLocaleDictionary::Map locales = mainBundleLocales().entries();
     for (const auto& [key, locale] : cachedLanguages()) {
@@ -136,8 +141,9 @@ std::int32_t OVStringCache::indexOfFirstAvailableCachedLanguage(const StringList
   const OVLocaleDictionary available = availableLanguages();
   std::int32_t position = 0;
   for (const String& language : languages) {
-    if (localeUnder(cleanedString(language).view(), available) != nullptr ||
-        localeUnder(cleanedString(languagePart(language)).view(), available) != nullptr) {
+    if (localeUnder(HashedKey(cleanedString(language).view()), available) != nullptr ||
+        localeUnder(HashedKey(cleanedString(languagePart(language)).view()), available) !=
+            nullptr) {
       return position;
     }
     ++position;
@@ -146,12 +152,20 @@ std::int32_t OVStringCache::indexOfFirstAvailableCachedLanguage(const StringList
 }
 
 std::shared_ptr<Bundle> OVStringCache::bundleForLanguage(const String& language) {
-  if (language.isAbsent()) {
-    return nullptr;
+  const auto* bundle = language.isAbsent() ? nullptr : findBundle(HashedKey(language.view()));
+  return bundle == nullptr ? nullptr : *bundle;
+}
+
+const std::shared_ptr<Bundle>* OVStringCache::findBundle(const HashedKey& language) {
+  const auto under = [&](const HashedKey& key) -> const std::shared_ptr<Bundle>* {
+    const OVLocale* locale = localeUnder(key, languages());
+    return locale == nullptr || locale->bundle() == nullptr ? nullptr : &locale->bundle();
+  };
+  if (const std::shared_ptr<Bundle>* bundle = under(language)) {
+    return bundle;
   }
-  const OVLocaleDictionary available = availableLanguages();
-  auto bundle = bundleUnder(language.view(), available);
-  return bundle != nullptr ? bundle : bundleUnder(languagePart(language.view()), available);
+  const std::string_view part = languagePart(language.text);
+  return part.size() == language.text.size() ? nullptr : under(HashedKey(part));
 }
 
 String OVStringCache::localizedStringForKey(const String& key, const String& language) {
@@ -183,8 +197,12 @@ StringsUpdate OVStringCache::updateLanguage(const String& language, const String
   }
   const URL folder = cacheDirectoryURL();
   const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(folder, language);
-  const auto error =
-      writeTableInside(folder, OVStringCacheUtilities::localizableStringsFile(*table), file);
+  const auto error = writeTableInside(
+      folder,
+      [&](Utf16Writer& writer) {
+        forEachPieceOfStringsFile(*table, [&](std::string_view piece) { writer.append(piece); });
+      },
+      file);
   if (!error) {
     return {language, StringsUpdate::Result::written, file, {}};
   }

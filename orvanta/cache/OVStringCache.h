@@ -11,6 +11,7 @@
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/StringList.h>
+#include <orvanta/platform/TextHash.h>
 #include <orvanta/platform/URL.h>
 
 namespace orvanta {
@@ -87,6 +88,10 @@ class ORVANTA_EXPORT OVStringCache {
 
   /// The bundle kept under exactly this identifier, else under its language part; else absent.
   [[nodiscard]] std::shared_ptr<platform::Bundle> bundleForLanguage(const String& language);
+  /// Whether there is one.
+  [[nodiscard]] bool hasBundleForLanguage(const HashedKey& language) {
+    return findBundle(language) != nullptr;
+  }
 
   /// The string in the table of the cleaned identifier; absent when there is no such language. The
   /// language part is not tried.
@@ -115,6 +120,10 @@ class ORVANTA_EXPORT OVStringCache {
   void clearCache();
 
  private:
+  // `availableLanguages` itself.
+  const OVLocaleDictionary& languages();
+  // Null when there is none; valid until the catalogue changes.
+  const std::shared_ptr<platform::Bundle>* findBundle(const HashedKey& language);
   StringsUpdate updateLanguage(const String& language, const StringsPayload* table);
 
   platform::URL cacheDirectoryURL_;

@@ -1,6 +1,7 @@
 #include <string>
 
 #include <orvanta/cache/OVStringCacheUtilities.h>
+#include <orvanta/cache/StringsFileText.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/platform/CharacterSet.h>
 #include <orvanta/platform/PathString.h>
@@ -58,33 +59,15 @@ URL stringsFileURLForLanguage(const URL& directory, const String& language) {
 }
 
 String localizableStringsFile(const StringsPayload& table) {
-  constexpr std::string_view kBeforeKey = "/* */\n\"";
-  constexpr std::string_view kBeforeValue = "\" = \"";
-  constexpr std::string_view kBehindValue = "\";\n\n";
-  std::size_t size = 0;
-  for (const auto& [key, value] : table.entries()) {
-    size += kBeforeKey.size() + key.size() + kBeforeValue.size() + value.text().size() +
-            kBehindValue.size();
-  }
   std::string text;
-  text.reserve(size);
-  for (const auto& [key, value] : table.entries()) {
-    if (value.text().empty() || key.empty()) {
-      continue;
-    }
-    text += kBeforeKey;
-    text += key.view();
-    text += kBeforeValue;
-    text += value.text().view();
-    text += kBehindValue;
-  }
+  forEachPieceOfStringsFile(table, [&](std::string_view piece) { text += piece; });
   return text;
 }
 
 void saveLanguageStringForLanguage(const String& text, const String& /*language*/,
                                    const URL& file) {
   if (text.isPresent()) {
-    static_cast<void>(writeTable(text, file));
+    static_cast<void>(writeTable([&](Utf16Writer& writer) { writer.append(text.view()); }, file));
   }
 }
 

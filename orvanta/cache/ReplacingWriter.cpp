@@ -16,6 +16,7 @@ namespace {
 using platform::FileManager;
 using platform::FileOutcome;
 using platform::URL;
+using Write = std::function<FileOutcome(platform::WritableFile& file)>;
 
 // Hidden, so that it is never taken for a table, and told by its ending from anything else.
 constexpr std::string_view kUnfinished = ".orvanta-unfinished";
@@ -40,8 +41,8 @@ bool isUnfinished(const String& name) {
 }
 
 FileOutcome writeAndMove(FileManager& files, platform::WritableFile& file, const String& from,
-                         const String& to, std::string_view bytes) {
-  FileOutcome outcome = file.write(bytes);
+                         const String& to, const Write& write) {
+  FileOutcome outcome = write(file);
   if (!outcome) {
     outcome = file.sync();
   }
@@ -52,7 +53,7 @@ FileOutcome writeAndMove(FileManager& files, platform::WritableFile& file, const
 
 }  // namespace
 
-FileOutcome replaceFile(FileManager& files, const String& path, std::string_view bytes) {
+FileOutcome replaceFile(FileManager& files, const String& path, const Write& write) {
   const String folder = path::stringByDeletingLastPathComponent(path);
   const String unfinished = path::stringByAppendingPathComponent(
       folder, uniqueName(path::lastPathComponent(path).view()));
@@ -60,7 +61,7 @@ FileOutcome replaceFile(FileManager& files, const String& path, std::string_view
   if (creation.outcome) {
     return creation.outcome;
   }
-  if (FileOutcome outcome = writeAndMove(files, *creation.file, unfinished, path, bytes)) {
+  if (FileOutcome outcome = writeAndMove(files, *creation.file, unfinished, path, write)) {
     // Left behind when this fails too; the next sweep finds it.
     static_cast<void>(files.removeItemAtURL(URL::fileURLWithPath(unfinished, false)));
     return outcome;

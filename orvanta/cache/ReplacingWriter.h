@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <functional>
 
 #include <orvanta/platform/FileManager.h>
 #include <orvanta/platform/String.h>
@@ -8,11 +8,13 @@
 
 namespace orvanta {
 
-/// Puts a file of these bytes in the place of what is at `path`. Whatever goes wrong on the way,
-/// and wherever the process or the power ends, a reader finds the whole old file or the whole new
-/// one: the bytes go to a new file beside the old one, which is synced and then renamed over it.
-[[nodiscard]] platform::FileOutcome replaceFile(platform::FileManager& files, const String& path,
-                                                std::string_view bytes);
+/// Puts a file with what `write` writes in the place of what is at `path`. Whatever goes wrong on
+/// the way, and wherever the process or the power ends, a reader finds the whole old file or the
+/// whole new one: `write` gets a new file beside the old one, which is synced and then renamed over
+/// it.
+[[nodiscard]] platform::FileOutcome replaceFile(
+    platform::FileManager& files, const String& path,
+    const std::function<platform::FileOutcome(platform::WritableFile& file)>& write);
 
 /// Removes what writers that died on the way have left in the folder and below it; never the file
 /// of a writer that lives, in this process or another.

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <orvanta/locale/LanguagePart.h>
 
 namespace orvanta {
@@ -9,11 +11,17 @@ namespace {
 constexpr std::size_t kShortestSplit = 3;
 constexpr std::size_t kMostBytesPerUnit = 3;
 
+bool isAscii(char byte) noexcept {
+  return static_cast<unsigned char>(byte) < 0x80;
+}
+
 bool isShort(std::string_view identifier) noexcept {
   if (identifier.size() < kShortestSplit) {
     return true;
   }
-  return identifier.size() < kShortestSplit * kMostBytesPerUnit &&
+  const std::string_view first = identifier.substr(0, kShortestSplit);
+  return !std::all_of(first.begin(), first.end(), isAscii) &&
+         identifier.size() < kShortestSplit * kMostBytesPerUnit &&
          String::fromStatic(identifier).utf16Length() < kShortestSplit;
 }
 

@@ -183,6 +183,14 @@ class ORVANTA_EXPORT Localizer {
   // Stores what was matched and posts it later with what was asked for. `matched` is not empty.
   // By value, because the caller's list may be `preferredLocales_` itself.
   void adopt(const StringList& matched, StringList raw);
+  // What `localeWithFallbacksApplied` gives, and its text with its hash.
+  struct Resolved {
+    String locale;
+    HashedKey key;
+  };
+  [[nodiscard]] Resolved resolve(const String& identifier);
+  // Whether `languageBundleForLocale` would give one.
+  [[nodiscard]] bool hasBundleFor(const Resolved& resolved);
   // Goes back to the device's choice when there is no current bundle; false when that has none.
   [[nodiscard]] bool hasBundleForLookUp();
   // There must be a current bundle. `key` is what becomes the result when no language has a text.

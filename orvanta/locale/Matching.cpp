@@ -1,5 +1,6 @@
 // Localizer's matching of requested identifiers against the languages that exist.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <orvanta/locale/LanguagePart.h>
@@ -16,9 +17,15 @@ const FallbackTable& Localizer::fallbackTable() {
 }
 
 String Localizer::localeWithFallbacksApplied(const String& identifier) {
-  const String trimmed = stringByTrimming(identifier, CharacterSet::whitespace);
-  const String* instead = trimmed.isAbsent() ? nullptr : fallbackTable().find(trimmed.view());
-  return instead == nullptr ? trimmed : *instead;
+  return resolve(identifier).locale;
+}
+
+Localizer::Resolved Localizer::resolve(const String& identifier) {
+  String trimmed = stringByTrimming(identifier, CharacterSet::whitespace);
+  const HashedKey key(trimmed.view());
+  const String* instead = trimmed.isAbsent() ? nullptr : fallbackTable().find(key);
+  return instead == nullptr ? Resolved{std::move(trimmed), key}
+                            : Resolved{*instead, HashedKey(instead->view())};
 }
 
 String Localizer::languageOnlyFromString(const String& identifier) {
@@ -29,22 +36,26 @@ StringList Localizer::availableLocalesFromArray(const StringList& requested) {
   if (requested.empty()) {
     return {String::fromStatic(lastResortLocale)};
   }
-  std::vector<String> available;
-  available.reserve(requested.size());
+  StringList::Builder available(requested.size());
   for (const String& request : requested) {
-    const String locale = localeWithFallbacksApplied(request);
-    if (languageBundleForLocale(locale) != nullptr) {
-      available.push_back(locale);
+    Resolved resolved = resolve(request);
+    if (hasBundleFor(resolved)) {
+      available.add(std::move(resolved.locale));
       continue;
     }
     // From the request as it came, not from what the table made of it: a request for Traditional
     // Chinese may end in Simplified.
-    const String language = localeWithFallbacksApplied(languagePart(request));
-    if (language != request && languageBundleForLocale(language) != nullptr) {
-      available.push_back(language);
+    resolved = resolve(languagePart(request));
+    if (resolved.locale != request && hasBundleFor(resolved)) {
+      available.add(std::move(resolved.locale));
     }
   }
-  return available.empty() ? StringList() : StringList(available);
+  return std::move(available).build();
+}
+
+bool Localizer::hasBundleFor(const Resolved& resolved) {
+  return resolved.locale.empty() ? mainBundle_ != nullptr
+                                 : stringCache().hasBundleForLanguage(resolved.key);
 }
 
 StringList Localizer::localesFromLanguages(const StringList& languages, const String& country) {

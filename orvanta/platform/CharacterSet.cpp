@@ -31,6 +31,10 @@ bool isMember(char32_t character, CharacterSet set) {
   }
 }
 
+bool isAsciiGraphic(char byte) {
+  return byte > 0x20 && byte < 0x7F;
+}
+
 std::size_t startOfLastCharacter(std::string_view text) {
   std::size_t start = text.size() - 1;
   while (start > 0 && text.size() - start < 4 &&
@@ -44,6 +48,9 @@ std::size_t startOfLastCharacter(std::string_view text) {
 
 String stringByTrimming(const String& text, CharacterSet set) {
   std::string_view rest = text.view();
+  if (!rest.empty() && isAsciiGraphic(rest.front()) && isAsciiGraphic(rest.back())) {
+    return text;
+  }
   while (!rest.empty()) {
     const utf8::Decoded first = utf8::decode(rest);
     if (!first.valid || !isMember(first.codePoint, set)) {

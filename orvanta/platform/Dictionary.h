@@ -1,11 +1,14 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include <orvanta/platform/String.h>
 #include <orvanta/platform/TextHash.h>
@@ -24,22 +27,22 @@ class Dictionary {
 
   /// Absent.
   Dictionary() noexcept = default;
-  explicit Dictionary(Map entries) : entries_(std::make_shared<const Map>(std::move(entries))) {}
+  explicit Dictionary(Map entries)
+      : entries_(std::make_shared<const Indexed>(std::move(entries))) {}
   Dictionary(std::initializer_list<std::pair<const String, Value>> entries)
       : Dictionary(Map(entries)) {}
 
   [[nodiscard]] bool isAbsent() const noexcept { return entries_ == nullptr; }
   [[nodiscard]] bool isPresent() const noexcept { return entries_ != nullptr; }
   [[nodiscard]] bool empty() const noexcept { return size() == 0; }
-  [[nodiscard]] std::size_t size() const noexcept { return isAbsent() ? 0 : entries_->size(); }
+  [[nodiscard]] std::size_t size() const noexcept { return entries().size(); }
 
   /// The value under exactly this key, or null. Valid as long as a handle to this dictionary lives.
-  [[nodiscard]] const Value* find(std::string_view key) const {
-    if (isAbsent()) {
-      return nullptr;
-    }
-    const auto found = entries_->find(key);
-    return found == entries_->end() ? nullptr : &found->second;
+  [[nodiscard]] const Value* find(const HashedKey& key) const noexcept {
+    return isAbsent() ? nullptr : entries_->find(key);
+  }
+  [[nodiscard]] const Value* find(std::string_view key) const noexcept {
+    return find(HashedKey(key));
   }
 
   [[nodiscard]] auto begin() const noexcept { return entries().begin(); }
@@ -48,7 +51,7 @@ class Dictionary {
   /// The entries themselves; none when absent.
   [[nodiscard]] const Map& entries() const noexcept {
     static const Map none;
-    return isAbsent() ? none : *entries_;
+    return isAbsent() ? none : entries_->map;
   }
 
   /// Both handles lead to the same dictionary. Absent is the same object as absent.
@@ -57,7 +60,42 @@ class Dictionary {
   }
 
  private:
-  std::shared_ptr<const Map> entries_;
+  // The map, and an index that is asked with a hash that was computed before: slots by the hash's
+  // lower bits, at most half of them used, probed one after the other.
+  struct Indexed {
+    struct Slot {
+      std::uint64_t hash = 0;
+      const std::pair<const String, Value>* entry = nullptr;
+    };
+
+    explicit Indexed(Map entries)
+        : map(std::move(entries)), index(std::bit_ceil(2 * map.size() + 1)) {
+      for (const auto& entry : map) {
+        const std::uint64_t hash = textHash(entry.first.view());
+        std::size_t at = hash & mask();
+        while (index[at].entry != nullptr) {
+          at = (at + 1) & mask();
+        }
+        index[at] = {hash, &entry};
+      }
+    }
+
+    [[nodiscard]] std::size_t mask() const noexcept { return index.size() - 1; }
+
+    [[nodiscard]] const Value* find(const HashedKey& key) const noexcept {
+      for (std::size_t at = key.hash & mask(); index[at].entry != nullptr; at = (at + 1) & mask()) {
+        if (index[at].hash == key.hash && index[at].entry->first == key.text) {
+          return &index[at].entry->second;
+        }
+      }
+      return nullptr;
+    }
+
+    const Map map;
+    std::vector<Slot> index;
+  };
+
+  std::shared_ptr<const Indexed> entries_;
 };
 
 }  // namespace orvanta

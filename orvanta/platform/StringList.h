@@ -6,6 +6,7 @@
 #include <ostream>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <orvanta/Export.h>
@@ -27,6 +28,9 @@ class ORVANTA_EXPORT StringList {
   explicit StringList(std::span<const String> items);
   explicit StringList(const std::vector<String>& items)
       : StringList(std::span<const String>(items)) {}
+
+  /// Makes a list entry by entry.
+  class Builder;
 
   [[nodiscard]] static StringList emptyList() { return StringList(std::span<const String>()); }
 
@@ -57,6 +61,32 @@ class ORVANTA_EXPORT StringList {
  private:
   std::shared_ptr<const String[]> items_;
   std::size_t size_ = 0;
+};
+
+class StringList::Builder {
+ public:
+  /// No more than `most` entries will be added.
+  explicit Builder(std::size_t most) noexcept : most_(most) {}
+
+  void add(String item) {
+    if (items_ == nullptr) {
+      items_ = std::make_shared<String[]>(most_);
+    }
+    items_[size_++] = std::move(item);
+  }
+
+  /// What was added; absent when that is nothing.
+  [[nodiscard]] StringList build() && noexcept {
+    StringList list;
+    list.items_ = std::move(items_);
+    list.size_ = size_;
+    return list;
+  }
+
+ private:
+  std::size_t most_;
+  std::size_t size_ = 0;
+  std::shared_ptr<String[]> items_;
 };
 
 /// The pieces of `text` between the separators, empty ones kept; absent when `text` is absent.

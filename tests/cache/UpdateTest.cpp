@@ -5,9 +5,9 @@
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
-#include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/Localizer.h>
 
+#include "../support/MemoryFile.h"
 #include "../support/TestApplication.h"
 #include "../support/UpdateFixture.h"
 
@@ -35,10 +35,21 @@ TEST(StringsFile, HoldsEveryPairAsItWasSent) {
 }
 
 TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
-  EXPECT_EQ(utf16WithByteOrderMark(""), "\xFF\xFE");
-  EXPECT_EQ(utf16WithByteOrderMark("plain ascii text"), utf16("plain ascii text"));
-  EXPECT_EQ(utf16WithByteOrderMark("\u00E9\u0628\u6F22\U0001F600"),
+  EXPECT_EQ(test::writtenAsUtf16(""), "\xFF\xFE");
+  EXPECT_EQ(test::writtenAsUtf16("plain ascii text"), utf16("plain ascii text"));
+  EXPECT_EQ(test::writtenAsUtf16("\u00E9\u0628\u6F22\U0001F600"),
             std::string("\xFF\xFE\xE9\x00\x28\x06\x22\x6F\x3D\xD8\x00\xDE", 12));
+  // Longer than the writer's buffer, its characters at every position to where that ends.
+  for (const char* start : {"", "a", "ab"}) {
+    std::string utf8 = start;
+    std::string units = utf16(start);
+    while (utf8.size() < 200'000) {
+      utf8 += "\u6F22";
+      units += "\x22\x6F";
+    }
+    EXPECT_EQ(test::writtenAsUtf16(utf8), units);
+    EXPECT_EQ(test::writtenAsUtf16(utf8 + "\xFF"), "");
+  }
 }
 
 TEST(StringsFile, IsSavedWhereItsURLSays) {

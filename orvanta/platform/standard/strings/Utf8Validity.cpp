@@ -14,10 +14,8 @@ namespace orvanta::platform::standard {
 // the time.
 #if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && defined(__GLIBC__)
 #define ORVANTA_ALSO_FOR_WIDE_VECTORS [[gnu::target_clones("avx2", "default")]]
-#define ORVANTA_PART_OF_IT [[gnu::always_inline]] inline
 #else
 #define ORVANTA_ALSO_FOR_WIDE_VECTORS
-#define ORVANTA_PART_OF_IT inline
 #endif
 
 namespace {
@@ -27,7 +25,7 @@ using Byte = unsigned char;
 constexpr std::size_t kBlock = 64;
 constexpr std::size_t kLookBack = 3;
 
-ORVANTA_PART_OF_IT bool isAscii(const Byte* block) noexcept {
+[[gnu::always_inline]] inline bool isAscii(const Byte* block) noexcept {
   std::array<std::uint64_t, kBlock / 8> words = {};
   std::memcpy(words.data(), block, sizeof words);
   std::uint64_t any = 0;
@@ -38,12 +36,12 @@ ORVANTA_PART_OF_IT bool isAscii(const Byte* block) noexcept {
 }
 
 // Whether a character that began in the three bytes before `block` reaches into it.
-ORVANTA_PART_OF_IT bool isAwaited(const Byte* block) noexcept {
+[[gnu::always_inline]] inline bool isAwaited(const Byte* block) noexcept {
   return block[-1] >= 0xC0 || block[-2] >= 0xE0 || block[-3] >= 0xF0;
 }
 
 // The three bytes before the block count as valid as far as they go.
-ORVANTA_PART_OF_IT bool isValidBlock(const Byte* block) noexcept {
+[[gnu::always_inline]] inline bool isValidBlock(const Byte* block) noexcept {
   Byte wrong = 0;
   for (std::ptrdiff_t index = 0; index < static_cast<std::ptrdiff_t>(kBlock); ++index) {
     const Byte byte = block[index];
@@ -60,7 +58,7 @@ ORVANTA_PART_OF_IT bool isValidBlock(const Byte* block) noexcept {
   return wrong == 0;
 }
 
-ORVANTA_PART_OF_IT bool isSound(const Byte* block) noexcept {
+[[gnu::always_inline]] inline bool isSound(const Byte* block) noexcept {
   return isAscii(block) && !isAwaited(block) ? true : isValidBlock(block);
 }
 
