@@ -12,9 +12,6 @@ Log::~Log() = default;
 MainQueue::~MainQueue() = default;
 NotificationCenter::~NotificationCenter() = default;
 ProcessInfo::~ProcessInfo() = default;
-FileManager::~FileManager() = default;
-ReadableFile::~ReadableFile() = default;
-WritableFile::~WritableFile() = default;
 
 namespace {
 

@@ -1,0 +1,9 @@
+#include <orvanta/platform/FileManager.h>
+
+namespace orvanta::platform {
+
+ReadableFile::~ReadableFile() = default;
+WritableFile::~WritableFile() = default;
+FileManager::~FileManager() = default;
+
+}  // namespace orvanta::platform
