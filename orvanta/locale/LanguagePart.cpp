@@ -34,7 +34,7 @@ std::string_view languagePart(std::string_view identifier) noexcept {
 }
 
 String languagePart(const String& identifier) {
-  return identifier.substring(0, languagePart(identifier.view()).size());
+  return identifier.part(languagePart(identifier.view()));
 }
 
 }  // namespace orvanta

@@ -81,12 +81,12 @@ class ORVANTA_EXPORT String {
   [[nodiscard]] std::string_view view() const noexcept { return {text_, size_}; }
   [[nodiscard]] std::string str() const { return std::string(view()); }
 
-  /// The `count` bytes from `start` on, all inside the text, as a handle that shares its storage.
-  [[nodiscard]] String substring(std::size_t start, std::size_t count) const noexcept {
+  /// A handle to characters that lie inside this text, sharing its storage.
+  [[nodiscard]] String part(std::string_view inside) const noexcept {
     if (storage_ != nullptr) {
       storage_->retain();
     }
-    return {text_ + start, count, storage_};
+    return {inside.data(), inside.size(), storage_};
   }
 
   /// Identity: both handles lead to the same text object. Absent is the same object as absent.

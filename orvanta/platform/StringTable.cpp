@@ -5,6 +5,18 @@
 
 namespace orvanta::platform {
 
+std::string_view StringTable::findBehind(std::size_t at, const HashedKey& key) const noexcept {
+  for (at = slotBehind(at); index_[at] != kFree; at = slotBehind(at)) {
+    if (mayHoldSameKey(index_[at], key.hash)) {
+      const auto [candidate, text] = entryAt(offsetIn(index_[at]));
+      if (candidate == key.text) {
+        return text;
+      }
+    }
+  }
+  return {};
+}
+
 std::vector<StringTable::Entry> StringTable::entries() const {
   std::vector<std::size_t> offsets;
   offsets.reserve(size_);
