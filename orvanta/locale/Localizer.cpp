@@ -81,7 +81,7 @@ String Localizer::localizedStringForKey(std::string_view key) {
   return hasBundleForLookUp() ? textOrKey(key, key) : String();
 }
 
-// The two parts of a look-up: what nearly every one needs, without a call on the way, and the rest.
+// What nearly every look-up needs, without a call on the way: the tables that are in memory.
 template <typename Key>
 [[gnu::always_inline]] inline String Localizer::textOrKey(std::string_view characters,
                                                           const Key& key) {
@@ -91,28 +91,36 @@ template <typename Key>
   }
   const HashedKey hashed(characters);
   const platform::StringTable* table = currentLanguageBundle_->loadedDefaultTable();
-  const std::string_view text = table == nullptr ? std::string_view() : table->find(hashed);
-  return text.data() == nullptr ? textElsewhereOrKey(hashed, key) : table->handleTo(text);
-}
-
-template <typename Key>
-String Localizer::textElsewhereOrKey(HashedKey hashed, const Key& key) {
-  if (currentLanguageBundle_->loadedDefaultTable() == nullptr) {
-    String text = currentLanguageBundle_->textForKey(hashed, {});
-    if (text.isPresent()) {
-      return text;
+  if (table == nullptr) {
+    return textElsewhereOrKey(hashed, key);
+  }
+  std::string_view text = table->find(hashed);
+  if (text.data() == nullptr) {
+    table = defaultLocaleBundle_ == nullptr ? nullptr : defaultLocaleBundle_->loadedDefaultTable();
+    if (table == nullptr) {
+      return textElsewhereOrKey(hashed, key);
+    }
+    text = table->find(hashed);
+    if (text.empty()) {
+      // An empty English text is an empty default value, which gives way to the key.
+      return String(key);
     }
   }
-  if (defaultLocaleBundle_ == nullptr || defaultLocaleBundle_ == currentLanguageBundle_.get()) {
-    return String(key);
+  return table->handleTo(text);
+}
+
+// The same where not all tables are in memory yet.
+template <typename Key>
+String Localizer::textElsewhereOrKey(HashedKey hashed, const Key& key) {
+  String text = currentLanguageBundle_->textForKey(hashed, {});
+  const Bundle* english = defaultLocaleBundle_;
+  if (text.isAbsent() && english != nullptr && english != currentLanguageBundle_.get()) {
+    text = english->textForKey(hashed, {});
+    if (text.empty()) {
+      text = {};
+    }
   }
-  // An empty English text is an empty default value, which gives way to the key.
-  if (const platform::StringTable* english = defaultLocaleBundle_->loadedDefaultTable()) {
-    const std::string_view text = english->find(hashed);
-    return text.empty() ? String(key) : english->handleTo(text);
-  }
-  String text = defaultLocaleBundle_->textForKey(hashed, {});
-  return text.empty() ? String(key) : text;
+  return text.isAbsent() ? String(key) : text;
 }
 
 bool Localizer::hasBundleForLookUp() {
