@@ -98,16 +98,6 @@ TEST(RunLoop, RunsUntilItIsToldToQuit) {
   EXPECT_EQ(order, "123") << "nothing is lost";
 }
 
-TEST(RunLoop, WakesUpForOtherThreads) {
-  const auto loop = RunLoop::make();
-  std::thread other([&] {
-    loop->performOnMainThreadAndWait([] {});
-    loop->quit();
-  });
-  loop->run();
-  other.join();
-}
-
 TEST(RunLoop, RunsWhatIsPendingAndNoMore) {
   const auto loop = RunLoop::make();
   int inner = 0;
