@@ -98,6 +98,8 @@ class WatchedStyle : public Base {
 template <typename Base>
 class WatchedText : public WatchedStyle<WatchedAccessible<Watched<Base>>> {
  public:
+  platform::TextStyle& style() { return *this; }
+
   [[nodiscard]] String text() const override { return this->diary->read("text", Base::text()); }
   void setText(const String& text) override {
     Base::setText(text);
@@ -121,6 +123,11 @@ class WatchedTextField : public WatchedText<platform::standard::MemoryTextField>
 class WatchedButton : public WatchedAccessible<Watched<platform::standard::MemoryButton>> {
  public:
   WatchedButton() { titleLabel_.diary = diary; }
+
+  // Under the names that the others have.
+  platform::TextStyle& style() { return titleLabel_; }
+  String text() const { return titleForState(platform::kControlStateNormal); }
+  void setText(const String& text) { setTitle(text, platform::kControlStateNormal); }
 
   [[nodiscard]] String titleForState(platform::ControlState state) const override {
     return diary->read("title" + std::to_string(state), MemoryButton::titleForState(state));

@@ -55,7 +55,7 @@ TYPED_TEST(DeferredControls, TakeTheTextOfThatLaterMomentUnlessTheyHaveDied) {
   const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
   TypeParam control({"plain", {}, {}});
   control.localized->awakeFromNib();
-  control.setText("title");
+  control.watched->setText("title");
   TypeParam dead(kDesign);
   dead.localized->awakeFromNib();
   std::weak_ptr<void> watched = dead.watched;

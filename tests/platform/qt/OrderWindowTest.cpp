@@ -4,8 +4,6 @@
 #include <QRawFont>
 #include <QTest>
 #include <QTimer>
-#include <atomic>
-#include <thread>
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/platform/qt/UILocalizedButton.h>
@@ -94,20 +92,6 @@ class OrderWindowTest : public QObject {
     QTest::mouseClick(find<UILocalizedButton>("placeButton"), Qt::LeftButton);
     QCOMPARE(find<UILocalizedLabel>("statusLabel")->control().originalKey().str(),
              std::string("order.placed"));
-  }
-
-  void refreshesFromAWorkerThread() {
-    auto* title = find<UILocalizedLabel>("orderTitle");
-    title->setText(u"stale"_s);
-    std::atomic<bool> ended = false;
-    std::thread worker([&] {
-      title->control().refreshStringsFromLocale("en");
-      ended = true;
-    });
-    const bool refreshed = QTest::qWaitFor([&] { return ended.load(); });
-    QVERIFY(refreshed);
-    worker.join();
-    QCOMPARE(title->text(), u"Your cart"_s);
   }
 
   void downloadsALanguageAndSpeaksIt() {

@@ -78,14 +78,6 @@ class PlatformTest : public QObject {
     const std::vector<std::byte> noFont(100);
     QVERIFY(!fonts.registerFontData(noFont));
   }
-
-  void keepsTheSizeOfFontsInPixels() {
-    QFont font(u"DejaVu Sans"_s);
-    font.setPixelSize(32);
-    const auto handle = orvanta::qt::fontHandle(font);
-    QVERIFY(handle->pointSize() > 0);
-    QCOMPARE(orvanta::qt::toQFont(handle).pixelSize(), 32);
-  }
 };
 
 std::unique_ptr<QObject> orvanta::test::makePlatformTest() {

@@ -94,7 +94,10 @@ TEST(BinaryTable, RefusesABrokenFrame) {
     const char* name;
     std::string file;
   };
-  const BinaryList list = BinaryList().pair(asciiObject("good"), asciiObject("G"));
+  const auto listOfSizes = [](std::size_t referenceSize, std::size_t offsetSize) {
+    return BinaryList{referenceSize, offsetSize}.pair(asciiObject("good"), asciiObject("G"));
+  };
+  const BinaryList list = listOfSizes(2, 3);
   const std::string sound = list.bytes();
   const auto withTrailer = [&](std::size_t at, const std::string& bytes) {
     return std::string(sound).replace(sound.size() - 32 + at, bytes.size(), bytes);
@@ -103,9 +106,9 @@ TEST(BinaryTable, RefusesABrokenFrame) {
   const Row rows[] = {
       {"one byte too many", sound + '\0'},
       {"offsets of no bytes", withTrailer(6, bigEndian(0, 1))},
-      {"offsets of 9 bytes", withTrailer(6, bigEndian(9, 1))},
+      {"offsets of 9 bytes", listOfSizes(2, 9).bytes()},
       {"references of no bytes", withTrailer(7, bigEndian(0, 1))},
-      {"references of 9 bytes", withTrailer(7, bigEndian(9, 1))},
+      {"references of 9 bytes", listOfSizes(9, 3).bytes()},
       {"no objects", withTrailer(8, bigEndian(0, 8))},
       {"too many objects", withTrailer(8, bigEndian(4, 8))},
       {"very many objects", withTrailer(8, huge)},
