@@ -228,27 +228,21 @@ TEST(PrefixProbe, AgreesWithTheTableOnRandomFiles) {
   EXPECT_GT(passedOver, 1000U);
 }
 
-struct KeysRow {
-  std::vector<const char*> keys;
-  const char* prefix;
-};
-
-const KeysRow kKeysRows[] = {
-    {{"CONFIG-Language", "CONFIG-Version"}, ""},
-    {{"CONFIG-Language", "CONFIG-Length"}, "CONFIG-L"},
-    {{"CONFIG-Language"}, "CONFIG-Language"},
-    {{"CONFIG-Language", "CONFIG-Language.x"}, "CONFIG-Language"},
-    {{"CONFIG-Language key"}, "CONFIG-Language"},
-    {{"CONFIG\\-Language"}, ""},
-    {{"CONFIG-Langu\xC3\xA4ge"}, "CONFIG-Langu"},
-    {{"anything", ""}, ""},
-    {{}, ""},
-};
-
 TEST(PrefixProbe, TakesThePrefixThatTheKeysShare) {
-  for (const KeysRow& row : kKeysRows) {
-    const std::vector<HashedKey> keys(row.keys.begin(), row.keys.end());
-    EXPECT_EQ(prefixToProbeFor(keys), row.prefix) << (row.keys.empty() ? "none" : row.keys.front());
+  const std::pair<std::vector<const char*>, const char*> kRows[] = {
+      {{"CONFIG-Language", "CONFIG-Version"}, ""},
+      {{"CONFIG-Language", "CONFIG-Length"}, "CONFIG-L"},
+      {{"CONFIG-Language"}, "CONFIG-Language"},
+      {{"CONFIG-Language", "CONFIG-Language.x"}, "CONFIG-Language"},
+      {{"CONFIG-Language key"}, "CONFIG-Language"},
+      {{"CONFIG\\-Language"}, ""},
+      {{"CONFIG-Langu\u00E4ge"}, "CONFIG-Langu"},
+      {{"anything", ""}, ""},
+      {{}, ""},
+  };
+  for (const auto& [names, prefix] : kRows) {
+    const std::vector<HashedKey> keys(names.begin(), names.end());
+    EXPECT_EQ(prefixToProbeFor(keys), prefix) << (names.empty() ? "none" : names.front());
   }
 }
 

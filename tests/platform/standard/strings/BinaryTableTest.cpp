@@ -17,34 +17,28 @@ using test::longMarker;
 using test::utf16Object;
 
 TEST(BinaryTable, ReadsTexts) {
-  struct Row {
-    const char* name;
-    std::string object;
-    std::string text;
+  const auto row = [](const char* name, const std::string& object, const std::string& text) {
+    return TableRow{name, BinaryList().pair(object, object).bytes(), text + "=" + text};
   };
   const std::string longText(70000, 'x');
-  const Row rows[] = {
-      {"nothing", asciiObject(""), ""},
-      {"short", asciiObject("hello"), "hello"},
-      {"zero byte", asciiObject("a\0b"s), "a\0b"s},
-      {"longer than the marker counts", asciiObject(longText), longText},
-      {"count of 1 byte", longMarker(0x5, 3, 0) + "abc", "abc"},
-      {"count of 2 bytes", longMarker(0x5, 3, 1) + "abc", "abc"},
-      {"count of 4 bytes", longMarker(0x5, 3, 2) + "abc", "abc"},
-      {"count of 16 bytes", longMarker(0x5, 3, 4) + "abc", "abc"},
-      {"UTF-8 in place of ASCII", asciiObject("12345678\u00E9"), "12345678\u00E9"},
-      {"stray bytes in place of ASCII", asciiObject("\xE9t\xC3"), "\uFFFDt\uFFFD"},
-      {"UTF-16, nothing", utf16Object(u""), ""},
-      {"UTF-16, ASCII in blocks and a rest", utf16Object(u"abcde\0\x7F"s), "abcde\0\x7F"s},
-      {"UTF-16, every length", utf16Object(u"\x80\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
-       "\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"},
-      {"UTF-16, lone surrogates", utf16Object(u"\xDC00z\xD800y\xD800\xD800\xDC00x\xDBFF"),
-       "\uFFFDz\uFFFDy\uFFFD\U00010000x\uFFFD"},
-  };
-  for (const Row& row : rows) {
-    checkTables(
-        {{row.name, BinaryList().pair(row.object, row.object).bytes(), row.text + "=" + row.text}});
-  }
+  checkTables({
+      row("nothing", asciiObject(""), ""),
+      row("short", asciiObject("hello"), "hello"),
+      row("zero byte", asciiObject("a\0b"s), "a\0b"s),
+      row("longer than the marker counts", asciiObject(longText), longText),
+      row("count of 1 byte", longMarker(0x5, 3, 0) + "abc", "abc"),
+      row("count of 2 bytes", longMarker(0x5, 3, 1) + "abc", "abc"),
+      row("count of 4 bytes", longMarker(0x5, 3, 2) + "abc", "abc"),
+      row("count of 16 bytes", longMarker(0x5, 3, 4) + "abc", "abc"),
+      row("UTF-8 in place of ASCII", asciiObject("12345678\u00E9"), "12345678\u00E9"),
+      row("stray bytes in place of ASCII", asciiObject("\xE9t\xC3"), "\uFFFDt\uFFFD"),
+      row("UTF-16, nothing", utf16Object(u""), ""),
+      row("UTF-16, ASCII in blocks and a rest", utf16Object(u"abcde\0\x7F"s), "abcde\0\x7F"s),
+      row("UTF-16, every length", utf16Object(u"\x80\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
+          "\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
+      row("UTF-16, lone surrogates", utf16Object(u"\xDC00z\xD800y\xD800\xD800\xDC00x\xDBFF"),
+          "\uFFFDz\uFFFDy\uFFFD\U00010000x\uFFFD"),
+  });
 }
 
 TEST(BinaryTable, ReadsEverySizeOfNumber) {
@@ -59,41 +53,32 @@ TEST(BinaryTable, ReadsEverySizeOfNumber) {
 }
 
 TEST(BinaryTable, LosesOnlyThePairThatIsDamaged) {
-  struct Row {
-    const char* name;
-    std::string key;
-    std::string value;
+  const auto row = [](const char* name, const std::string& key, const std::string& value) {
+    BinaryList list;
+    list.pair(asciiObject("good"), asciiObject("G")).pair(key, value);
+    list.pair(asciiObject("after"), asciiObject("A"));
+    return TableRow{name, list.bytes(), "after=A|good=G", "0:0"};
   };
   const std::string sound = asciiObject("a");
-  const Row rows[] = {
-      {"integer", sound, "\x10\x01"},
-      {"integer as key", "\x10\x01", sound},
-      {"flag", sound, "\x09"},
-      {"array", sound, "\xA1"s + '\0'},
-      {"dictionary of itself", sound, "\xD1"s + bigEndian(3, 2) + bigEndian(3, 2)},
-      {"unknown kind", sound, bigEndian(0x75, 1) + "hello"},
-      {"text longer than the file", sound, longMarker(0x5, 1 << 20, 2)},
-      {"text of almost endless length", sound, longMarker(0x6, ~std::uint64_t{0} / 2 + 2, 3)},
-      {"count beyond 8 bytes", sound, "\x5F\x14"s + bigEndian(1, 8) + bigEndian(3, 8) + "abc"},
-      {"count of 32 bytes", sound, longMarker(0x5, 3, 5) + "abc"},
-      {"count that is no integer", sound, "\x5F\x51\x03" + "abc"s},
-  };
-  for (const Row& row : rows) {
-    BinaryList list;
-    list.pair(asciiObject("good"), asciiObject("G")).pair(row.key, row.value);
-    list.pair(asciiObject("after"), asciiObject("A"));
-    checkTables({{row.name, list.bytes(), "after=A|good=G", "0:0"}});
-  }
   BinaryList dangling;
   dangling.pair(asciiObject("good"), asciiObject("G")).pair(0, 7).pair(0xFFFF, 0);
-  checkTables({{"references to nothing", dangling.bytes(), "good=G", "0:0 0:0"}});
+  checkTables({
+      row("integer", sound, "\x10\x01"),
+      row("integer as key", "\x10\x01", sound),
+      row("flag", sound, "\x09"),
+      row("array", sound, "\xA1"s + '\0'),
+      row("dictionary of itself", sound, "\xD1"s + bigEndian(3, 2) + bigEndian(3, 2)),
+      row("unknown kind", sound, bigEndian(0x75, 1) + "hello"),
+      row("text longer than the file", sound, longMarker(0x5, 1 << 20, 2)),
+      row("text of almost endless length", sound, longMarker(0x6, ~std::uint64_t{0} / 2 + 2, 3)),
+      row("count beyond 8 bytes", sound, "\x5F\x14"s + bigEndian(1, 8) + bigEndian(3, 8) + "abc"),
+      row("count of 32 bytes", sound, longMarker(0x5, 3, 5) + "abc"),
+      row("count that is no integer", sound, "\x5F\x51\x03" + "abc"s),
+      {"references to nothing", dangling.bytes(), "good=G", "0:0 0:0"},
+  });
 }
 
 TEST(BinaryTable, RefusesABrokenFrame) {
-  struct Row {
-    const char* name;
-    std::string file;
-  };
   const auto listOfSizes = [](std::size_t referenceSize, std::size_t offsetSize) {
     return BinaryList{referenceSize, offsetSize}.pair(asciiObject("good"), asciiObject("G"));
   };
@@ -103,30 +88,31 @@ TEST(BinaryTable, RefusesABrokenFrame) {
     return std::string(sound).replace(sound.size() - 32 + at, bytes.size(), bytes);
   };
   const std::string huge(8, '\xFF');
-  const Row rows[] = {
-      {"one byte too many", sound + '\0'},
-      {"offsets of no bytes", withTrailer(6, bigEndian(0, 1))},
-      {"offsets of 9 bytes", listOfSizes(2, 9).bytes()},
-      {"references of no bytes", withTrailer(7, bigEndian(0, 1))},
-      {"references of 9 bytes", listOfSizes(9, 3).bytes()},
-      {"no objects", withTrailer(8, bigEndian(0, 8))},
-      {"too many objects", withTrailer(8, bigEndian(4, 8))},
-      {"very many objects", withTrailer(8, huge)},
-      {"top object out of range", withTrailer(16, bigEndian(3, 8))},
-      {"top object far out of range", withTrailer(16, huge)},
-      {"text on top", withTrailer(16, bigEndian(0, 8))},
-      {"offsets in the magic", withTrailer(24, bigEndian(7, 8))},
-      {"offsets in the trailer", withTrailer(24, bigEndian(sound.size() - 31, 8))},
-      {"offsets out of range", withTrailer(24, huge)},
-      {"array on top", list.bytes("\xA1"s + bigEndian(0, 2))},
-      {"dictionary that is cut off", list.bytes("\xD2"s + bigEndian(0, 6))},
-      {"dictionary without count", list.bytes("\xDF"s)},
-      {"dictionary of almost endless size", list.bytes(longMarker(0xD, ~std::uint64_t{0} / 2, 3))},
+  const auto row = [](const char* name, const std::string& file) {
+    return TableRow{name, file, kNoTable, "0:0"};
   };
-  checkTables({{"sound", sound, "good=G"}});
-  for (const Row& row : rows) {
-    checkTables({{row.name, row.file, kNoTable, "0:0"}});
-  }
+  checkTables({
+      {"sound", sound, "good=G"},
+      row("one byte too many", sound + '\0'),
+      row("offsets of no bytes", withTrailer(6, bigEndian(0, 1))),
+      row("offsets of 9 bytes", listOfSizes(2, 9).bytes()),
+      row("references of no bytes", withTrailer(7, bigEndian(0, 1))),
+      row("references of 9 bytes", listOfSizes(9, 3).bytes()),
+      row("no objects", withTrailer(8, bigEndian(0, 8))),
+      row("too many objects", withTrailer(8, bigEndian(4, 8))),
+      row("very many objects", withTrailer(8, huge)),
+      row("top object out of range", withTrailer(16, bigEndian(3, 8))),
+      row("top object far out of range", withTrailer(16, huge)),
+      row("text on top", withTrailer(16, bigEndian(0, 8))),
+      row("offsets in the magic", withTrailer(24, bigEndian(7, 8))),
+      row("offsets in the trailer", withTrailer(24, bigEndian(sound.size() - 31, 8))),
+      row("offsets out of range", withTrailer(24, huge)),
+      row("array on top", list.bytes("\xA1"s + bigEndian(0, 2))),
+      row("dictionary that is cut off", list.bytes("\xD2"s + bigEndian(0, 6))),
+      row("dictionary without count", list.bytes("\xDF"s)),
+      row("dictionary of almost endless size",
+          list.bytes(longMarker(0xD, ~std::uint64_t{0} / 2, 3))),
+  });
   EXPECT_EQ(readTable(std::string(sound).replace(6, 2, "15")).pairs, kNoTable) << "other version";
   for (std::size_t size = 1; size < sound.size(); ++size) {
     EXPECT_EQ(readTable(std::string_view(sound).substr(0, size)).pairs, kNoTable) << size;

@@ -44,32 +44,24 @@ TEST(XmlTable, TellsPropertyListsFromOtherDocuments) {
 }
 
 TEST(XmlTable, ReadsTexts) {
-  struct Row {
-    const char* name;
-    std::string content;
-    std::string text;
+  const auto row = [](const char* name, const std::string& content, const std::string& text) {
+    const std::string pair = "<key>" + content + "</key ><string a=''>" + content + "</string>";
+    return TableRow{name, document(pair), text + "=" + text};
   };
-  const Row rows[] = {
-      {"white space is kept", " \t a\n b ", " \t a\n b "},
-      {"predefined entities", "&lt;a&gt; &amp;amp; &quot;&apos;", "<a> &amp; \"'"},
-      {"numeric references", "&#65;&#x42;&#x1f600;&#xE9;&#0067;", "AB\U0001F600\u00E9C"},
-      {"references to no character", "&#0;|&#xD800;|&#x110000;|&#99999999999999999999;",
-       "\uFFFD|\uFFFD|\uFFFD|\uFFFD"},
-      {"malformed references", "&#;|&#x;|&#12z|&#xg;|&#", "\uFFFD|\uFFFD|\uFFFDz|\uFFFDg;|\uFFFD"},
-      {"line ends", "a\r\nb\rc\n\rd&#13;", "a\nb\nc\n\nd\r"},
-      {"literal section", "a<![CDATA[<b>&amp;\r\n]]]]>c", "a<b>&amp;\n]]c"},
-      {"pieces", "a<!-- </string> -->b<?c </string>?>d<![CDATA[]]>&#101;", "abde"},
-      {"beyond ASCII", "\u05E9\u05DC \U0001F468\u200D", "\u05E9\u05DC \U0001F468\u200D"},
-      {"zero byte", "a\0b"s, "a\0b"s},
-      {"nothing", "", ""},
-  };
-  for (const Row& row : rows) {
-    checkTables(
-        {{row.name,
-          document("<key>" + row.content + "</key ><string a=''>" + row.content + "</string>"),
-          row.text + "=" + row.text}});
-  }
   checkTables({
+      row("white space is kept", " \t a\n b ", " \t a\n b "),
+      row("predefined entities", "&lt;a&gt; &amp;amp; &quot;&apos;", "<a> &amp; \"'"),
+      row("numeric references", "&#65;&#x42;&#x1f600;&#xE9;&#0067;", "AB\U0001F600\u00E9C"),
+      row("references to no character", "&#0;|&#xD800;|&#x110000;|&#99999999999999999999;",
+          "\uFFFD|\uFFFD|\uFFFD|\uFFFD"),
+      row("malformed references", "&#;|&#x;|&#12z|&#xg;|&#",
+          "\uFFFD|\uFFFD|\uFFFDz|\uFFFDg;|\uFFFD"),
+      row("line ends", "a\r\nb\rc\n\rd&#13;", "a\nb\nc\n\nd\r"),
+      row("literal section", "a<![CDATA[<b>&amp;\r\n]]]]>c", "a<b>&amp;\n]]c"),
+      row("pieces", "a<!-- </string> -->b<?c </string>?>d<![CDATA[]]>&#101;", "abde"),
+      row("beyond ASCII", "\u05E9\u05DC \U0001F468\u200D", "\u05E9\u05DC \U0001F468\u200D"),
+      row("zero byte", "a\0b"s, "a\0b"s),
+      row("nothing", "", ""),
       {"empty elements", document("<key/><string />"), "="},
       {"empty dictionary", "<plist><dict/></plist>", ""},
       {"the last one counts",
@@ -78,43 +70,37 @@ TEST(XmlTable, ReadsTexts) {
 }
 
 TEST(XmlTable, LosesOnlyThePairThatIsDamaged) {
-  struct Row {
-    const char* name;
-    std::string damaged;
-    const char* places;
+  const auto row = [](const char* name, const std::string& damaged, const char* places) {
+    const std::string after = "<key>after</key><string>A</string>";
+    return TableRow{name, document(kGood + "\n" + damaged + after), "after=A|good=G", places};
   };
   const std::string key = "<key>a</key>";
-  const Row rows[] = {
-      {"integer", key + "<integer>1</integer>", "2:13"},
-      {"flag", key + "<true/>", "2:13"},
-      {"array", key + "<array><string>b</string><array/><array></array></array>", "2:13"},
-      {"dictionary", key + "<dict><key>b</key><dict><key>c</key><true/></dict></dict>", "2:13"},
-      {"flag without end", key + "<true>", "2:13"},
-      {"array without end", key + "<array><string>b</string>", "2:13"},
-      {"crossed ends", key + "<array><dict></array>", "2:13"},
-      {"misspelt value", key + "<strnig>b</string>", "2:13"},
-      {"misspelt end of a value", key + "<string>b</strnig>", "2:22"},
-      {"misspelt end of a key", "<key>a</kye><string>b</string>", "2:7"},
-      {"value without end", key + "<string>b", "2:22"},
-      {"key without end", "<key>a<string>b</string>", "2:7"},
-      {"key without value", key, "2:1"},
-      {"key without value, blemish after it", key + "?", "2:1 2:13"},
-      {"value without key", "<string>b</string>", "2:1"},
-      {"markup in a value", key + "<string>b <b>c</b> d</string>", "2:23"},
-      {"markup in a key", "<key>a<br/></key><string>b</string>", "2:7"},
-      {"sign in a value", key + "<string>b < c</string>", "2:23"},
-      {"unfinished tag", key + "<string", "2:1 2:13"},
-      {"open quote in a tag", key + "<string a='>b</string>", "2:1 2:13 2:26"},
-      {"own entity", key + "<string>b&c;d&e;</string>", "2:22"},
-      {"own entity in a key", "<key>&b;</key><string>c</string>", "2:6"},
-      {"bare ampersand", key + "<string>b & c</string>", "2:23"},
-      {"literal section without end", key + "<string><![CDATA[b</string>", "2:21"},
-  };
-  for (const Row& row : rows) {
-    checkTables(
-        {{row.name, document(kGood + "\n" + row.damaged + "<key>after</key><string>A</string>"),
-          "after=A|good=G", row.places}});
-  }
+  checkTables({
+      row("integer", key + "<integer>1</integer>", "2:13"),
+      row("flag", key + "<true/>", "2:13"),
+      row("array", key + "<array><string>b</string><array/><array></array></array>", "2:13"),
+      row("dictionary", key + "<dict><key>b</key><dict><key>c</key><true/></dict></dict>", "2:13"),
+      row("flag without end", key + "<true>", "2:13"),
+      row("array without end", key + "<array><string>b</string>", "2:13"),
+      row("crossed ends", key + "<array><dict></array>", "2:13"),
+      row("misspelt value", key + "<strnig>b</string>", "2:13"),
+      row("misspelt end of a value", key + "<string>b</strnig>", "2:22"),
+      row("misspelt end of a key", "<key>a</kye><string>b</string>", "2:7"),
+      row("value without end", key + "<string>b", "2:22"),
+      row("key without end", "<key>a<string>b</string>", "2:7"),
+      row("key without value", key, "2:1"),
+      row("key without value, blemish after it", key + "?", "2:1 2:13"),
+      row("value without key", "<string>b</string>", "2:1"),
+      row("markup in a value", key + "<string>b <b>c</b> d</string>", "2:23"),
+      row("markup in a key", "<key>a<br/></key><string>b</string>", "2:7"),
+      row("sign in a value", key + "<string>b < c</string>", "2:23"),
+      row("unfinished tag", key + "<string", "2:1 2:13"),
+      row("open quote in a tag", key + "<string a='>b</string>", "2:1 2:13 2:26"),
+      row("own entity", key + "<string>b&c;d&e;</string>", "2:22"),
+      row("own entity in a key", "<key>&b;</key><string>c</string>", "2:6"),
+      row("bare ampersand", key + "<string>b & c</string>", "2:23"),
+      row("literal section without end", key + "<string><![CDATA[b</string>", "2:21"),
+  });
 }
 
 TEST(XmlTable, KeepsWhatStandsAroundABrokenFrame) {
