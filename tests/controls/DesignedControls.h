@@ -63,8 +63,8 @@ class DesignedControl {
   }
 
   [[nodiscard]] Design shown() {
-    const Design design{watched->text(), watched->accessibilityLabel(),
-                        watched->accessibilityHint(), watched->style().textAlignment()};
+    Design design{watched->text(), watched->accessibilityLabel(), watched->accessibilityHint(),
+                  watched->style().textAlignment()};
     diary->forget();
     return design;
   }

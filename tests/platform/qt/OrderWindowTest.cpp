@@ -105,6 +105,7 @@ class OrderWindowTest : public QObject {
     }));
   }
 
+  // What follows is no slot. NOLINTNEXTLINE(readability-redundant-access-specifiers)
  private:
   template <typename Widget>
   Widget* find(const char* name) const {
