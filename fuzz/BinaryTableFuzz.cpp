@@ -1,40 +1,26 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <numeric>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include <tests/support/BinaryList.h>
 
 #include "TableInvariants.h"
 
 namespace {
 
 constexpr std::string_view kMagic = "bplist00";
-constexpr std::size_t kOffsetSize = 2;
-constexpr std::size_t kReferenceSize = 1;
 constexpr std::size_t kMostObjects = 256;
-
-void appendNumber(std::string& out, std::size_t value, std::size_t size) {
-  for (std::size_t i = size; i-- > 0;) {
-    out.push_back(i < sizeof value ? static_cast<char>(value >> (8 * i)) : '\0');
-  }
-}
 
 // A sound frame around any bytes: an object begins at each of them, the first one is the top.
 std::string framed(std::string_view objects) {
   const std::string_view held = objects.substr(0, (std::size_t{1} << 16) - kMagic.size());
-  const std::size_t count = std::min(held.size(), kMostObjects);
-  std::string file = std::string(kMagic).append(held);
-  const std::size_t offsetsStart = file.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    appendNumber(file, kMagic.size() + i, kOffsetSize);
-  }
-  file.append(6, '\0');
-  appendNumber(file, kOffsetSize, 1);
-  appendNumber(file, kReferenceSize, 1);
-  appendNumber(file, count, 8);
-  appendNumber(file, 0, 8);
-  appendNumber(file, offsetsStart, 8);
-  return file;
+  std::vector<std::size_t> offsets(std::min(held.size(), kMostObjects));
+  std::iota(offsets.begin(), offsets.end(), kMagic.size());
+  return orvanta::test::closeBinaryList(std::string(kMagic).append(held), offsets, 0, 2, 1);
 }
 
 }  // namespace

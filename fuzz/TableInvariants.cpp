@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <tuple>
+#include <string>
 #include <vector>
 
 #include <orvanta/platform/Utf8.h>
@@ -41,6 +41,20 @@ Reading read(std::string_view bytes) {
   return reading;
 }
 
+const StringTable kNone;
+
+std::string described(const Reading& reading) {
+  std::string text = reading.table ? "table\n" : "no table\n";
+  for (const StringTable::Entry& entry : (reading.table ? *reading.table : kNone).entries()) {
+    text.append(entry.key).append("=").append(entry.value).append("\n");
+  }
+  for (const TableProblem& problem : reading.problems) {
+    text += std::to_string(problem.line) + ":" + std::to_string(problem.column) + " " +
+            problem.message + "\n";
+  }
+  return text;
+}
+
 void checkEntries(const StringTable& table) {
   const std::vector<StringTable::Entry> entries = table.entries();
   require(entries.size() == table.size(), "the table has as many entries as it says");
@@ -61,29 +75,6 @@ void checkProblem(const TableProblem& problem, std::string_view bytes) {
   require(problem.line + problem.column <= bytes.size() + 2, "a problem lies within the file");
 }
 
-void checkSame(const StringTable* a, const StringTable* b) {
-  require((a == nullptr) == (b == nullptr), "what is a table once is one again");
-  if (a == nullptr) {
-    return;
-  }
-  const std::vector<StringTable::Entry> ours = a->entries();
-  const std::vector<StringTable::Entry> theirs = b->entries();
-  require(ours.size() == theirs.size(), "reading again gives as many entries");
-  for (std::size_t i = 0; i < ours.size(); ++i) {
-    require(ours[i].key == theirs[i].key && ours[i].value == theirs[i].value,
-            "reading again gives the same entries");
-  }
-}
-
-void checkSame(const std::vector<TableProblem>& a, const std::vector<TableProblem>& b) {
-  require(a.size() == b.size(), "reading again gives as many problems");
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    require(std::tie(a[i].line, a[i].column, a[i].message) ==
-                std::tie(b[i].line, b[i].column, b[i].message),
-            "reading again gives the same problems");
-  }
-}
-
 }  // namespace
 
 void checkTable(std::string_view bytes) {
@@ -96,10 +87,10 @@ void checkTable(std::string_view bytes) {
   for (const TableProblem& problem : first.problems) {
     checkProblem(problem, bytes);
   }
-  const Reading second = read(bytes);
-  checkSame(first.table.get(), second.table.get());
-  checkSame(first.problems, second.problems);
-  checkSame(first.table.get(), readStringTable(bytes).get());
+  const std::string once = described(first);
+  require(once == described(read(bytes)), "reading again gives the same");
+  require(once.starts_with(described({readStringTable(bytes), {}})),
+          "nobody listening changes nothing");
 }
 
 }  // namespace orvanta::fuzz

@@ -1,7 +1,8 @@
 // Lets each single file operation of an update fail in turn, and looks at what is left on disk.
 #include <algorithm>
 #include <cerrno>
-#include <iostream>
+#include <map>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -36,11 +37,7 @@ Table tableOnDisk(OVStringCache& cache) {
   return holds(kOld) && cache.localizedStringForKey("c", "fr") == "c" ? Table::old : Table::torn;
 }
 
-struct Walk {
-  int old = 0;
-  int whole = 0;
-  int torn = 0;
-};
+using Walk = std::map<Table, int>;
 
 // One update for each of its operations, which fails there. Ends with the update that no longer
 // reaches the operation.
@@ -64,9 +61,7 @@ Walk walk(const Fault& fault) {
     files->setHook({});
 
     const Table left = tableOnDisk(cache);
-    walked.old += left == Table::old ? 1 : 0;
-    walked.whole += left == Table::whole ? 1 : 0;
-    walked.torn += left == Table::torn ? 1 : 0;
+    ++walked[left];
     EXPECT_EQ(cache.cachedLanguages().size(), 1U) << "operation " << failing;
     const bool saidSo = app.log.back().starts_with("file ");
     EXPECT_TRUE(!saidSo || left == Table::whole) << "operation " << failing;
@@ -80,24 +75,17 @@ Walk walk(const Fault& fault) {
   }
 }
 
-struct FaultRow {
-  const char* what;
-  Fault fault;
-};
-
 TEST(FaultWalk, LeavesTheWholeOldTableOrTheWholeNewOne) {
-  const FaultRow rows[] = {
+  const std::pair<const char*, Fault> rows[] = {
       {"disk full", Fault::fail(ENOSPC)},
       {"cut short at once", Fault::cutShort(1, EIO)},
       {"cut short late", Fault::cutShort(60, EIO)},
   };
-  for (const FaultRow& row : rows) {
-    const Walk walked = walk(row.fault);
-    EXPECT_EQ(walked.torn, 0) << row.what;
-    EXPECT_GT(walked.old, 2) << row.what;
-    EXPECT_GT(walked.whole, 1) << row.what;
-    std::cout << row.what << ": " << walked.old << " old, " << walked.whole << " new, "
-              << walked.torn << " torn\n";
+  for (const auto& [what, fault] : rows) {
+    Walk walked = walk(fault);
+    EXPECT_EQ(walked[Table::torn], 0) << what;
+    EXPECT_GT(walked[Table::old], 2) << what;
+    EXPECT_GT(walked[Table::whole], 1) << what;
   }
 }
 

@@ -1,5 +1,5 @@
-#include <fstream>
-#include <iterator>
+#include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,7 @@
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/locale/Localizer.h>
 
+#include "../support/Bytes.h"
 #include "../support/MemoryFile.h"
 #include "../support/TestApplication.h"
 #include "../support/UpdateFixture.h"
@@ -18,13 +19,8 @@ using test::contentsOf;
 using test::payloadOf;
 using test::TestApplication;
 
-std::string utf16(std::string_view ascii) {
-  std::string units = "\xFF\xFE";
-  for (const char character : ascii) {
-    units += character;
-    units += '\0';
-  }
-  return units;
+std::string utf16(std::string_view text) {
+  return test::encode(test::kUtf16Little, text);
 }
 
 TEST(StringsFile, HoldsEveryPairAsItWasSent) {
@@ -35,20 +31,16 @@ TEST(StringsFile, HoldsEveryPairAsItWasSent) {
 }
 
 TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
-  EXPECT_EQ(test::writtenAsUtf16(""), "\xFF\xFE");
-  EXPECT_EQ(test::writtenAsUtf16("plain ascii text"), utf16("plain ascii text"));
-  EXPECT_EQ(test::writtenAsUtf16("\u00E9\u0628\u6F22\U0001F600"),
-            std::string("\xFF\xFE\xE9\x00\x28\x06\x22\x6F\x3D\xD8\x00\xDE", 12));
-  // Longer than the writer's buffer, its characters at every position to where that ends.
-  for (const char* start : {"", "a", "ab"}) {
-    std::string utf8 = start;
-    std::string units = utf16(start);
-    while (utf8.size() < 200'000) {
-      utf8 += "\u6F22";
-      units += "\x22\x6F";
+  for (const char* text : {"", "plain ascii text", "\u00E9\u0628\u6F22\U0001F600"}) {
+    EXPECT_EQ(test::writtenAsUtf16(text), utf16(text));
+  }
+  // Longer than the writer's buffer, characters at every position to where that ends.
+  for (std::string text : {"", "a", "ab"}) {
+    while (text.size() < 100'000) {
+      text += "\u6F22";
     }
-    EXPECT_EQ(test::writtenAsUtf16(utf8), units);
-    EXPECT_EQ(test::writtenAsUtf16(utf8 + "\xFF"), "");
+    EXPECT_EQ(test::writtenAsUtf16(text), utf16(text));
+    EXPECT_EQ(test::writtenAsUtf16(text + "\xFF"), "");
   }
 }
 
@@ -110,13 +102,8 @@ TEST(CacheUpdate, TakesDotsInNamesAsLevels) {
   EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
 }
 
-struct NameRow {
-  const char* language;
-  bool written;
-};
-
 TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheCache) {
-  const NameRow rows[] = {
+  const std::pair<const char*, bool> rows[] = {
       {"pt-BR", true},      {"a/b", true},
       {"a/../b", true},     {"../x", false},
       {"%2e%2e/x", false},  {"..%2Fx", false},
@@ -126,22 +113,20 @@ TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheCache) {
       {"\u00E9", false},    {"100%", false},
       {"link/x", false},    {"/abs", true},
   };
-  for (const NameRow& row : rows) {
+  for (const auto& [language, isWritten] : rows) {
     TestApplication app;
     const auto outside = app.caches() / "outside";
     std::filesystem::create_directories(outside);
     std::filesystem::create_directories(app.cacheFolder());
     std::filesystem::create_directory_symlink(outside, app.cacheFolder() / "link");
     OVStringCache cache;
-    cache.updateStrings(payloadOf({{row.language, {{"k", "v"}}}, {"fr", {{"k", "v"}}}}), "main",
-                        "app");
-    const std::size_t expected = row.written ? 2 : 1;
-    EXPECT_EQ(test::tablesBelow(app.caches()), expected) << row.language;
-    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), expected) << row.language;
-    EXPECT_EQ(app.log.front().starts_with("error saving strings file "), !row.written)
-        << row.language;
+    cache.updateStrings(payloadOf({{language, {{"k", "v"}}}, {"fr", {{"k", "v"}}}}), "main", "app");
+    const std::size_t expected = isWritten ? 2 : 1;
+    EXPECT_EQ(test::tablesBelow(app.caches()), expected) << language;
+    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), expected) << language;
+    EXPECT_EQ(app.log.front().starts_with("error saving strings file "), !isWritten) << language;
     EXPECT_TRUE(app.log.back().ends_with("fr.lproj/Localizable.strings written to cache"));
-    EXPECT_TRUE(std::filesystem::is_empty(outside)) << row.language;
+    EXPECT_TRUE(std::filesystem::is_empty(outside)) << language;
   }
 }
 

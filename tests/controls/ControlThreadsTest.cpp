@@ -55,15 +55,13 @@ class ControlThreads : public testing::Test {
 
 TEST_F(ControlThreads, ARefreshIsAppliedBeforeItReturns) {
   offMain([&] {
-    const auto leftToRight = TextAlignment::left;
-    const auto rightToLeft = TextAlignment::right;
     label_.refreshFor("ar");
-    EXPECT_EQ(label_.shown(), (Design{"titre", "dit", "indice", rightToLeft}));
+    EXPECT_EQ(label_.shown(), (Design{"titre", "dit", "indice", TextAlignment::right}));
     EXPECT_EQ(label_.fontName(), "CorbetSansKufiArabic");
     field_.refreshFor("ar");
-    EXPECT_EQ(field_.shown(), (Design{"titre", "dit", "indice", rightToLeft}));
+    EXPECT_EQ(field_.shown(), (Design{"titre", "dit", "indice", TextAlignment::right}));
     button_.refreshFor("ar");
-    EXPECT_EQ(button_.shown(), (Design{"titre", "dit", "indice", leftToRight}));
+    EXPECT_EQ(button_.shown(), (Design{"titre", "dit", "indice"}));
     EXPECT_EQ(button_.fontName(), "System") << "the locale is lost on the way";
   });
 }
@@ -99,18 +97,17 @@ TEST_F(ControlThreads, AHandlerCalledOffMainWithoutALocaleDoesNotEvenWait) {
 }
 
 TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
-  struct Row {
+  const struct {
     const char* name;
     std::function<void()> work;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"a notification", [] { LocalizedApplication::post(); }},
       {"a label's refresh", [this] { label_.refreshFor("ar"); }},
       {"a field's refresh", [this] { field_.refreshFor("ar"); }},
       {"a button's refresh", [this] { button_.refreshFor("ar"); }},
       {"a field's placeholder", [this] { field_.localized->initializePlaceholder(); }},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     label_ = test::DesignedLabel(kDesign);
     field_ = test::DesignedTextField(kDesign);
     button_ = test::DesignedButton(kDesign);
@@ -137,7 +134,7 @@ TEST_F(ControlThreads, ControlsComeAndGoWhileOthersPost) {
   constexpr int kPosts = 100;
   std::atomic<int> posting = kThreads;
   std::vector<std::thread> threads;
-  for (int i = 0; i < kThreads; ++i) {
+  while (threads.size() < kThreads) {
     threads.emplace_back([&] {
       for (int post = 0; post < kPosts; ++post) {
         LocalizedApplication::post();
@@ -152,9 +149,10 @@ TEST_F(ControlThreads, ControlsComeAndGoWhileOthersPost) {
     label = std::make_unique<test::DesignedLabel>(kDesign);
     label->localized->awakeFromNib();
     auto& button = buttons[turn % buttons.size()];
-    button = turn % 2 == 0 ? std::make_unique<test::DesignedButton>(kDesign) : nullptr;
-    if (button != nullptr) {
-      button->localized->awakeFromNib();
+    button = std::make_unique<test::DesignedButton>(kDesign);
+    button->localized->awakeFromNib();
+    if (turn % 2 == 0) {
+      button = nullptr;
     }
     app_.loop->runPending();
   }

@@ -54,17 +54,17 @@ class DesignedControl {
       : watched(std::make_shared<Watched>()),
         diary(watched->diary),
         localized(std::make_unique<Localized>(watched)) {
-    setText(design.text);
+    watched->setText(design.text);
     watched->setAccessibilityLabel(design.spoken);
     watched->setAccessibilityHint(design.hint);
-    style().setFont(platform::Platform::current().fonts->systemFontOfSize(12, 0));
-    style().setTextAlignment(design.alignment);
+    watched->style().setFont(platform::Platform::current().fonts->systemFontOfSize(12, 0));
+    watched->style().setTextAlignment(design.alignment);
     diary->forget();
   }
 
   [[nodiscard]] Design shown() {
-    const Design design{text(), watched->accessibilityLabel(), watched->accessibilityHint(),
-                        style().textAlignment()};
+    Design design{watched->text(), watched->accessibilityLabel(), watched->accessibilityHint(),
+                  watched->style().textAlignment()};
     diary->forget();
     return design;
   }
@@ -73,7 +73,7 @@ class DesignedControl {
             localized->originalAccessibilityHint(), localized->originalAlignment()};
   }
   [[nodiscard]] std::string fontName() {
-    std::string name = described(style().font());
+    std::string name = described(watched->style().font());
     diary->forget();
     return name;
   }
@@ -86,35 +86,9 @@ class DesignedControl {
     }
   }
 
-  void setText(const String& text) {
-    if constexpr (kIsButton) {
-      watched->setTitle(text, platform::kControlStateNormal);
-    } else {
-      watched->setText(text);
-    }
-  }
-
   std::shared_ptr<Watched> watched;
   std::shared_ptr<Diary> diary;
   std::unique_ptr<Localized> localized;
-
- private:
-  static constexpr bool kIsButton = std::is_same_v<Localized, UILocalizedButton>;
-
-  [[nodiscard]] String text() {
-    if constexpr (kIsButton) {
-      return watched->titleForState(platform::kControlStateNormal);
-    } else {
-      return watched->text();
-    }
-  }
-  [[nodiscard]] platform::TextStyle& style() {
-    if constexpr (kIsButton) {
-      return watched->titleLabel();
-    } else {
-      return *watched;
-    }
-  }
 };
 
 using DesignedLabel = DesignedControl<UILocalizedLabel, WatchedLabel>;

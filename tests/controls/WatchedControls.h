@@ -15,16 +15,20 @@ class Diary {
   /// Called after each thing that a control was told, with what was written down of it.
   std::function<void(const std::string& entry)> afterwards;
 
-  void read(const std::string& what) { entries_ += entries_.empty() ? what : " " + what; }
+  template <typename Value>
+  Value read(const std::string& what, const Value& value) {
+    write(what);
+    return value;
+  }
 
   template <typename Value>
   void told(const std::string& what, const Value& value) {
     if (!platform::Platform::current().mainQueue->isMainThread()) {
-      read("OFF-MAIN");
+      write("OFF-MAIN");
     }
     std::ostringstream entry;
     entry << what << "=" << value;
-    read(entry.str());
+    write(entry.str());
     if (afterwards) {
       afterwards(entry.str());
     }
@@ -35,6 +39,8 @@ class Diary {
   void forget() { entries_.clear(); }
 
  private:
+  void write(const std::string& entry) { entries_ += entries_.empty() ? entry : " " + entry; }
+
   std::string entries_;
 };
 
@@ -43,26 +49,27 @@ inline std::string described(const std::shared_ptr<const platform::Font>& font) 
 }
 
 template <typename Base>
+class Watched : public Base {
+ public:
+  std::shared_ptr<Diary> diary = std::make_shared<Diary>();
+};
+
+template <typename Base>
 class WatchedAccessible : public Base {
  public:
-  using Base::Base;
-  std::shared_ptr<Diary> diary = std::make_shared<Diary>();
-
   [[nodiscard]] String accessibilityLabel() const override {
-    diary->read("spoken");
-    return spoken_;  // Absent when untouched.
+    return this->diary->read("spoken", spoken_);  // Absent when untouched.
   }
   void setAccessibilityLabel(const String& label) override {
     spoken_ = label;
-    diary->told("spoken", label);
+    this->diary->told("spoken", label);
   }
   [[nodiscard]] String accessibilityHint() const override {
-    diary->read("hint");
-    return Base::accessibilityHint();
+    return this->diary->read("hint", Base::accessibilityHint());
   }
   void setAccessibilityHint(const String& hint) override {
     Base::setAccessibilityHint(hint);
-    diary->told("hint", hint);
+    this->diary->told("hint", hint);
   }
 
  private:
@@ -72,45 +79,32 @@ class WatchedAccessible : public Base {
 template <typename Base>
 class WatchedStyle : public Base {
  public:
-  using Base::Base;
-
   [[nodiscard]] std::shared_ptr<const platform::Font> font() const override {
-    ownDiary().read("font");
-    return Base::font();
+    return this->diary->read("font", Base::font());
   }
   void setFont(const std::shared_ptr<const platform::Font>& font) override {
     Base::setFont(font);
-    ownDiary().told("font", described(font));
+    this->diary->told("font", described(font));
   }
   [[nodiscard]] platform::TextAlignment textAlignment() const override {
-    ownDiary().read("alignment");
-    return Base::textAlignment();
+    return this->diary->read("alignment", Base::textAlignment());
   }
   void setTextAlignment(platform::TextAlignment alignment) override {
     Base::setTextAlignment(alignment);
-    ownDiary().told("alignment", static_cast<int>(alignment));
+    this->diary->told("alignment", static_cast<int>(alignment));
   }
-
- protected:
-  [[nodiscard]] virtual Diary& ownDiary() const = 0;
 };
 
 template <typename Base>
-class WatchedText : public WatchedStyle<WatchedAccessible<Base>> {
+class WatchedText : public WatchedStyle<WatchedAccessible<Watched<Base>>> {
  public:
-  using WatchedStyle<WatchedAccessible<Base>>::WatchedStyle;
+  platform::TextStyle& style() { return *this; }
 
-  [[nodiscard]] String text() const override {
-    ownDiary().read("text");
-    return Base::text();
-  }
+  [[nodiscard]] String text() const override { return this->diary->read("text", Base::text()); }
   void setText(const String& text) override {
     Base::setText(text);
-    ownDiary().told("text", text);
+    this->diary->told("text", text);
   }
-
- protected:
-  [[nodiscard]] Diary& ownDiary() const override { return *WatchedAccessible<Base>::diary; }
 };
 
 using WatchedLabel = WatchedText<platform::standard::MemoryLabel>;
@@ -118,20 +112,25 @@ using WatchedLabel = WatchedText<platform::standard::MemoryLabel>;
 class WatchedTextField : public WatchedText<platform::standard::MemoryTextField> {
  public:
   [[nodiscard]] String placeholder() const override {
-    ownDiary().read("placeholder");
-    return MemoryTextField::placeholder();
+    return diary->read("placeholder", MemoryTextField::placeholder());
   }
   void setPlaceholder(const String& placeholder) override {
     MemoryTextField::setPlaceholder(placeholder);
-    ownDiary().told("placeholder", placeholder);
+    diary->told("placeholder", placeholder);
   }
 };
 
-class WatchedButton : public WatchedAccessible<platform::standard::MemoryButton> {
+class WatchedButton : public WatchedAccessible<Watched<platform::standard::MemoryButton>> {
  public:
+  WatchedButton() { titleLabel_.diary = diary; }
+
+  // Under the names that the others have.
+  platform::TextStyle& style() { return titleLabel_; }
+  String text() const { return titleForState(platform::kControlStateNormal); }
+  void setText(const String& text) { setTitle(text, platform::kControlStateNormal); }
+
   [[nodiscard]] String titleForState(platform::ControlState state) const override {
-    diary->read("title" + std::to_string(state));
-    return MemoryButton::titleForState(state);
+    return diary->read("title" + std::to_string(state), MemoryButton::titleForState(state));
   }
   void setTitle(const String& title, platform::ControlState state) override {
     MemoryButton::setTitle(title, state);
@@ -140,16 +139,7 @@ class WatchedButton : public WatchedAccessible<platform::standard::MemoryButton>
   [[nodiscard]] platform::TextStyle& titleLabel() override { return titleLabel_; }
 
  private:
-  class TitleLabel final
-      : public WatchedStyle<platform::standard::MemoryStyled<platform::TextStyle>> {
-   public:
-    explicit TitleLabel(std::shared_ptr<Diary> diary) : diary_(std::move(diary)) {}
-
-   private:
-    [[nodiscard]] Diary& ownDiary() const override { return *diary_; }
-    std::shared_ptr<Diary> diary_;
-  };
-  TitleLabel titleLabel_{diary};
+  WatchedStyle<Watched<platform::standard::MemoryStyled<platform::TextStyle>>> titleLabel_;
 };
 
 }  // namespace orvanta::test

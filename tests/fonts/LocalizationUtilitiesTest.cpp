@@ -5,10 +5,9 @@
 
 #include <orvanta/fonts/ResourceFace.h>
 #include <orvanta/fonts/localizationUtilities.h>
-#include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/standard/StandardFonts.h>
 
-#include "../support/TestApplication.h"
+#include "../support/LocalizedApplication.h"
 
 namespace orvanta::localizationUtilities {
 namespace {
@@ -49,18 +48,12 @@ platform::Platform platformWith(std::shared_ptr<platform::FontSystem> fonts) {
 
 class Fonts : public testing::Test {
  protected:
-  void TearDown() override { speak(former_); }
-
-  static void speak(const StringList& locales) {
-    Localizer::sharedLocalizer().setPreferredLocales(locales);
-  }
   FontHandle font(double size, platform::SymbolicTraits traits) {
     return watched_->systemFontOfSize(size, 0)->fontWithSymbolicTraits(traits);
   }
 
   std::shared_ptr<WatchedFonts> watched_ = std::make_shared<WatchedFonts>();
-  test::TestApplication app_{{{"en", {}}}, {"en"}, platformWith(watched_)};
-  StringList former_ = Localizer::sharedLocalizer().currentLocales();
+  test::LocalizedApplication app_{{{"en", {}}}, {"en"}, platformWith(watched_)};
 };
 
 std::string described(const FontHandle& font) {
@@ -72,49 +65,33 @@ std::string described(const FontHandle& font) {
 }
 
 TEST_F(Fonts, FollowTheLocale) {
-  struct Row {
-    String locale;
-    FontHandle base;
-    std::string expected;  // Empty: the base font itself.
+  const std::tuple<String, platform::SymbolicTraits, std::string> kArabic[] = {
+      {"ar", kBoldTrait, "CorbetSansKufiArabic-Bold 13 bold"},
+      {"ar-EG", kBoldTrait, "CorbetSansKufiArabic-Bold 13 bold"},
+      {"ar", kItalicTrait, "CorbetSansKufiArabic 13"},
+      {"ar", kItalicTrait | kBoldTrait, "CorbetSansKufiArabic-Bold 13 bold"},
   };
-  const Row kRows[] = {
-      {"ar", font(13, kBoldTrait), "CorbetSansKufiArabic-Bold 13 bold"},
-      {"ar-EG", font(13, kBoldTrait), "CorbetSansKufiArabic-Bold 13 bold"},
-      {"ar", font(20, kItalicTrait), "CorbetSansKufiArabic 20"},
-      {"ar", font(20, kItalicTrait | kBoldTrait), "CorbetSansKufiArabic-Bold 20 bold"},
-      {"ar", nullptr, ""},
-      {"AR", font(20, 0), ""},
-      {"ar_EG", font(20, 0), ""},
-      {"arz", font(20, 0), ""},
-      {"he-IL", font(20, kBoldTrait), ""},
-      {"ur", font(20, 0), ""},
-      {"en", font(20, 0), ""},
-      {"", font(20, 0), ""},
-      {nullptr, font(20, 0), ""},
-  };
-  for (const Row& row : kRows) {
-    const FontHandle font = ovFontForLocale(row.locale, row.base);
-    if (row.expected.empty()) {
-      EXPECT_EQ(font, row.base) << row.locale << " gives the base font itself";
-    } else {
-      EXPECT_EQ(described(font), row.expected) << row.locale;
-    }
+  for (const auto& [locale, traits, expected] : kArabic) {
+    EXPECT_EQ(described(ovFontForLocale(locale, font(13, traits))), expected) << locale;
   }
+  const FontHandle base = font(20, kBoldTrait);
+  for (const String& locale : {String("AR"), String("ar_EG"), String("arz"), String("he-IL"),
+                               String("ur"), String("en"), String(""), String()}) {
+    EXPECT_EQ(ovFontForLocale(locale, base), base) << locale;
+  }
+  EXPECT_EQ(ovFontForLocale("ar", nullptr), nullptr);
 }
 
 TEST_F(Fonts, AlignmentIsSwappedWhereThePlatformWritesFromTheRight) {
-  struct Row {
-    String locale;
-    bool swapped;
-  };
-  for (const Row& row : {Row{"ar-SA", true}, Row{"he", true}, Row{"ur", true}, Row{"fa-IR", true},
-                         Row{"en-GB", false}, Row{"zh-Hant", false}, Row{"ar_SA", false},
-                         Row{"xx", false}, Row{"", false}, Row{nullptr, false}}) {
+  const std::pair<String, bool> kRows[] = {
+      {"ar-SA", true},    {"he", true},     {"ur", true},  {"fa-IR", true}, {"en-GB", false},
+      {"zh-Hant", false}, {"ar_SA", false}, {"xx", false}, {"", false},     {nullptr, false}};
+  for (const auto& [locale, isSwapped] : kRows) {
     for (std::int64_t number = -1; number <= 5; ++number) {
       const auto base = static_cast<TextAlignment>(number);
       const bool isSide = base == TextAlignment::left || base == TextAlignment::right;
-      const auto expected = row.swapped && isSide ? static_cast<TextAlignment>(2 - number) : base;
-      EXPECT_EQ(ovAlignmentForLocale(row.locale, base), expected) << row.locale << ", " << number;
+      const auto expected = isSwapped && isSide ? static_cast<TextAlignment>(2 - number) : base;
+      EXPECT_EQ(ovAlignmentForLocale(locale, base), expected) << locale << ", " << number;
     }
   }
 }
@@ -145,10 +122,10 @@ TEST_F(Fonts, MakersFollowTheFirstCurrentLocale) {
   for (const Row& row : kRows) {
     for (const StringList& locales :
          {StringList{"en", "ar"}, StringList::emptyList(), StringList()}) {
-      speak(locales);
+      Localizer::sharedLocalizer().setPreferredLocales(locales);
       EXPECT_EQ(described(row.make()), row.inEnglish) << row.name << " in " << locales;
     }
-    speak({"ar-EG", "en"});
+    Localizer::sharedLocalizer().setPreferredLocales({"ar-EG", "en"});
     EXPECT_EQ(described(row.make()), row.inArabic) << row.name << " in Arabic";
   }
 }
@@ -167,42 +144,35 @@ TEST_F(Fonts, ArabicFacesAreTheSameObjectsAtSeventeenPoints) {
 
 // What three requests of one face ask of the platform, and what they get.
 TEST_F(Fonts, AFaceIsLoadedUntilThereIsAFontForIt) {
-  struct Row {
+  using Registrations = std::vector<bool>;
+  const Registrations never = {false, false, false};
+  struct {
     const char* name;
     ResourceFace face;
-    std::vector<bool> registrations;
-    std::size_t questions;
+    Registrations registrations;
     std::string expected;
-  };
-  Row rows[] = {
+  } rows[] = {
       {"the file answers to another name than its own",
        {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic"},
        {true},
-       1,
        "CorbetSansKufiArabic 17"},
       {"registered before",
        {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic"},
        {false},
-       1,
        "CorbetSansKufiArabic 17"},
       {"a name that the file does not answer to",
        {"CorbetSansKufiArabic-Regular", "CorbetSansKufiArabic-Regular"},
-       {false, false, false},
-       3,
+       never,
        "absent"},
-      {"no such file, but a font", {"Missing", "System"}, {false}, 1, "System 17"},
-      {"no such file and no font", {"Missing", "Missing"}, {false, false, false}, 3, "absent"},
-      {"only the application has the file",
-       {"Own", "CorbetSansKufiArabic-Bold"},
-       {false, false, false},
-       3,
-       "absent"},
+      {"no such file, but a font", {"Missing", "System"}, {false}, "System 17"},
+      {"no such file and no font", {"Missing", "Missing"}, never, "absent"},
+      {"only the application has it", {"Own", "CorbetSansKufiArabic-Bold"}, never, "absent"},
   };
   const auto resources = platform::Platform::current().bundles->bundleForLibrary();
   ASSERT_NE(resources, nullptr);
   std::filesystem::copy_file(resources->pathForResource("CorbetSansKufiArabic-Bold", "ttf").str(),
                              app_.bundle() / "Own.ttf");
-  for (Row& row : rows) {
+  for (auto& row : rows) {
     watched_->askedFor.clear();
     watched_->registrations.clear();
     const FontHandle first = row.face.font();
@@ -210,7 +180,7 @@ TEST_F(Fonts, AFaceIsLoadedUntilThereIsAFontForIt) {
     EXPECT_EQ(row.face.font(), first) << row.name;
     EXPECT_EQ(row.face.font(), first) << row.name;
     EXPECT_EQ(watched_->registrations, row.registrations) << row.name;
-    EXPECT_EQ(watched_->askedFor.size(), row.questions) << row.name;
+    EXPECT_EQ(watched_->askedFor.size(), row.registrations.size()) << row.name;
   }
 }
 

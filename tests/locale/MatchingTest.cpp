@@ -53,20 +53,15 @@ TEST(Matching, ResolvesRequestsAgainstWhatExists) {
   }
 }
 
-struct LanguageRow {
-  String identifier;
-  String language;
-};
-
 TEST(Matching, TakesTheLanguageOfAnIdentifier) {
-  const LanguageRow rows[] = {
+  const std::pair<String, String> rows[] = {
       {"en-GB", "en"},    {"zh-Hant-TW", "zh"},   {"fil", "fil"}, {"-GB", ""},
       {"en_GB", "en_GB"}, {"en", "en"},           {"", ""},       {"a-", "a-"},
       {"--", "--"},       {"\u00E9-", "\u00E9-"}, {"-ab", ""},    {{}, {}},
       {" ar-x", " ar"},
   };
-  for (const LanguageRow& row : rows) {
-    EXPECT_EQ(Localizer::languageOnlyFromString(row.identifier), row.language) << row.identifier;
+  for (const auto& [identifier, language] : rows) {
+    EXPECT_EQ(Localizer::languageOnlyFromString(identifier), language) << identifier;
   }
 }
 

@@ -27,36 +27,23 @@ TEST(OVLocale, TakesItsNamesFromTheFolderWhereTheTableSaysNothing) {
   EXPECT_EQ(locale->version(), kVersion.c_str()) << "a missing version is the key itself";
   EXPECT_TRUE(locale->fallbackLocales().isAbsent());
   EXPECT_FALSE(locale->availableForDownload());
-  EXPECT_EQ(
-      locale->bundle()->bundlePath().view().substr(locale->bundle()->bundlePath().size() - 14),
-      "/zh-Hant.lproj");
+  EXPECT_TRUE(locale->bundle()->bundlePath().view().ends_with("/zh-Hant.lproj"));
+  EXPECT_EQ(OVLocale::initWithBundle(nullptr), nullptr);
 }
 
-struct EquivalentsRow {
-  std::string entry;
-  StringList locales;
-};
-
 TEST(OVLocale, SplitsEquivalentsAsTheyAreWritten) {
-  const EquivalentsRow rows[] = {
-      {"zh-Hans,zh-CN", {"zh-Hans", "zh-CN"}},
-      {"zh-Hans, zh-CN", {"zh-Hans", " zh-CN"}},
-      {"a,,b", {"a", "", "b"}},
-      {"", {""}},
-      {kEquivalents, {}},
-  };
+  const std::pair<std::string, StringList> rows[] = {{"zh-Hans, zh-CN", {"zh-Hans", " zh-CN"}},
+                                                     {"a,,b", {"a", "", "b"}},
+                                                     {"", {""}},
+                                                     {kEquivalents, {}}};
   int number = 0;
-  for (const EquivalentsRow& row : rows) {
+  for (const auto& [entry, locales] : rows) {
     const auto locale = localeOf("x" + std::to_string(number++),
-                                 {{kEquivalents, row.entry}, {kAppleId, "own"}, {kVersion, "1.2"}});
-    EXPECT_EQ(locale->fallbackLocales(), row.locales) << row.entry;
+                                 {{kEquivalents, entry}, {kAppleId, "own"}, {kVersion, "1.2"}});
+    EXPECT_EQ(locale->fallbackLocales(), locales) << entry;
     EXPECT_EQ(locale->appleLocaleName(), "own");
     EXPECT_EQ(locale->version(), "1.2");
   }
-}
-
-TEST(OVLocale, IsAbsentWithoutABundle) {
-  EXPECT_EQ(OVLocale::initWithBundle(nullptr), nullptr);
 }
 
 TEST(OVLocale, ComparesNamesByIdentityAndHashesItself) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <string>
@@ -43,6 +44,11 @@ class ScratchFolder {
 inline void writeFile(const std::filesystem::path& file, std::string_view text) {
   std::filesystem::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << text;
+}
+
+inline std::string contentsOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 inline void writeTable(const std::filesystem::path& folder, const Strings& strings) {

@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,11 +29,6 @@ inline StringsPayload payloadOf(const std::vector<std::pair<std::string, Pairs>>
     strings.add(language, StringsPayload::dictionary({{"app", std::move(bundle)}}));
   }
   return strings;
-}
-
-inline std::string contentsOf(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 /// The number of files, of whatever name, below a folder.

@@ -32,19 +32,18 @@ using DeferredKinds = testing::Types<test::DesignedLabel, test::DesignedButton>;
 TYPED_TEST_SUITE(DeferredControls, DeferredKinds);
 
 TYPED_TEST(DeferredControls, AreConfiguredLaterBeforeVersion91) {
-  struct Row {
-    OperatingSystemVersion version;
-    bool deferred;
+  const std::pair<OperatingSystemVersion, bool> kRows[] = {
+      {{9, 0, 0}, true},  {{9, 0, 9}, true},  {{8, 4, 0}, true},
+      {{9, 1, 0}, false}, {{9, 1, 1}, false}, {{10, 0, 0}, false},
   };
-  for (const Row& row : {Row{{9, 0, 0}, true}, Row{{9, 0, 9}, true}, Row{{8, 4, 0}, true},
-                         Row{{9, 1, 0}, false}, Row{{9, 1, 1}, false}, Row{{10, 0, 0}, false}}) {
-    const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem(row.version));
+  for (const auto& [version, isDeferred] : kRows) {
+    const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem(version));
     TypeParam control(kDesign);
     control.localized->awakeFromNib();
-    EXPECT_EQ(control.diary->take().empty(), row.deferred)
-        << row.version.majorVersion << '.' << row.version.minorVersion;
+    EXPECT_EQ(control.diary->take().empty(), isDeferred)
+        << version.majorVersion << '.' << version.minorVersion;
     LocalizedApplication::post();
-    EXPECT_EQ(control.diary->take().empty(), row.deferred) << "not even listening";
+    EXPECT_EQ(control.diary->take().empty(), isDeferred) << "not even listening";
     app.loop->runPending();
     EXPECT_EQ(control.shown(), (Design{"titre", "dit", "indice"}));
     app.speak({"de"});
@@ -52,25 +51,20 @@ TYPED_TEST(DeferredControls, AreConfiguredLaterBeforeVersion91) {
   }
 }
 
-TYPED_TEST(DeferredControls, TakeTheTextOfThatLaterMoment) {
+TYPED_TEST(DeferredControls, TakeTheTextOfThatLaterMomentUnlessTheyHaveDied) {
   const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
   TypeParam control({"plain", {}, {}});
   control.localized->awakeFromNib();
-  control.setText("title");
-  app.loop->runPending();
-  EXPECT_EQ(control.shown().text, "titre");
-}
-
-TYPED_TEST(DeferredControls, AreNotConfiguredOnceTheyHaveDied) {
-  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
-  TypeParam control(kDesign);
-  control.localized->awakeFromNib();
-  std::weak_ptr<void> watched = control.watched;
-  control.watched.reset();
-  control.localized.reset();
+  control.watched->setText("title");
+  TypeParam dead(kDesign);
+  dead.localized->awakeFromNib();
+  std::weak_ptr<void> watched = dead.watched;
+  dead.watched.reset();
+  dead.localized.reset();
   EXPECT_TRUE(watched.expired()) << "the step that waits keeps nothing alive";
-  EXPECT_EQ(app.loop->runPending(), 1U);
-  EXPECT_EQ(control.diary->take(), "");
+  EXPECT_EQ(app.loop->runPending(), 2U);
+  EXPECT_EQ(control.shown().text, "titre");
+  EXPECT_EQ(dead.diary->take(), "");
 }
 
 TYPED_TEST(DeferredControls, MayDieWhileTheyAreConfigured) {
@@ -98,15 +92,13 @@ TEST(Deferral, IsForLabelsAndButtonsLoadedFromALayout) {
   EXPECT_EQ(label->text(), "titre") << "nor does what is made in code";
 }
 
-struct PlaceholderRow {
-  const char* name;
-  String text;
-  String placeholder;
-  String shown;
-};
-
 TEST(Placeholder, IsLocalizedAtTheLoad) {
-  const PlaceholderRow rows[] = {
+  const struct {
+    const char* name;
+    String text;
+    String placeholder;
+    String shown;
+  } rows[] = {
       {"a marker without text", "", "email.p", "courriel"},
       {"a marker with a key", "title", "email.p", "courriel"},
       {"a marker with plain text", "plain", "password.p", "mot de passe"},
@@ -118,7 +110,7 @@ TEST(Placeholder, IsLocalizedAtTheLoad) {
       {"empty", "title", "", ""},
       {"absent", "title", {}, {}},
   };
-  for (const PlaceholderRow& row : rows) {
+  for (const auto& row : rows) {
     const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
     test::DesignedTextField control({row.text, {}, {}});
     control.watched->setPlaceholder(row.placeholder);
@@ -132,7 +124,7 @@ TEST(Placeholder, IsLocalizedAtTheLoad) {
   }
 }
 
-TEST(Placeholder, IsSetBeforeTheRefreshByWhatTheFieldShows) {
+TEST(PlaceholderThread, IsTheMainOneBeforeTheRefreshAndWhenAsked) {
   const LocalizedApplication app(test::languagesToSpeak(), {"fr"});
   test::DesignedTextField control({"title", {}, {}});
   control.watched->setPlaceholder("hint");
@@ -141,15 +133,6 @@ TEST(Placeholder, IsSetBeforeTheRefreshByWhatTheFieldShows) {
   EXPECT_EQ(control.diary->take(),
             "text spoken hint placeholder font alignment placeholder placeholder=indice "
             "font=System alignment=0 text=titre");
-  control.watched->setPlaceholder("spoken");
-  control.localized->initializePlaceholder();
-  EXPECT_EQ(control.watched->placeholder(), "dit");
-}
-
-TEST(PlaceholderThread, IsTheMainOne) {
-  const LocalizedApplication app(test::languagesToSpeak(), {"fr"});
-  test::DesignedTextField control({"title", {}, {}});
-  control.localized->awakeFromNib();
   control.watched->setPlaceholder("email.p");
   control.diary->forget();
   std::thread other([&] {

@@ -5,12 +5,17 @@
 #include <QImage>
 #include <QString>
 #include <QWidget>
+#include <memory>
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/qt/LanguageChangeObserver.h>
 #include <orvanta/platform/qt/Text.h>
 
 namespace orvanta::test {
+
+[[nodiscard]] std::unique_ptr<QObject> makePlatformTest();
+[[nodiscard]] std::unique_ptr<QObject> makeWidgetsTest();
+[[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();
 
 /// Whether a step ran that was queued before there was an application object.
 inline bool earlyStepRan = false;

@@ -5,10 +5,7 @@
 #include <orvanta/platform/Platform.h>
 #include <orvanta/platform/qt/QtPlatform.h>
 
-#include "OrderWindowTest.h"
-#include "PlatformTest.h"
 #include "Support.h"
-#include "WidgetsTest.h"
 #include "tests/support/TestApplication.h"
 
 int main(int argc, char** argv) {
@@ -25,13 +22,10 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
-  PlatformTest platformTest;
-  WidgetsTest widgetsTest;
-  OrderWindowTest windowTest;
   int failures = 0;
-  for (QObject* test : {static_cast<QObject*>(&platformTest), static_cast<QObject*>(&widgetsTest),
-                        static_cast<QObject*>(&windowTest)}) {
-    failures += QTest::qExec(test, QStringList(QString::fromLocal8Bit(argv[0])));
+  for (const auto& make : {orvanta::test::makePlatformTest, orvanta::test::makeWidgetsTest,
+                           orvanta::test::makeOrderWindowTest}) {
+    failures += QTest::qExec(make().get(), QStringList(QString::fromLocal8Bit(argv[0])));
   }
   return failures == 0 ? 0 : 1;
 }

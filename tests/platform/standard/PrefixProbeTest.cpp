@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <tests/support/BinaryList.h>
 
 #include <orvanta/platform/Utf8.h>
 #include <orvanta/platform/standard/PrefixProbe.h>
@@ -13,7 +14,9 @@
 namespace orvanta::platform::standard {
 namespace {
 
-using namespace std::string_view_literals;
+using test::encode;
+using test::Encoding;
+using test::kEncodings;
 
 constexpr std::string_view kPrefix = "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguage";
 
@@ -52,39 +55,6 @@ bool tableHolds(std::string_view bytes, std::string_view prefix = kPrefix) {
   });
 }
 
-// One way to write a text as bytes.
-struct Encoding {
-  const char* name;
-  std::string_view mark;
-  std::size_t unit;
-  bool bigEndian;
-};
-
-const Encoding kEncodings[] = {
-    {"UTF-8", ""sv, 1, false},          {"UTF-8 with a mark", "\xEF\xBB\xBF"sv, 1, false},
-    {"UTF-16, little", ""sv, 2, false}, {"UTF-16, little, with a mark", "\xFF\xFE"sv, 2, false},
-    {"UTF-16, big", ""sv, 2, true},     {"UTF-16, big, with a mark", "\xFE\xFF"sv, 2, true},
-    {"UTF-32, little", ""sv, 4, false}, {"UTF-32, little, with a mark", "\xFF\xFE\0\0"sv, 4, false},
-    {"UTF-32, big", ""sv, 4, true},     {"UTF-32, big, with a mark", "\0\0\xFE\xFF"sv, 4, true},
-};
-
-// `text` holds nothing beyond the basic plane.
-std::string encode(const Encoding& encoding, std::string_view text) {
-  std::string bytes(encoding.mark);
-  if (encoding.unit == 1) {
-    return bytes.append(text);
-  }
-  while (!text.empty()) {
-    const utf8::Decoded next = utf8::decode(text);
-    for (std::size_t index = 0; index < encoding.unit; ++index) {
-      const std::size_t shift = 8 * (encoding.bigEndian ? encoding.unit - 1 - index : index);
-      bytes.push_back(static_cast<char>(next.codePoint >> shift));
-    }
-    text.remove_prefix(next.length);
-  }
-  return bytes;
-}
-
 std::string statement(const std::string& key) {
   return "/* a */\n\"other\" = \"x\";\n\"" + key + "Key\" = \"value\";\n";
 }
@@ -94,38 +64,35 @@ std::string xml(const std::string& key) {
          "Key</key><string>Tom &amp; Jerry \\n</string>\n</dict></plist>\n";
 }
 
-enum class Expected { held, unseen };
-
 struct FormRow {
   const char* name;
   std::string text;
-  Expected expected;
+  bool isHeld;
 };
 
 const FormRow kFormRows[] = {
-    {"quoted", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
-    {"unquoted", "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageKey = x;", Expected::held},
-    {"its own value", "\"CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageKey\";", Expected::held},
-    {"\\U", statement("\\U0043ONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
-    {"\\U in its midst", statement("CONFIG-DO_NOT_\\U0054RANSLATE-OrvantaLanguage"),
-     Expected::held},
-    {"octal", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag\\145"), Expected::held},
-    {"itself", statement("\\CONFIG\\-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
-    {"XML", xml("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
-    {"decimal reference", xml("&#67;ONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
-    {"hexadecimal reference", xml("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag&#x65;"), Expected::held},
-    {"CDATA", xml("CONFIG<![CDATA[-DO_NOT_TRANSLATE]]>-OrvantaLanguage"), Expected::held},
-    {"comment within", xml("CONFIG-DO_NOT_TRANSLATE<!-- x -->-OrvantaLanguage"), Expected::held},
-    {"instruction within", xml("CONFIG<?x y?>-DO_NOT_TRANSLATE-OrvantaLanguage"), Expected::held},
+    {"quoted", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
+    {"unquoted", "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageKey = x;", true},
+    {"its own value", "\"CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageKey\";", true},
+    {"\\U", statement("\\U0043ONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
+    {"\\U in its midst", statement("CONFIG-DO_NOT_\\U0054RANSLATE-OrvantaLanguage"), true},
+    {"octal", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag\\145"), true},
+    {"itself", statement("\\CONFIG\\-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
+    {"XML", xml("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
+    {"decimal reference", xml("&#67;ONFIG-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
+    {"hexadecimal reference", xml("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag&#x65;"), true},
+    {"CDATA", xml("CONFIG<![CDATA[-DO_NOT_TRANSLATE]]>-OrvantaLanguage"), true},
+    {"comment within", xml("CONFIG-DO_NOT_TRANSLATE<!-- x -->-OrvantaLanguage"), true},
+    {"instruction within", xml("CONFIG<?x y?>-DO_NOT_TRANSLATE-OrvantaLanguage"), true},
 
-    {"empty", "", Expected::unseen},
-    {"usual", statement("anything"), Expected::unseen},
-    {"usual XML", xml("anything"), Expected::unseen},
-    {"usual escapes", R"("a\n\t\r\"\'\\" = "\a\b\f\v";)", Expected::unseen},
-    {"most of the prefix", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag"), Expected::unseen},
-    {"another case", statement("CONFIG-DO_NOT_TRANSLATE-Orvantalanguage"), Expected::unseen},
+    {"empty", "", false},
+    {"usual", statement("anything"), false},
+    {"usual XML", xml("anything"), false},
+    {"usual escapes", R"("a\n\t\r\"\'\\" = "\a\b\f\v";)", false},
+    {"most of the prefix", statement("CONFIG-DO_NOT_TRANSLATE-OrvantaLanguag"), false},
+    {"another case", statement("CONFIG-DO_NOT_TRANSLATE-Orvantalanguage"), false},
     {"Chinese with the bytes of a backslash", statement("\u5C0F\u5C31\u4E5C\u555C\u5C55\u5C5C"),
-     Expected::unseen},
+     false},
 };
 
 TEST(PrefixProbe, SeesEverySpellingInEveryEncoding) {
@@ -133,28 +100,24 @@ TEST(PrefixProbe, SeesEverySpellingInEveryEncoding) {
     for (const Encoding& encoding : kEncodings) {
       SCOPED_TRACE(std::string(row.name) + ", " + encoding.name);
       const std::string bytes = encode(encoding, row.text);
-      const bool isHeld = row.expected == Expected::held;
-      EXPECT_EQ(tableHolds(bytes), isHeld) << "the row itself is wrong";
+      EXPECT_EQ(tableHolds(bytes), row.isHeld) << "the row itself is wrong";
       // Only in UTF-16 with a mark are halves of wide characters told from backslashes. A mistake
       // costs time and nothing else.
       const bool mayBeMistaken =
           encoding.unit == 4 || (encoding.unit == 2 && encoding.mark.empty());
-      if (isHeld || !mayBeMistaken) {
-        EXPECT_EQ(probeSays(bytes), isHeld);
+      if (row.isHeld || !mayBeMistaken) {
+        EXPECT_EQ(probeSays(bytes), row.isHeld);
       }
     }
   }
 }
 
 TEST(PrefixProbe, ReadsInPiecesOfAnySize) {
-  const std::string held = statement(std::string(kPrefix));
-  const std::string unseen = statement("anything");
-  PrefixProbe probe;
   for (const std::size_t most : {1U, 7U, 64U}) {
-    MemoryFile holding(held, most);
-    EXPECT_TRUE(probe.mayHoldKeysWithPrefix(holding, kPrefix)) << most;
-    MemoryFile lacking(unseen, most);
-    EXPECT_FALSE(probe.mayHoldKeysWithPrefix(lacking, kPrefix)) << most;
+    for (const FormRow& row : kFormRows) {
+      MemoryFile file(row.text, most);
+      EXPECT_EQ(PrefixProbe().mayHoldKeysWithPrefix(file, kPrefix), row.isHeld) << row.name;
+    }
   }
 }
 
@@ -165,32 +128,17 @@ TEST(PrefixProbe, TakesAnUnreadableFileForOneThatMayHoldAnything) {
   EXPECT_TRUE(PrefixProbe().mayHoldKeysWithPrefix(broken, kPrefix));
 }
 
-// A binary property list of one dictionary with one pair. An ASCII text of n characters, fewer than
-// 15, begins with the n-th letter behind "P".
-std::string binaryList(std::string_view keyObject) {
-  std::string bytes = "bplist00";
-  std::string offsets;
-  for (const std::string_view object : {"\xD1\1\2"sv, keyObject, "Qx"sv}) {
-    offsets.push_back(static_cast<char>(bytes.size()));
-    bytes.append(object);
-  }
-  const std::size_t table = bytes.size();
-  bytes.append(offsets).append("\0\0\0\0\0\0\1\1\0\0\0\0\0\0\0\3\0\0\0\0\0\0\0\0"sv);
-  bytes.append("\0\0\0\0\0\0\0"sv).push_back(static_cast<char>(table));
-  return bytes;
-}
-
 TEST(PrefixProbe, SeesTheTextsOfBinaryLists) {
-  const std::string ascii = "\x5F\x10\x27" + std::string(kPrefix);
-  const std::string wide = "\x6F\x10\x27" + encode({"", ""sv, 2, true}, kPrefix);
-  for (const std::string& key : {ascii, wide}) {
-    const std::string bytes = binaryList(key);
+  const auto listOf = [](const std::string& keyObject) {
+    return test::BinaryList().pair(keyObject, test::asciiObject("x")).bytes();
+  };
+  for (const std::string& bytes :
+       {listOf(test::asciiObject(std::string(kPrefix))),
+        listOf(test::utf16Object(std::u16string(kPrefix.begin(), kPrefix.end())))}) {
     EXPECT_TRUE(tableHolds(bytes));
     EXPECT_TRUE(probeSays(bytes));
   }
-  const std::string other = binaryList(R"(S\U0)"sv);
-  EXPECT_EQ(readStringTable(other)->size(), 1U);
-  EXPECT_FALSE(probeSays(other)) << "binary lists know no escapes";
+  EXPECT_FALSE(probeSays(listOf(test::asciiObject(R"(\U0)")))) << "binary lists know no escapes";
 }
 
 // What follows a backslash decides whether the probe may pass over it.
@@ -218,13 +166,13 @@ TEST(PrefixProbe, MissesNothingWhereverItStands) {
   const std::string spellings[] = {std::string(kPrefix), "\\U0043", "\\103"};
   for (const Encoding& encoding : {kEncodings[0], kEncodings[3], kEncodings[5], kEncodings[7]}) {
     for (const std::string& spelling : spellings) {
-      const std::string piece = encode({"", ""sv, encoding.unit, encoding.bigEndian}, spelling);
+      const std::string piece = test::unitsOf(encoding, spelling);
       const std::string mark(encoding.mark);
       std::string filler = mark;
       // In UTF-16 with halves of characters that look like backslashes.
       const char* nothing = encoding.unit == 2 ? "/* \u5C0F */ \"q\" = " : "/* nothing */ \"q\" = ";
       while (filler.size() < 2 * kChunk + 4096) {
-        filler += encode({"", ""sv, encoding.unit, encoding.bigEndian}, nothing);
+        filler += test::unitsOf(encoding, nothing);
       }
       for (const std::size_t seam : {std::size_t{3600}, kChunk, 2 * kChunk}) {
         for (std::size_t before = 0; before < 4 * kPrefix.size() + 8; before += encoding.unit) {
@@ -280,27 +228,21 @@ TEST(PrefixProbe, AgreesWithTheTableOnRandomFiles) {
   EXPECT_GT(passedOver, 1000U);
 }
 
-struct KeysRow {
-  std::vector<const char*> keys;
-  const char* prefix;
-};
-
-const KeysRow kKeysRows[] = {
-    {{"CONFIG-Language", "CONFIG-Version"}, ""},
-    {{"CONFIG-Language", "CONFIG-Length"}, "CONFIG-L"},
-    {{"CONFIG-Language"}, "CONFIG-Language"},
-    {{"CONFIG-Language", "CONFIG-Language.x"}, "CONFIG-Language"},
-    {{"CONFIG-Language key"}, "CONFIG-Language"},
-    {{"CONFIG\\-Language"}, ""},
-    {{"CONFIG-Langu\xC3\xA4ge"}, "CONFIG-Langu"},
-    {{"anything", ""}, ""},
-    {{}, ""},
-};
-
 TEST(PrefixProbe, TakesThePrefixThatTheKeysShare) {
-  for (const KeysRow& row : kKeysRows) {
-    const std::vector<HashedKey> keys(row.keys.begin(), row.keys.end());
-    EXPECT_EQ(prefixToProbeFor(keys), row.prefix) << (row.keys.empty() ? "none" : row.keys.front());
+  const std::pair<std::vector<const char*>, const char*> kRows[] = {
+      {{"CONFIG-Language", "CONFIG-Version"}, ""},
+      {{"CONFIG-Language", "CONFIG-Length"}, "CONFIG-L"},
+      {{"CONFIG-Language"}, "CONFIG-Language"},
+      {{"CONFIG-Language", "CONFIG-Language.x"}, "CONFIG-Language"},
+      {{"CONFIG-Language key"}, "CONFIG-Language"},
+      {{"CONFIG\\-Language"}, ""},
+      {{"CONFIG-Langu\u00E4ge"}, "CONFIG-Langu"},
+      {{"anything", ""}, ""},
+      {{}, ""},
+  };
+  for (const auto& [names, prefix] : kRows) {
+    const std::vector<HashedKey> keys(names.begin(), names.end());
+    EXPECT_EQ(prefixToProbeFor(keys), prefix) << (names.empty() ? "none" : names.front());
   }
 }
 

@@ -1,31 +1,83 @@
-#include <chrono>
+#include <atomic>
+#include <functional>
 #include <future>
 #include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
 
-#include <tests/platform/MainQueueSuite.h>
+#include <gtest/gtest.h>
 
 #include <orvanta/platform/standard/RunLoop.h>
 
-namespace orvanta::test {
+namespace orvanta::platform::standard {
 namespace {
 
-using platform::standard::RunLoop;
+// The two ways in which the main thread may run what is queued.
+void turnPending(RunLoop& loop) {
+  loop.runPending();
+}
+void turnRunning(RunLoop& loop) {
+  loop.dispatchAsync([&] { loop.quit(); });
+  loop.run();
+}
 
-struct PendingHarness {
-  platform::MainQueue& queue() { return *loop; }
-  void turn() { loop->runPending(); }
-  std::shared_ptr<RunLoop> loop = RunLoop::make();
-};
-
-struct RunningHarness : PendingHarness {
-  void turn() {
-    loop->dispatchAsync([this] { loop->quit(); });
-    loop->run();
+class RunLoopTurns : public testing::TestWithParam<void (*)(RunLoop&)> {
+ protected:
+  void turnUntil(const std::function<bool()>& isDone) {
+    while (!isDone()) {
+      GetParam()(*loop_);
+    }
   }
+  std::shared_ptr<RunLoop> loop_ = RunLoop::make();
 };
 
-using Harnesses = testing::Types<PendingHarness, RunningHarness>;
-INSTANTIATE_TYPED_TEST_SUITE_P(RunLoop, MainQueueSuite, Harnesses);
+INSTANTIATE_TEST_SUITE_P(BothWays, RunLoopTurns, testing::Values(turnPending, turnRunning));
+
+TEST_P(RunLoopTurns, RunsStepsLaterAndInOrder) {
+  std::string order;
+  loop_->dispatchAsync([&] {
+    order += "1";
+    loop_->dispatchAsync([&] { order += "3"; });
+    order += "2";
+  });
+  EXPECT_EQ(order, "") << "never inside the call";
+  turnUntil([&] { return order.size() >= 3; });
+  EXPECT_EQ(order, "123");
+}
+
+TEST_P(RunLoopTurns, WaitsOnTheMainThreadByRunningAtOnce) {
+  std::string order;
+  loop_->dispatchAsync([&] { order += "2"; });
+  loop_->performOnMainThreadAndWait([&] { order += "1"; });
+  EXPECT_EQ(order, "1");
+  turnUntil([&] { return order.size() >= 2; });
+  EXPECT_EQ(order, "12");
+}
+
+TEST_P(RunLoopTurns, RunsTheStepsOfOtherThreadsOnTheMainOne) {
+  std::atomic<int> ended = 0;
+  std::vector<int> seen;  // By steps on the main thread alone.
+  std::vector<std::thread> threads;
+  threads.reserve(4);
+  for (int number = 0; number < 4; ++number) {
+    threads.emplace_back([&, number] {
+      bool ran = false;
+      loop_->performOnMainThreadAndWait([&] {
+        ran = loop_->isMainThread();
+        seen.push_back(number);
+      });
+      EXPECT_TRUE(ran) << "waits until the step has run";
+      loop_->dispatchAsync([&, number] { seen.push_back(number); });
+      ++ended;
+    });
+  }
+  turnUntil([&] { return ended == 4 && seen.size() >= 8; });
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(seen.size(), 8U);
+}
 
 TEST(RunLoop, RunsUntilItIsToldToQuit) {
   const auto loop = RunLoop::make();
@@ -44,16 +96,6 @@ TEST(RunLoop, RunsUntilItIsToldToQuit) {
   loop->dispatchAsync([&] { loop->quit(); });
   loop->run();
   EXPECT_EQ(order, "123") << "nothing is lost";
-}
-
-TEST(RunLoop, WakesUpForOtherThreads) {
-  const auto loop = RunLoop::make();
-  std::thread other([&] {
-    loop->performOnMainThreadAndWait([] {});
-    loop->quit();
-  });
-  loop->run();
-  other.join();
 }
 
 TEST(RunLoop, RunsWhatIsPendingAndNoMore) {
@@ -127,10 +169,12 @@ TEST(RunLoop, MayEndInsideAStep) {
   EXPECT_FALSE(ran);
 }
 
-TEST(RunLoop, OfTheProcessBelongsToTheThreadThatLoadedIt) {
-  EXPECT_TRUE(RunLoop::main()->isMainThread());
-  std::thread([] { EXPECT_FALSE(RunLoop::main()->isMainThread()); }).join();
+TEST(RunLoop, KnowsItsThread) {
+  for (const auto& loop : {RunLoop::make(), RunLoop::main()}) {
+    EXPECT_TRUE(loop->isMainThread());
+    std::thread([&] { EXPECT_FALSE(loop->isMainThread()); }).join();
+  }
 }
 
 }  // namespace
-}  // namespace orvanta::test
+}  // namespace orvanta::platform::standard

@@ -13,9 +13,8 @@ namespace {
 
 class StandardBundles : public testing::Test {
  protected:
-  std::shared_ptr<BundleRegistry> registryFor(StringList deviceLanguages = {"fr"}) const {
-    return makeBundleRegistry(makeFileManager({}), makeLocaleData(std::move(deviceLanguages)),
-                              folder(), {});
+  std::shared_ptr<BundleRegistry> registryFor(StringList deviceLanguages = {"fr"}) {
+    return makeBundleRegistry(files_, makeLocaleData(std::move(deviceLanguages)), folder(), {});
   }
 
   std::string folder() const { return scratch_.path(); }
@@ -24,9 +23,25 @@ class StandardBundles : public testing::Test {
     test::writeFile(path(relative), text);
     return path(relative);
   }
+  // A table that has not changed for so long that its stamp says so.
+  std::string writeOld(const std::string& relative, std::string_view text) const {
+    std::string file = write(relative, text);
+    std::filesystem::last_write_time(
+        file, std::filesystem::last_write_time(file) - std::chrono::hours(1));
+    return file;
+  }
+  [[nodiscard]] int openedSinceLast() { return std::exchange(opened_, 0); }
+
+  std::string_view failing_;  // The operation that fails.
 
  private:
   test::ScratchFolder scratch_;
+  int opened_ = 0;
+  std::shared_ptr<FileManager> files_ = std::make_shared<test::ForwardingFileManager>(
+      makeFileManager({}), [this](std::string_view operation, std::string_view /*path*/) {
+        opened_ += operation == "openFileForReading" ? 1 : 0;
+        return operation == failing_ ? test::Fault::fail(5) : test::Fault::none();
+      });
 };
 
 TEST_F(StandardBundles, GiveOneObjectForEachFolder) {
@@ -49,12 +64,10 @@ TEST_F(StandardBundles, AreAbsentWithoutAFolder) {
   const auto registry = registryFor();
   EXPECT_NE(registry->bundleWithPath(path("fr.lproj")), nullptr);
   std::filesystem::remove_all(path("fr.lproj"));
-  for (const char* gone : {"fr.lproj", "fr.lproj/Localizable.strings", "none"}) {
-    EXPECT_EQ(registry->bundleWithPath(path(gone)), nullptr) << gone;
+  for (const String& gone : {String(path("fr.lproj")), String(path("fr.lproj/Localizable.strings")),
+                             String(), String(""), String("relative")}) {
+    EXPECT_EQ(registry->bundleWithPath(gone), nullptr) << gone;
   }
-  EXPECT_EQ(registry->bundleWithPath({}), nullptr);
-  EXPECT_EQ(registry->bundleWithPath(""), nullptr);
-  EXPECT_EQ(registry->bundleWithPath("relative"), nullptr);
 }
 
 TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
@@ -67,22 +80,20 @@ TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
   EXPECT_EQ(bundle->localizedStringForKey("k", {}, "Other"), "other");
   EXPECT_TRUE(bundle->localizedStringForKey("k", {}, "Localizable").isSameObject(one));
 
-  EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
-  EXPECT_TRUE(bundle->localizedStringForKey("k").isSameObject(one)) << "nothing had changed";
+  const auto again = [&] {
+    EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
+    return bundle->localizedStringForKey("k");
+  };
+  EXPECT_TRUE(again().isSameObject(one)) << "nothing had changed";
 
   // Of the same length, in place, and at once: only the content tells.
   write("fr.lproj/Localizable.strings", R"("k" = "two";)");
   EXPECT_EQ(bundle->localizedStringForKey("k"), "one") << "not opened again yet";
-  EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
-  EXPECT_EQ(bundle->localizedStringForKey("k"), "two");
-
+  EXPECT_EQ(again(), "two");
   std::filesystem::remove(file);
-  EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
-  EXPECT_EQ(bundle->localizedStringForKey("k"), "k");
-
+  EXPECT_EQ(again(), "k");
   write("fr.lproj/Localizable.strings", R"("k" = "back";)");
-  EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
-  EXPECT_EQ(bundle->localizedStringForKey("k"), "back");
+  EXPECT_EQ(again(), "back");
   EXPECT_EQ(one, "one") << "what was handed out stays";
 }
 
@@ -119,47 +130,24 @@ TEST_F(StandardBundles, MainBundleIsThereWithoutAFolder) {
       makeBundleRegistry(makeFileManager({}), makeLocaleData({}), path("none"), {});
   const auto main = registry->mainBundle();
   ASSERT_NE(main, nullptr);
-  EXPECT_EQ(main->bundlePath(), String(path("none")));
-  EXPECT_TRUE(main->localizations().isPresent());
-  EXPECT_TRUE(main->localizations().empty());
+  EXPECT_EQ(main->localizations(), StringList::emptyList());
   EXPECT_EQ(main->localizedStringForKey("k"), "k");
 }
-
-// Counts the times that a table's file was opened.
-class CountedOpening {
- public:
-  [[nodiscard]] std::shared_ptr<FileManager> files() {
-    return std::make_shared<test::ForwardingFileManager>(
-        makeFileManager({}), [this](std::string_view operation, std::string_view /*path*/) {
-          count_ += operation == "openFileForReading" ? 1 : 0;
-          return operation == failing_ ? test::Fault::fail(5) : test::Fault::none();
-        });
-  }
-  [[nodiscard]] int countSinceLast() { return std::exchange(count_, 0); }
-  void fail(std::string_view operation) { failing_ = operation; }
-
- private:
-  int count_ = 0;
-  std::string_view failing_;
-};
 
 TEST_F(StandardBundles, NeedNoTableToKnowThatSharedPrefixesAreNotThere) {
   const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
                                        HashedKey("CONFIG-Language-B")};
   const std::vector<String> none(2);
-  const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
-  const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
-  std::filesystem::last_write_time(file, longAgo);
-  CountedOpening opening;
-  const auto registry = makeBundleRegistry(opening.files(), makeLocaleData({}), folder(), {});
+  const std::string file = writeOld("fr.lproj/Localizable.strings", R"("k" = "one";)");
+  const auto registry = registryFor();
   const auto open = [&] { return registry->bundleWithPath(path("fr.lproj")); };
 
   EXPECT_EQ(open()->textsForKeys(keys), none);
   EXPECT_EQ(open()->textsForKeys(keys), none);
-  EXPECT_EQ(opening.countSinceLast(), 1) << "the file had not changed";
+  EXPECT_EQ(openedSinceLast(), 1) << "the file had not changed";
   EXPECT_EQ(open()->localizedStringForKey("k"), "one");
   EXPECT_EQ(open()->textsForKeys(keys), none);
-  EXPECT_EQ(opening.countSinceLast(), 1) << "the table answers once it is read";
+  EXPECT_EQ(openedSinceLast(), 1) << "the table answers once it is read";
 
   write("fr.lproj/Localizable.strings", R"("CONFIG-Language-\U0042" = "b";)");
   EXPECT_EQ(open()->textsForKeys(keys), (std::vector<String>{{}, "b"}));
@@ -170,60 +158,52 @@ TEST_F(StandardBundles, NeedNoTableToKnowThatSharedPrefixesAreNotThere) {
 }
 
 TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
-  const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
-  const auto longAgo = std::filesystem::last_write_time(file) - std::chrono::hours(1);
-  std::filesystem::last_write_time(file, longAgo);
+  writeOld("fr.lproj/Localizable.strings", R"("k" = "one";)");
   write("de.lproj/Localizable.strings", R"("k" = "eins";)");
   write("it.lproj/Localizable.strings", "\0\1\2 no table");
-  CountedOpening opening;
-  const auto registry = makeBundleRegistry(opening.files(), makeLocaleData({}), folder(), {});
+  const auto registry = registryFor();
   const auto look = [&](const char* folder) {
     return registry->bundleWithPath(path(folder))->localizedStringForKey("k");
   };
-  opening.fail("read");
+  failing_ = "read";
   EXPECT_EQ(look("fr.lproj"), "k");
   EXPECT_EQ(look("fr.lproj"), "k");
-  opening.fail("openFileForReading");
+  failing_ = "openFileForReading";
   EXPECT_EQ(look("de.lproj"), "k");
-  opening.fail("none");
+  failing_ = "none";
   EXPECT_EQ(look("it.lproj"), "k");
   EXPECT_EQ(look("fr.lproj"), "one") << "readable again, though unchanged";
 }
 
-struct ResourceRow {
-  const char* name;
-  const char* type;
-  const char* found;  // Relative to the bundle; null for absent.
-};
-
-const ResourceRow kResourceRows[] = {
-    {"a b\xC3\xA9", "txt", "a b\xC3\xA9.txt"},
-    {"plain", nullptr, "plain"},
-    {"plain", "", "plain"},
-    {"fr", "lproj", "fr.lproj"},
-    {"fr.lproj/deep", "txt", "fr.lproj/deep.txt"},
-    {"fr.lproj/../plain", nullptr, "fr.lproj/../plain"},
-    {"../outside", "txt", nullptr},
-    {"fr.lproj/../../outside", "txt", nullptr},
-    {"..", nullptr, nullptr},
-    {".", nullptr, nullptr},
-    {"fr.lproj/..", nullptr, nullptr},
-    {"", "txt", nullptr},
-    {nullptr, "txt", nullptr},
-    {"plain", "txt", nullptr},
-};
-
 TEST_F(StandardBundles, FindResourcesBelowThemselvesAlone) {
-  write("outside.txt", "");
-  for (const char* file : {"in/a b\xC3\xA9.txt", "in/plain", "in/fr.lproj/deep.txt"}) {
+  for (const char* file : {"outside.txt", "in/a b\u00E9.txt", "in/plain", "in/fr.lproj/deep.txt"}) {
     write(file, "");
   }
+  const struct {
+    String name;
+    String type;
+    const char* found;  // Null for absent.
+  } kRows[] = {
+      {"a b\u00E9", "txt", "in/a b\u00E9.txt"},
+      {"plain", {}, "in/plain"},
+      {"plain", "", "in/plain"},
+      {"fr", "lproj", "in/fr.lproj"},
+      {"fr.lproj/deep", "txt", "in/fr.lproj/deep.txt"},
+      {"fr.lproj/../plain", {}, "in/fr.lproj/../plain"},
+      {"../outside", "txt", nullptr},
+      {"fr.lproj/../../outside", "txt", nullptr},
+      {"..", {}, nullptr},
+      {".", {}, nullptr},
+      {"fr.lproj/..", {}, nullptr},
+      {"", "txt", nullptr},
+      {{}, "txt", nullptr},
+      {"plain", "txt", nullptr},
+  };
   const auto bundle = registryFor()->bundleWithPath(path("in"));
-  for (const ResourceRow& row : kResourceRows) {
-    const String found =
-        row.found == nullptr ? String() : String(path(std::string("in/") + row.found));
-    EXPECT_EQ(bundle->pathForResource(row.name, row.type), found)
-        << String(row.name) << " . " << String(row.type);
+  for (const auto& row : kRows) {
+    EXPECT_EQ(bundle->pathForResource(row.name, row.type),
+              row.found == nullptr ? String() : String(path(row.found)))
+        << row.name << " . " << row.type;
   }
 }
 

@@ -1,11 +1,11 @@
-#include <fstream>
-#include <functional>
-#include <iterator>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <tests/support/Bytes.h>
+#include <tests/support/TestApplication.h>
 
 #include <orvanta/platform/standard/LibraryResources.h>
 #include <orvanta/platform/standard/StandardFonts.h>
@@ -14,20 +14,10 @@
 namespace orvanta::platform::standard {
 namespace {
 
-std::string big(std::size_t number, int width) {
-  std::string bytes;
-  for (int shift = 8 * (width - 1); shift >= 0; shift -= 8) {
-    bytes.push_back(static_cast<char>(number >> static_cast<unsigned>(shift)));
-  }
-  return bytes;
-}
+using test::bigEndian;
 
-std::string utf16(const std::string& ascii) {
-  std::string bytes;
-  for (const char c : ascii) {
-    bytes += {'\0', c};
-  }
-  return bytes;
+std::string utf16(std::string_view text) {
+  return test::unitsOf(test::kUtf16Big, text);
 }
 
 // One entry of a "name" table; the text is as it stands in the file.
@@ -54,30 +44,32 @@ struct FontFile {
     std::string records;
     std::string storage;
     for (const NameRecord& name : names) {
-      records += big(name.platform, 2) + big(name.platform == 3 ? 1 : 0, 2) + big(0x409, 2) +
-                 big(name.id, 2) + big(name.text.size(), 2) + big(storage.size(), 2);
+      records += bigEndian(name.platform, 2) + bigEndian(name.platform == 3 ? 1 : 0, 2) +
+                 bigEndian(0x409, 2) + bigEndian(name.id, 2) + bigEndian(name.text.size(), 2) +
+                 bigEndian(storage.size(), 2);
       storage += name.text;
     }
-    return big(0, 2) + big(names.size() + extraNameRecords, 2) +
-           big(6 + records.size() + storageOffsetError, 2) + records + storage;
+    return bigEndian(0, 2) + bigEndian(names.size() + extraNameRecords, 2) +
+           bigEndian(6 + records.size() + storageOffsetError, 2) + records + storage;
   }
 
   [[nodiscard]] std::string bytes() const {
     std::vector<std::pair<std::string, std::string>> tables;
     if (hasOs2) {
-      tables.emplace_back("OS/2",
-                          std::string(62, '\0') + big(fsSelection, 2) + std::string(32, '\0'));
+      tables.emplace_back(
+          "OS/2", std::string(62, '\0') + bigEndian(fsSelection, 2) + std::string(32, '\0'));
     }
     tables.emplace_back("head", std::string(12, '\0') + headMagic + std::string(28, '\0') +
-                                    big(macStyle, 2) + std::string(8, '\0'));
+                                    bigEndian(macStyle, 2) + std::string(8, '\0'));
     tables.emplace_back("name", nameTable());
-    std::string directory = signature + big(tables.size() + extraTables, 2) + std::string(6, '\0');
+    std::string directory =
+        signature + bigEndian(tables.size() + extraTables, 2) + std::string(6, '\0');
     std::string body;
     const std::size_t bodyStart = directory.size() + 16 * tables.size();
     for (const auto& [tag, table] : tables) {
       const bool last = tag == "name";
-      directory += tag + big(0, 4) + big(bodyStart + body.size(), 4) +
-                   big(table.size() + (last ? extraLength : 0), 4);
+      directory += tag + bigEndian(0, 4) + bigEndian(bodyStart + body.size(), 4) +
+                   bigEndian(table.size() + (last ? extraLength : 0), 4);
       body += table;
     }
     return directory + body;
@@ -90,75 +82,41 @@ std::span<const std::byte> bytesOf(const std::string& text) {
 
 struct FaceRow {
   const char* name;
-  std::function<void(FontFile&)> change;
-  std::optional<TrueTypeFace> expected;
+  FontFile file;
+  std::optional<TrueTypeFace> face;
 };
 
 const FaceRow kFaceRows[] = {
-    {"plain", [](FontFile&) {}, {{"Test-Face", 0}}},
-    {"outlines of the other kind", [](FontFile& f) { f.signature = "OTTO"; }, {{"Test-Face", 0}}},
-    {"italic", [](FontFile& f) { f.fsSelection = 0x01; }, {{"Test-Face", kItalicTrait}}},
-    {"bold", [](FontFile& f) { f.fsSelection = 0x20; }, {{"Test-Face", kBoldTrait}}},
-    {"the newer table decides", [](FontFile& f) { f.macStyle = 3; }, {{"Test-Face", 0}}},
-    {"without it the older does",
-     [](FontFile& f) {
-       f.hasOs2 = false;
-       f.macStyle = 1;
-     },
-     {{"Test-Face", kBoldTrait}}},
-    {"a name of one byte a letter",
-     [](FontFile& f) {
-       f.names = {{1, 6, "Mac-Face"}};
-     },
-     {{"Mac-Face", 0}}},
+    {"plain", {}, {{"Test-Face", 0}}},
+    {"outlines of the other kind", {.signature = "OTTO"}, {{"Test-Face", 0}}},
+    {"italic", {.fsSelection = 0x01}, {{"Test-Face", kItalicTrait}}},
+    {"bold", {.fsSelection = 0x20}, {{"Test-Face", kBoldTrait}}},
+    {"the newer table decides", {.macStyle = 3}, {{"Test-Face", 0}}},
+    {"without it the older does", {.macStyle = 1, .hasOs2 = false}, {{"Test-Face", kBoldTrait}}},
+    {"a name of one byte a letter", {.names = {{1, 6, "Mac-Face"}}}, {{"Mac-Face", 0}}},
     {"a spoilt name does not hide a good one",
-     [](FontFile& f) {
-       f.names = {{3, 6, utf16("Test Face")}, {1, 6, "Test-Face"}};
-     },
+     {.names = {{3, 6, utf16("Test Face")}, {1, 6, "Test-Face"}}},
      {{"Test-Face", 0}}},
 
-    {"a collection", [](FontFile& f) { f.signature = "ttcf"; }, {}},
-    {"no font", [](FontFile& f) { f.signature = "wOFF"; }, {}},
-    {"no magic number", [](FontFile& f) { f.headMagic = "\x5F\x0F\x3C\xF4"; }, {}},
-    {"more tables than the file holds", [](FontFile& f) { f.extraTables = 0xFFF0; }, {}},
-    {"a table longer than the file", [](FontFile& f) { f.extraLength = 1; }, {}},
-    {"a table whose end wraps around", [](FontFile& f) { f.extraLength = 0xFFFFFF00; }, {}},
-    {"more names than the table holds", [](FontFile& f) { f.extraNameRecords = 0xFF00; }, {}},
-    {"texts beyond the table", [](FontFile& f) { f.storageOffsetError = 0xF000; }, {}},
-    {"no PostScript name", [](FontFile& f) { f.names.pop_back(); }, {}},
-    {"an empty name",
-     [](FontFile& f) {
-       f.names = {{3, 6, ""}};
-     },
-     {}},
-    {"half a character",
-     [](FontFile& f) {
-       f.names = {{3, 6, utf16("Face") + '\0'}};
-     },
-     {}},
-    {"a name in Arabic",
-     [](FontFile& f) {
-       f.names = {{3, 6, "\x06\x27\x06\x28"}};
-     },
-     {}},
-    {"a name with a bracket",
-     [](FontFile& f) {
-       f.names = {{3, 6, utf16("Face(1)")}};
-     },
-     {}},
-    {"a name too long",
-     [](FontFile& f) {
-       f.names = {{3, 6, utf16(std::string(64, 'a'))}};
-     },
-     {}},
+    {"a collection", {.signature = "ttcf"}, {}},
+    {"no font", {.signature = "wOFF"}, {}},
+    {"no magic number", {.headMagic = "\x5F\x0F\x3C\xF4"}, {}},
+    {"more tables than the file holds", {.extraTables = 0xFFF0}, {}},
+    {"a table longer than the file", {.extraLength = 1}, {}},
+    {"a table whose end wraps around", {.extraLength = 0xFFFFFF00}, {}},
+    {"more names than the table holds", {.extraNameRecords = 0xFF00}, {}},
+    {"texts beyond the table", {.storageOffsetError = 0xF000}, {}},
+    {"no PostScript name", {.names = {{3, 4, utf16("Test Face")}}}, {}},
+    {"an empty name", {.names = {{3, 6, ""}}}, {}},
+    {"half a character", {.names = {{3, 6, utf16("Face") + '\0'}}}, {}},
+    {"a name in Arabic", {.names = {{3, 6, "\x06\x27\x06\x28"}}}, {}},
+    {"a name with a bracket", {.names = {{3, 6, utf16("Face(1)")}}}, {}},
+    {"a name too long", {.names = {{3, 6, utf16(std::string(64, 'a'))}}}, {}},
 };
 
 TEST(TrueTypeFace, IsReadOrRefused) {
   for (const FaceRow& row : kFaceRows) {
-    FontFile file;
-    row.change(file);
-    const std::string bytes = file.bytes();
-    EXPECT_EQ(readTrueTypeFace(bytesOf(bytes)), row.expected) << row.name;
+    EXPECT_EQ(readTrueTypeFace(bytesOf(row.file.bytes())), row.face) << row.name;
   }
 }
 
@@ -170,33 +128,10 @@ TEST(TrueTypeFace, AnyPartCutOffIsRefused) {
   }
 }
 
-std::string libraryFile(const std::string& name) {
-  std::ifstream file(libraryResourcesPath().str() + "/" + name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-TEST(StandardFonts, KnowTheArabicFacesOnceTheirFilesAreRegistered) {
-  struct Row {
-    const char* file;
-    const char* name;
-    SymbolicTraits traits;
-  };
-  const auto fonts = makeStandardFonts();
-  for (const Row& row :
-       {Row{"CorbetSansKufiArabic-Regular.ttf", "CorbetSansKufiArabic", 0},
-        Row{"CorbetSansKufiArabic-Bold.ttf", "CorbetSansKufiArabic-Bold", kBoldTrait}}) {
-    const std::string bytes = libraryFile(row.file);
-    EXPECT_EQ(fonts->fontWithName(row.name, 17), nullptr) << row.name;
-    EXPECT_TRUE(fonts->registerFontData(bytesOf(bytes))) << row.name;
-    EXPECT_FALSE(fonts->registerFontData(bytesOf(bytes))) << row.name << " again";
-    const auto font = fonts->fontWithName(row.name, 17);
-    ASSERT_NE(font, nullptr) << row.name;
-    EXPECT_EQ(font->fontName(), row.name);
-    EXPECT_EQ(font->symbolicTraits(), row.traits) << row.name;
-    EXPECT_EQ(font->fontWithSize(40)->pointSize(), 40) << row.name;
-    EXPECT_EQ(font->fontWithSize(40)->symbolicTraits(), row.traits) << row.name;
-  }
-  EXPECT_NE(libraryFile("OFL.txt").find("SIL OPEN FONT LICENSE Version 1.1"), std::string::npos);
+TEST(StandardFonts, ComeWithTheLicenceOfTheArabicFaces) {
+  const std::filesystem::path resources = libraryResourcesPath().str();
+  EXPECT_NE(test::contentsOf(resources / "OFL.txt").find("SIL OPEN FONT LICENSE Version 1.1"),
+            std::string::npos);
 }
 
 TEST(StandardFonts, HaveASystemFaceThatNobodyCanReplace) {

@@ -19,23 +19,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct CachesRow {
-  const char* name;
-  std::map<std::string, const char*> environment;
-  String path;
-};
-
-const CachesRow kCachesRows[] = {
-    {"the one that is set", {{"XDG_CACHE_HOME", "/c"}, {"HOME", "/h"}}, "/c/app"},
-    {"the usual one", {{"HOME", "/h"}}, "/h/.cache/app"},
-    {"a relative one counts as unset", {{"XDG_CACHE_HOME", "c"}, {"HOME", "/h"}}, "/h/.cache/app"},
-    {"an empty one, too", {{"XDG_CACHE_HOME", ""}, {"HOME", "/h"}}, "/h/.cache/app"},
-    {"no place", {}, {}},
-    {"no place in a relative home", {{"HOME", "h"}}, {}},
-};
-
 TEST(StandardPlatform, KeepsCachesWhereTheSystemWantsThem) {
-  for (const CachesRow& row : kCachesRows) {
+  const struct {
+    const char* name;
+    std::map<std::string, const char*> environment;
+    String path;
+  } kRows[] = {
+      {"the one that is set", {{"XDG_CACHE_HOME", "/c"}, {"HOME", "/h"}}, "/c/app"},
+      {"the usual one", {{"HOME", "/h"}}, "/h/.cache/app"},
+      {"a relative one counts as none", {{"XDG_CACHE_HOME", "c"}, {"HOME", "/h"}}, "/h/.cache/app"},
+      {"an empty one, too", {{"XDG_CACHE_HOME", ""}, {"HOME", "/h"}}, "/h/.cache/app"},
+      {"no place", {}, {}},
+      {"no place in a relative home", {{"HOME", "h"}}, {}},
+  };
+  for (const auto& row : kRows) {
     const Environment environment = [&](const char* name) {
       const auto found = row.environment.find(name);
       return found == row.environment.end() ? String() : String(found->second);
@@ -45,28 +42,21 @@ TEST(StandardPlatform, KeepsCachesWhereTheSystemWantsThem) {
   }
 }
 
-struct ReleaseRow {
-  const char* release;
-  OperatingSystemVersion version;
-};
-
-const ReleaseRow kReleaseRows[] = {
-    {"6.1.0-13-amd64", {6, 1, 0}},
-    {"5.15.90.1-wsl2", {5, 15, 90}},
-    {"6.8", {6, 8, 0}},
-    {"7", {7, 0, 0}},
-    {"6.1-rc3", {6, 1, 0}},
-    {"6..3", {6, 0, 0}},
-    {"", {0, 0, 0}},
-    {"next", {0, 0, 0}},
-    {"-6.1", {0, 0, 0}},
-    {"6.-1", {6, 0, 0}},
-    {"99999999999999999999.1", {0, 0, 0}},
-};
-
 TEST(StandardPlatform, ReadsTheSystemsVersion) {
-  for (const ReleaseRow& row : kReleaseRows) {
-    EXPECT_EQ(versionOfRelease(row.release), row.version) << row.release;
+  const std::pair<const char*, OperatingSystemVersion> kRows[] = {
+      {"6.1.0-13-amd64", {6, 1, 0}},
+      {"5.15.90.1-wsl2", {5, 15, 90}},
+      {"6.8", {6, 8, 0}},
+      {"6.1-rc3", {6, 1, 0}},
+      {"6..3", {6, 0, 0}},
+      {"next", {0, 0, 0}},
+      {"", {0, 0, 0}},
+      {"-6.1", {0, 0, 0}},
+      {"6.-1", {6, 0, 0}},
+      {"99999999999999999999.1", {0, 0, 0}},
+  };
+  for (const auto& [release, version] : kRows) {
+    EXPECT_EQ(versionOfRelease(release), version) << release;
   }
   EXPECT_GT(kernelVersion(), OperatingSystemVersion());
   const auto info = makeProcessInfo({9, 1, 0});
@@ -76,38 +66,24 @@ TEST(StandardPlatform, ReadsTheSystemsVersion) {
   EXPECT_FALSE(info->isOperatingSystemAtLeastVersion({10, 0, 0}));
 }
 
-TEST(StandardPlatform, HasEveryMemberWithoutAnyOption) {
+TEST(StandardPlatform, StandsOnTheProcessWithoutAnyOption) {
   const Platform platform = makeStandardPlatform();
-  EXPECT_NE(platform.files, nullptr);
-  EXPECT_NE(platform.locales, nullptr);
-  EXPECT_NE(platform.bundles, nullptr);
-  EXPECT_NE(platform.fonts, nullptr);
-  EXPECT_NE(platform.notifications, nullptr);
   EXPECT_EQ(platform.mainQueue, RunLoop::main());
-  EXPECT_NE(platform.processInfo, nullptr);
-  EXPECT_NE(platform.log, nullptr);
   EXPECT_EQ(fs::path(platform.bundles->mainBundle()->bundlePath().str()),
             fs::read_symlink("/proc/self/exe").parent_path());
+  testing::internal::CaptureStderr();
+  platform.log->log("one");
+  platform.log->log("");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "one\n\n");
 }
 
-TEST(StandardPlatform, DoesWhatItsOptionsSay) {
+TEST(StandardPlatform, TakesARelativePathOfCaches) {
   const test::ScratchFolder scratch;
-  std::vector<std::string> lines;
   StandardOptions options;
-  options.mainBundlePath = scratch.path() / "App";
-  options.cachesPath = fs::relative(scratch.path() / "Caches");
-  options.deviceLanguages = {{"sv", "da"}};
-  options.systemVersion = OperatingSystemVersion{9, 0, 0};
-  options.logSink = [&](std::string_view line) { lines.emplace_back(line); };
-  const Platform platform = makeStandardPlatform(options);
-  EXPECT_EQ(platform.bundles->mainBundle()->bundlePath(), String(options.mainBundlePath));
-  const fs::path caches = platform.files->cachesDirectoryURL().path().str();
+  options.cachesPath = fs::relative(scratch.path());
+  const fs::path caches = makeStandardPlatform(options).files->cachesDirectoryURL().path().str();
   EXPECT_TRUE(caches.is_absolute());
-  EXPECT_TRUE(fs::equivalent(caches, scratch.path() / "Caches"));
-  EXPECT_EQ(platform.locales->preferredLanguages(), (StringList{"sv", "da"}));
-  EXPECT_FALSE(platform.processInfo->isOperatingSystemAtLeastVersion({9, 0, 1}));
-  platform.log->log("a line");
-  EXPECT_EQ(lines, std::vector<std::string>{"a line"});
+  EXPECT_TRUE(fs::equivalent(caches, scratch.path()));
 }
 
 TEST(StandardPlatform, BuildsOnWhatReplacesItsOwn) {
@@ -116,12 +92,12 @@ TEST(StandardPlatform, BuildsOnWhatReplacesItsOwn) {
     test::writeTable(scratch.path() / (std::string(language) + ".lproj"), {{"k", language}});
   }
   std::size_t asked = 0;
+  const auto count = [&](std::string_view, std::string_view) {
+    ++asked;
+    return test::Fault::none();
+  };
   Platform replacements;
-  replacements.files = std::make_shared<test::ForwardingFileManager>(
-      makeFileManager({}), [&](std::string_view, std::string_view) {
-        ++asked;
-        return test::Fault::none();
-      });
+  replacements.files = std::make_shared<test::ForwardingFileManager>(makeFileManager({}), count);
   replacements.locales = makeLocaleData({"ja"});
   replacements.mainQueue = RunLoop::make();
   StandardOptions options;
@@ -132,14 +108,6 @@ TEST(StandardPlatform, BuildsOnWhatReplacesItsOwn) {
   EXPECT_EQ(platform.mainQueue, replacements.mainQueue);
   EXPECT_EQ(platform.bundles->mainBundle()->localizedStringForKey("k"), "ja");
   EXPECT_GT(asked, 0U);
-}
-
-TEST(StandardPlatform, LogsLinesToStandardError) {
-  const Platform platform = makeStandardPlatform();
-  testing::internal::CaptureStderr();
-  platform.log->log("one");
-  platform.log->log("");
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "one\n\n");
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
-#include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <tests/support/Bytes.h>
 
 #include <orvanta/platform/Utf8.h>
 #include <orvanta/platform/standard/strings/TextEncoding.h>
@@ -15,42 +15,9 @@ namespace orvanta::platform::standard {
 namespace {
 
 using namespace std::string_literals;
-
-std::string encoded(std::u32string_view text, TextEncoding encoding) {
-  std::string bytes;
-  const auto put = [&](std::uint32_t unit, int size, bool bigEndian) {
-    for (int index = 0; index < size; ++index) {
-      bytes.push_back(static_cast<char>(unit >> (8 * (bigEndian ? size - 1 - index : index))));
-    }
-  };
-  for (const char32_t c : text) {
-    switch (encoding) {
-      case TextEncoding::kUtf8:
-        utf8::append(bytes, c);
-        break;
-      case TextEncoding::kUtf16Little:
-      case TextEncoding::kUtf16Big: {
-        const bool big = encoding == TextEncoding::kUtf16Big;
-        if (c < 0x10000) {
-          put(c, 2, big);
-        } else {
-          put(0xD800 + ((c - 0x10000) >> 10), 2, big);
-          put(0xDC00 + ((c - 0x10000) & 0x3FF), 2, big);
-        }
-        break;
-      }
-      case TextEncoding::kUtf32Little:
-      case TextEncoding::kUtf32Big:
-        put(c, 4, encoding == TextEncoding::kUtf32Big);
-        break;
-    }
-  }
-  return bytes;
-}
-
-constexpr TextEncoding kEncodings[] = {TextEncoding::kUtf8, TextEncoding::kUtf16Little,
-                                       TextEncoding::kUtf16Big, TextEncoding::kUtf32Little,
-                                       TextEncoding::kUtf32Big};
+using test::encode;
+using test::Encoding;
+using test::kEncodings;
 
 std::string transcoded(EncodedText text, std::size_t room) {
   Utf8Transcoder transcoder(text);
@@ -64,38 +31,24 @@ std::string transcoded(EncodedText text, std::size_t room) {
   return out;
 }
 
-TEST(TextEncoding, TellsEveryEncodingWithAndWithoutMark) {
-  struct Row {
-    const char* name;
-    std::u32string text;
+TEST(TextEncoding, IsToldWithAndWithoutAMark) {
+  const TableRow rows[] = {
+      {"statement", "\"k\" = \"\u00E9\u05E9\U0001F600\";\n", "k=\u00E9\u05E9\U0001F600"},
+      {"low bytes of zero", "\"\u4E00\u0100\" = \"\u4E00\u4E00\";", "\u4E00\u0100=\u4E00\u4E00"},
+      {"one character beyond ASCII in front", "\"\u4E16\u754C\" = \"\u4E16\";",
+       "\u4E16\u754C=\u4E16"},
+      {"comment", "/* \u4E16 */\n\"k\" = \"v\";", "k=v"},
+      {"shortest", "k;", "k=k"},
+      {"a NUL inside", "\"a\" = \"\0\0b\";"s, "a=\0\0b"s},
+      {"nothing", "", ""},
   };
-  const Row rows[] = {
-      {"statement", U"\"k\" = \"\u00E9\u05E9\u20AC\U0001F600\";\n"},
-      {"low bytes of zero", U"\"\u4E00\u0100\" = \"\u4E00\u4E00\";"},
-      {"one character beyond ASCII in front", U"\"\u4E16\u754C\" = \"\u4E16\";"},
-      {"comment", U"/* \u4E16 */\n\"k\" = \"v\";"},
-      {"shortest", U"k;"},
-      {"a NUL inside", U"\"a\" = \"\0\0b\";"s},
-      {"nothing", U""},
-  };
-  for (const Row& row : rows) {
-    const TableReading expected = readTable(encoded(row.text, TextEncoding::kUtf8));
-    EXPECT_TRUE(expected.isTable);
-    for (const TextEncoding encoding : kEncodings) {
-      SCOPED_TRACE(row.name + " "s + std::to_string(static_cast<int>(encoding)));
-      for (const auto* mark : {U"", U"\uFEFF"}) {
-        const TableReading reading = readTable(encoded(mark + row.text, encoding));
-        EXPECT_TRUE(reading.isTable);
-        EXPECT_EQ(reading.pairs, expected.pairs);
-        EXPECT_TRUE(reading.places.empty());
-      }
+  for (const Encoding& encoding : kEncodings) {
+    SCOPED_TRACE(encoding.name);
+    for (const TableRow& row : rows) {
+      checkTables({{row.name, encode(encoding, row.bytes), row.pairs}});
     }
   }
-}
-
-TEST(TextEncoding, KeepsAZeroByteOfUtf8) {
-  const std::string bytes = "\"\0\" = \"\u2022 \u2022\";"s;
-  EXPECT_EQ(readTable(bytes).pairs, Pairs({{"\0"s, "\u2022 \u2022"}}));
+  checkTables({{"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s}});
 }
 
 TEST(TextEncoding, ReplacesWhatIsNoCharacter) {
@@ -135,37 +88,43 @@ TEST(TextEncoding, TranscodesLikeOneCharacterAtATime) {
                                             U"\u0800\u20AC\uFFFD\uD7FF\uE000",
                                             U"\U0001F600\U0010FFFF"};
   for (int round = 0; round < 400; ++round) {
-    std::u32string text;
-    while (text.size() < 150) {
+    std::string text;
+    while (text.size() < 300) {
       const auto& kind = characters[random() % (1 + static_cast<unsigned>(round) % 4)];
-      text.append(1 + random() % 40, kind[random() % kind.size()]);
+      const char32_t character = kind[random() % kind.size()];
+      for (auto times = 1 + random() % 40; times > 0; --times) {
+        utf8::append(text, character);
+      }
     }
-    const std::string expected = encoded(text, TextEncoding::kUtf8);
-    for (const TextEncoding encoding : kEncodings) {
-      const std::string bytes = encoded(text, encoding);
-      const std::size_t room = Utf8Transcoder::kSlack + random() % 200;
-      ASSERT_EQ(transcoded({encoding, bytes}, room), expected) << static_cast<int>(encoding);
+    for (const Encoding& encoding : kEncodings) {
+      if (!encoding.mark.empty()) {
+        const std::string bytes = encode(encoding, text);
+        const std::size_t room = Utf8Transcoder::kSlack + random() % 200;
+        ASSERT_EQ(transcoded(detectEncoding(bytes), room), text) << encoding.name;
+      }
     }
   }
 }
 
 TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
   std::mt19937 random(11);
-  const std::string pieces[] = {"a",
-                                "\u00E9",
-                                "\u20AC",
-                                "\u0905",
-                                "\uD7A3",
-                                "\U0001F600",
-                                "\xC0\x80",
-                                "\xE0\x9F\x80",
-                                "\xED\xA0\x80",
-                                "\xF4\x90\x80\x80",
-                                "\xF0\x8F\x80\x80",
-                                "\xF5\x80\x80\x80",
-                                "\x80",
-                                "\xC3",
-                                "\xE2\x82"};
+  const std::string pieces[] = {
+      "a",
+      "\u00E9",
+      "\u20AC",
+      "\u0905",
+      "\uD7A3",
+      "\U0001F600",
+      "\xC0\x80",
+      "\xE0\x9F\x80",
+      "\xED\xA0\x80",
+      "\xF4\x90\x80\x80",
+      "\xF0\x8F\x80\x80",
+      "\xF5\x80\x80\x80",
+      "\x80",
+      "\xC3",
+      "\xE2\x82",
+  };
   int valid = 0;
   for (int round = 0; round < 20000; ++round) {
     std::string text(random() % 70, 'a');
@@ -183,28 +142,27 @@ TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
 // The window through which UTF-16 is read must not show: statements and comments longer than it,
 // and statements across its edges.
 TEST(TextEncoding, ReadsLongTextsAlike) {
-  std::u32string text;
+  std::string text;
   for (int index = 0; index < 3000; ++index) {
-    const std::string number = std::to_string(index);
-    text += U"/* \u00E9 */\n\"key" + std::u32string(number.begin(), number.end()) + U"\" = \"";
-    text.append(static_cast<std::size_t>(index % 97), index % 3 == 0 ? U'\u4E16' : U'v');
-    text += U"\";\n";
+    text += "/* \u00E9 */\n\"key" + std::to_string(index) + "\" = \"";
+    for (int length = index % 97; length > 0; --length) {
+      text += index % 3 == 0 ? "\u4E16" : "v";
+    }
+    text += "\";\n";
     if (index % 1000 == 500) {
-      text += U"/*" + std::u32string(70'000, U'*') + U"*/ long = \"" +
-              std::u32string(70'000, U'\n') + U"\";";
+      text += "/*" + std::string(70'000, '*') + "*/ long = \"" + std::string(70'000, '\n') + "\";";
     }
   }
   for (const char* end : {"", "\"bad = \"1\";\n", "// no line break"}) {
-    const std::u32string whole = text + std::u32string(end, end + std::string_view(end).size());
-    const TableReading expected = readTable(encoded(whole, TextEncoding::kUtf8));
-    EXPECT_EQ(expected.pairs.size(), 3001U);
-    EXPECT_EQ(expected.places.empty(), !whole.ends_with(U"1\";\n"));
-    const TableReading reading = readTable(encoded(U"\uFEFF" + whole, TextEncoding::kUtf16Little));
+    const std::string whole = text + end;
+    const TableReading expected = readTable(whole);
+    EXPECT_EQ(expected.table->size(), 3001U);
+    EXPECT_EQ(expected.places.empty(), !whole.ends_with("1\";\n"));
+    const TableReading reading = readTable(encode(test::kUtf16Little, whole));
     EXPECT_TRUE(reading.pairs == expected.pairs);
     EXPECT_EQ(reading.places, expected.places);
     // The same through repaired UTF-8.
-    const TableReading repaired = readTable(encoded(whole, TextEncoding::kUtf8) + "// \xFF");
-    EXPECT_TRUE(repaired.pairs == expected.pairs);
+    EXPECT_TRUE(readTable(whole + "// \xFF").pairs == expected.pairs);
   }
 }
 
