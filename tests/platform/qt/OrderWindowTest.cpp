@@ -4,6 +4,9 @@
 #include <QRawFont>
 #include <QTest>
 #include <QTimer>
+#include <atomic>
+#include <memory>
+#include <thread>
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/platform/qt/UILocalizedButton.h>
@@ -92,6 +95,19 @@ class OrderWindowTest : public QObject {
     QTest::mouseClick(find<UILocalizedButton>("placeButton"), Qt::LeftButton);
     QCOMPARE(find<UILocalizedLabel>("statusLabel")->control().originalKey().str(),
              std::string("order.placed"));
+  }
+
+  void refreshesFromAWorkerThread() {
+    auto* title = find<UILocalizedLabel>("orderTitle");
+    title->setText(u"stale"_s);
+    std::atomic<bool> ended = false;
+    std::thread worker([&] {
+      title->control().refreshStringsFromLocale("en");
+      ended = true;
+    });
+    QVERIFY(QTest::qWaitFor([&] { return ended.load(); }));
+    worker.join();
+    QCOMPARE(title->text(), u"Your cart"_s);
   }
 
   void downloadsALanguageAndSpeaksIt() {
