@@ -1,0 +1,250 @@
+// A change to another language whose table is in memory, with a window of labels that each show
+// one text: Qt's own way beside our widgets. Every round changes to French and back to English.
+#include <QApplication>
+#include <QEvent>
+#include <QTranslator>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/qt/QtPlatform.h>
+#include <orvanta/platform/qt/RepaintBatch.h>
+#include <orvanta/platform/qt/UILocalizedLabel.h>
+
+#include "contenders/Application.h"
+#include "contenders/LabelWindow.h"
+#include "contenders/QtTranslations.h"
+#include "data/Random.h"
+#include "data/TableForms.h"
+#include "harness/Check.h"
+#include "rows/Rows.h"
+
+namespace orvanta::bench {
+
+namespace {
+
+constexpr std::size_t kStrings = 10'000;
+constexpr std::size_t kLabels = 1'000;
+
+enum class Sight { hidden, shown };
+
+// Both languages, and which text each label shows.
+struct Languages {
+  Languages() {
+    Random random("labels");
+    for (std::size_t label = 0; label < kLabels; ++label) {
+      asked.push_back(random.below(kStrings));
+    }
+  }
+  [[nodiscard]] const std::string& key(std::size_t label) const {
+    return english[asked[label]].key;
+  }
+
+  const std::vector<std::string> keys = makeKeys(kStrings);
+  const Table french = makeTable(languageNamed("fr"), keys);
+  const Table english = makeTable(languageNamed("en"), keys);
+  std::vector<std::size_t> asked;
+};
+
+// A window full of labels in the language that was changed to.
+class Side {
+ public:
+  explicit Side(Sight sight) : sight_(sight), window_(kLabels) {}
+  virtual ~Side() = default;
+  Side(const Side&) = delete;
+  Side& operator=(const Side&) = delete;
+
+  // Over when every label has its text, and in a window that is shown is painted with it.
+  void change(bool toFrench) {
+    window_.expectRepaint();
+    beginChange(toFrench);
+    window_.settle();
+  }
+
+  [[nodiscard]] const std::vector<QLabel*>& labels() const noexcept { return labels_; }
+  [[nodiscard]] bool isShown() const noexcept { return sight_ == Sight::shown; }
+
+ protected:
+  virtual void beginChange(bool toFrench) = 0;
+
+  [[nodiscard]] qt::LabelWindow& window() noexcept { return window_; }
+  void add(QLabel* label) { labels_.push_back(label); }
+  void open() {
+    window_.setVisible(isShown());
+    window_.settle();
+  }
+
+ private:
+  Sight sight_;
+  qt::LabelWindow window_;
+  std::vector<QLabel*> labels_;
+};
+
+class OurSide final : public Side {
+ public:
+  OurSide(const Languages& languages, Sight sight) : Side(sight) {
+    if (isShown()) {
+      batch_.emplace(window());
+    }
+    for (std::size_t label = 0; label < kLabels; ++label) {
+      add(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame(
+          qt::LabelWindow::frameOf(label), &window(),
+          QString::fromStdString(languages.key(label))));
+    }
+    open();
+  }
+
+ private:
+  void beginChange(bool toFrench) override {
+    Localizer::sharedLocalizer().changeOrvantaLanguageToPreferredLocales(toFrench ? french_
+                                                                                  : english_);
+  }
+
+  const StringList french_ = {"fr"_s};
+  const StringList english_ = {"en"_s};
+  std::optional<orvanta::qt::RepaintBatch> batch_;
+};
+
+// A label as Qt's documentation has it translate itself. Its text is plain, as ours is.
+class QtLabel final : public QLabel {
+ public:
+  QtLabel(const char* identifier, QWidget* parent) : QLabel(parent), identifier_(identifier) {
+    setTextFormat(Qt::PlainText);
+    translate();
+  }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    if (event->type() == QEvent::LanguageChange) {
+      translate();
+    }
+    QLabel::changeEvent(event);
+  }
+
+ private:
+  void translate() { setText(qtTrId(identifier_)); }
+
+  const char* identifier_;
+};
+
+class FloorSide final : public Side {
+ public:
+  FloorSide(const std::filesystem::path& folder, const Languages& languages, Sight sight)
+      : Side(sight), french_(qt::open(folder / "fr.qm")), english_(qt::open(folder / "en.qm")) {
+    for (std::size_t label = 0; label < kLabels; ++label) {
+      auto* made = new QtLabel(languages.key(label).c_str(), &window());
+      made->setGeometry(qt::LabelWindow::frameOf(label));
+      add(made);
+    }
+    open();
+  }
+
+ private:
+  void beginChange(bool toFrench) override {
+    QCoreApplication::removeTranslator(toFrench ? english_.get() : french_.get());
+    QCoreApplication::installTranslator(toFrench ? french_.get() : english_.get());
+  }
+
+  std::unique_ptr<QTranslator> french_;
+  std::unique_ptr<QTranslator> english_;
+};
+
+// Has one side at a time: Qt tells every window of a change of language, and one side would pay
+// for the other's.
+class Stage {
+ public:
+  using MakeSide = std::function<std::unique_ptr<Side>()>;
+
+  [[nodiscard]] Side& enter(std::string_view name, const MakeSide& make) {
+    if (name != name_) {
+      side_.reset();
+      side_ = make();
+      name_ = name;
+    }
+    return *side_;
+  }
+
+ private:
+  std::string_view name_;
+  std::unique_ptr<Side> side_;
+};
+
+void checkLabels(Side& side, const Languages& languages) {
+  for (const bool toFrench : {true, false}) {
+    const qt::PaintedTexts painted(side.labels());
+    side.change(toFrench);
+    const Table& table = toFrench ? languages.french : languages.english;
+    for (std::size_t label = 0; label < kLabels; ++label) {
+      const auto& [key, value] = table[languages.asked[label]];
+      expectText(side.labels()[label]->text().toStdString(), value, key);
+      expectText(painted.text(label), side.isShown() ? value : "", key);
+    }
+  }
+}
+
+Contender switching(std::string_view name, const Languages& languages,
+                    const std::shared_ptr<Stage>& stage, const Stage::MakeSide& make) {
+  const auto enter = [=]() -> Side& { return stage->enter(name, make); };
+  const auto check = [enter, &languages] { checkLabels(enter(), languages); };
+  const auto round = [enter] {
+    Side& side = enter();
+    side.change(true);
+    side.change(false);
+  };
+  const auto prepare = [enter] { static_cast<void>(enter()); };
+  return {std::string(name), check, round, prepare};
+}
+
+void installPlatform(const std::filesystem::path& folder, const Languages& languages) {
+  const Application application(folder);
+  application.ship("fr", languages.french, textFormUtf8);
+  application.ship("en", languages.english, textFormUtf8);
+  platform::standard::StandardOptions options;
+  options.mainBundlePath = application.languageFolder("en").parent_path();
+  options.cachesPath = application.cachesFolder();
+  options.deviceLanguages = {"en"};
+  options.logSink = [](std::string_view) {};
+  platform::Platform::install(orvanta::qt::makeQtPlatform(options));
+}
+
+}  // namespace
+
+// Widgets follow the localizer that the whole process shares: both rows ask the same application.
+void switchQtRows(Bench& bench) {
+  struct Scene {
+    const char* name;
+    Sight sight;
+    double goal;
+    std::size_t passes;
+  };
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int count = 1;
+  char name[] = "orvanta_bench";
+  char* words[] = {name, nullptr};
+  const QApplication qtApplication(count, words);
+
+  const ScratchFolder folder = bench.folder("switch-qt");
+  const Languages languages;
+  installPlatform(folder.path(), languages);
+  qt::makeTranslations(folder.path() / "fr.qm", languages.french);
+  qt::makeTranslations(folder.path() / "en.qm", languages.english);
+  for (const Scene& scene : {Scene{"switch-qt-hidden", Sight::hidden, 0.8, 10},
+                             Scene{"switch-qt-shown", Sight::shown, 0.65, 2}}) {
+    Row row{.name = scene.name, .operations = 2, .samples = 41, .warmUp = true, .goal = scene.goal};
+    row.passes = scene.passes;
+    row.amount = Amount{static_cast<double>(kLabels), "labels"};
+    const auto stage = std::make_shared<Stage>();
+    const Sight sight = scene.sight;
+    row.contenders = {switching(kFloor, languages, stage,
+                                [&languages, sight, path = folder.path()] {
+                                  return std::make_unique<FloorSide>(path, languages, sight);
+                                }),
+                      switching(kOurs, languages, stage, [&languages, sight] {
+                        return std::make_unique<OurSide>(languages, sight);
+                      })};
+    bench.run(row);
+  }
+}
+
+}  // namespace orvanta::bench
