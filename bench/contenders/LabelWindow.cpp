@@ -15,13 +15,22 @@ constexpr int kHeight = 20;
 
 }  // namespace
 
-LabelWindow::LabelWindow(std::size_t labels) {
-  resize(kColumns * kWidth, (static_cast<int>(labels) + kColumns - 1) / kColumns * kHeight);
+LabelWindow::LabelWindow(Arrangement arrangement) {
+  if (arrangement == Arrangement::layout) {
+    grid_ = new QGridLayout(this);
+  }
 }
 
-QRect LabelWindow::frameOf(std::size_t label) {
-  const int place = static_cast<int>(label);
-  return {place % kColumns * kWidth, place / kColumns * kHeight, kWidth, kHeight};
+void LabelWindow::place(QLabel* label) {
+  const int row = placed_ / kColumns;
+  const int column = placed_ % kColumns;
+  ++placed_;
+  if (grid_ != nullptr) {
+    grid_->addWidget(label, row, column);
+  } else {
+    label->setGeometry(column * kWidth, row * kHeight, kWidth, kHeight);
+    resize(kColumns * kWidth, (row + 1) * kHeight);
+  }
 }
 
 void LabelWindow::settle() {

@@ -1,20 +1,24 @@
 #pragma once
 
+#include <QGridLayout>
 #include <QLabel>
-#include <QRect>
 #include <QWidget>
 #include <string>
 #include <vector>
 
 namespace orvanta::bench::qt {
 
-/// A window with labels at fixed places, all of them in sight once it is shown. Without a layout,
-/// whose work would be the same for everybody.
+/// Where labels stand: in a layout that gives each the room that its text needs, as in most
+/// windows, or at fixed places, where texts that are too long are cut off.
+enum class Arrangement { layout, places };
+
+/// A window with labels, all of them in sight once it is shown.
 class LabelWindow : public QWidget {
  public:
-  explicit LabelWindow(std::size_t labels);
+  explicit LabelWindow(Arrangement arrangement);
 
-  [[nodiscard]] static QRect frameOf(std::size_t label);
+  /// Puts a label of this window into its next place.
+  void place(QLabel* label);
 
   /// Runs what waits in the event loop; of a window that is shown, until it has been painted after
   /// the last `expectRepaint`.
@@ -25,6 +29,8 @@ class LabelWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QGridLayout* grid_ = nullptr;
+  int placed_ = 0;
   bool painted_ = false;
 };
 

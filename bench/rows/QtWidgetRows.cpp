@@ -27,7 +27,16 @@ namespace {
 constexpr std::size_t kStrings = 10'000;
 constexpr std::size_t kLabels = 1'000;
 
-enum class Sight { hidden, shown };
+using qt::Arrangement;
+
+struct Scene {
+  const char* name;
+  bool isShown;
+  Arrangement arrangement;
+  std::optional<double> goal;
+  std::size_t passes;
+  int samples;
+};
 
 // Both languages, and which text each label shows.
 struct Languages {
@@ -50,7 +59,7 @@ struct Languages {
 // A window full of labels in the language that was changed to.
 class Side {
  public:
-  explicit Side(Sight sight) : sight_(sight), window_(kLabels) {}
+  explicit Side(const Scene& scene) : isShown_(scene.isShown), window_(scene.arrangement) {}
   virtual ~Side() = default;
   Side(const Side&) = delete;
   Side& operator=(const Side&) = delete;
@@ -63,34 +72,36 @@ class Side {
   }
 
   [[nodiscard]] const std::vector<QLabel*>& labels() const noexcept { return labels_; }
-  [[nodiscard]] bool isShown() const noexcept { return sight_ == Sight::shown; }
+  [[nodiscard]] bool isShown() const noexcept { return isShown_; }
 
  protected:
   virtual void beginChange(bool toFrench) = 0;
 
   [[nodiscard]] qt::LabelWindow& window() noexcept { return window_; }
-  void add(QLabel* label) { labels_.push_back(label); }
+  void add(QLabel* label) {
+    labels_.push_back(label);
+    window_.place(label);
+  }
   void open() {
     window_.setVisible(isShown());
     window_.settle();
   }
 
  private:
-  Sight sight_;
+  bool isShown_;
   qt::LabelWindow window_;
   std::vector<QLabel*> labels_;
 };
 
 class OurSide final : public Side {
  public:
-  OurSide(const Languages& languages, Sight sight) : Side(sight) {
+  OurSide(const Languages& languages, const Scene& scene) : Side(scene) {
     if (isShown()) {
       batch_.emplace(window());
     }
     for (std::size_t label = 0; label < kLabels; ++label) {
       add(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame(
-          qt::LabelWindow::frameOf(label), &window(),
-          QString::fromStdString(languages.key(label))));
+          {}, &window(), QString::fromStdString(languages.key(label))));
     }
     open();
   }
@@ -130,12 +141,10 @@ class QtLabel final : public QLabel {
 
 class FloorSide final : public Side {
  public:
-  FloorSide(const std::filesystem::path& folder, const Languages& languages, Sight sight)
-      : Side(sight), french_(qt::open(folder / "fr.qm")), english_(qt::open(folder / "en.qm")) {
+  FloorSide(const std::filesystem::path& folder, const Languages& languages, const Scene& scene)
+      : Side(scene), french_(qt::open(folder / "fr.qm")), english_(qt::open(folder / "en.qm")) {
     for (std::size_t label = 0; label < kLabels; ++label) {
-      auto* made = new QtLabel(languages.key(label).c_str(), &window());
-      made->setGeometry(qt::LabelWindow::frameOf(label));
-      add(made);
+      add(new QtLabel(languages.key(label).c_str(), &window()));
     }
     open();
   }
@@ -208,42 +217,43 @@ void installPlatform(const std::filesystem::path& folder, const Languages& langu
   platform::Platform::install(orvanta::qt::makeQtPlatform(options));
 }
 
+void switchRow(Bench& bench, const std::filesystem::path& folder, const Languages& languages,
+               const Scene& scene) {
+  Row row{.name = scene.name,
+          .operations = 2,
+          .samples = scene.samples,
+          .warmUp = true,
+          .goal = scene.goal};
+  row.passes = scene.passes;
+  row.amount = Amount{static_cast<double>(kLabels), "labels"};
+  const auto stage = std::make_shared<Stage>();
+  row.contenders = {
+      switching(kFloor, languages, stage,
+                [&] { return std::make_unique<FloorSide>(folder, languages, scene); }),
+      switching(kOurs, languages, stage,
+                [&] { return std::make_unique<OurSide>(languages, scene); })};
+  bench.run(row);
+}
+
 }  // namespace
 
-// Widgets follow the localizer that the whole process shares: both rows ask the same application.
 void switchQtRows(Bench& bench) {
-  struct Scene {
-    const char* name;
-    Sight sight;
-    double goal;
-    std::size_t passes;
-  };
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int count = 1;
   char name[] = "orvanta_bench";
   char* words[] = {name, nullptr};
-  const QApplication qtApplication(count, words);
+  const QApplication application(count, words);
 
+  // One application for all rows: widgets follow the localizer that the whole process shares.
   const ScratchFolder folder = bench.folder("switch-qt");
   const Languages languages;
   installPlatform(folder.path(), languages);
   qt::makeTranslations(folder.path() / "fr.qm", languages.french);
   qt::makeTranslations(folder.path() / "en.qm", languages.english);
-  for (const Scene& scene : {Scene{"switch-qt-hidden", Sight::hidden, 0.8, 10},
-                             Scene{"switch-qt-shown", Sight::shown, 0.65, 2}}) {
-    Row row{.name = scene.name, .operations = 2, .samples = 41, .warmUp = true, .goal = scene.goal};
-    row.passes = scene.passes;
-    row.amount = Amount{static_cast<double>(kLabels), "labels"};
-    const auto stage = std::make_shared<Stage>();
-    const Sight sight = scene.sight;
-    row.contenders = {switching(kFloor, languages, stage,
-                                [&languages, sight, path = folder.path()] {
-                                  return std::make_unique<FloorSide>(path, languages, sight);
-                                }),
-                      switching(kOurs, languages, stage, [&languages, sight] {
-                        return std::make_unique<OurSide>(languages, sight);
-                      })};
-    bench.run(row);
+  for (const Scene& scene : {Scene{"switch-qt-hidden", false, Arrangement::layout, 0.8, 10, 41},
+                             Scene{"switch-qt-shown", true, Arrangement::layout, 0.65, 1, 15},
+                             Scene{"switch-qt-placed", true, Arrangement::places, {}, 1, 15}}) {
+    switchRow(bench, folder.path(), languages, scene);
   }
 }
 

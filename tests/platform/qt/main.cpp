@@ -7,6 +7,7 @@
 
 #include "OrderWindowTest.h"
 #include "PlatformTest.h"
+#include "RepaintTest.h"
 #include "Support.h"
 #include "WidgetsTest.h"
 #include "tests/support/TestApplication.h"
@@ -27,10 +28,11 @@ int main(int argc, char** argv) {
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
   PlatformTest platformTest;
   WidgetsTest widgetsTest;
+  RepaintTest repaintTest;
   OrderWindowTest windowTest;
   int failures = 0;
   for (QObject* test : {static_cast<QObject*>(&platformTest), static_cast<QObject*>(&widgetsTest),
-                        static_cast<QObject*>(&windowTest)}) {
+                        static_cast<QObject*>(&repaintTest), static_cast<QObject*>(&windowTest)}) {
     failures += QTest::qExec(test, QStringList(QString::fromLocal8Bit(argv[0])));
   }
   return failures == 0 ? 0 : 1;
