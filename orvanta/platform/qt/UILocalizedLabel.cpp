@@ -16,8 +16,7 @@ class LabelAdapter final
     return fromQString(marksMnemonics() ? fromMnemonics(text) : text);
   }
   void setText(const String& text) override {
-    const bool escaped = text.view().find('&') != std::string_view::npos && marksMnemonics();
-    widget().setText(escaped ? withoutMnemonics(toQString(text)) : toQString(text));
+    widget().setText(marksMnemonics() ? withoutMnemonics(toQString(text)) : toQString(text));
   }
 
  private:
