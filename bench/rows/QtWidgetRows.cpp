@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+#include <malloc.h>
+
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/qt/QtPlatform.h>
 #include <orvanta/platform/qt/RepaintBatch.h>
@@ -170,11 +172,19 @@ class Stage {
       side_.reset();
       side_ = make();
       name_ = name;
+      becomeUsed();
     }
     return *side_;
   }
 
  private:
+  // A change finds a window that has been there for a while, not one that was opened just now.
+  void becomeUsed() {
+    for (const bool toFrench : {true, false, true, false, true, false}) {
+      side_->change(toFrench);
+    }
+  }
+
   std::string_view name_;
   std::unique_ptr<Side> side_;
 };
@@ -235,9 +245,18 @@ void switchRow(Bench& bench, const std::filesystem::path& folder, const Language
   bench.run(row);
 }
 
+// As the heap of an application with windows stands after a while. As it stands at the start, Qt
+// would give its larger regions back to the system at every repaint, in some rounds and not in
+// others.
+void useHeapOfWindows() {
+  mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+  mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
+}
+
 }  // namespace
 
 void switchQtRows(Bench& bench) {
+  useHeapOfWindows();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int count = 1;
   char name[] = "orvanta_bench";
