@@ -15,5 +15,6 @@ void switchRows(Bench& bench);
 void matchRows(Bench& bench);
 void updateRows(Bench& bench);
 void memoryRow(Bench& bench);
+void switchQtRows(Bench& bench);
 
 }  // namespace orvanta::bench

@@ -12,9 +12,44 @@ namespace {
 
 using platform::MainQueue;
 using platform::Platform;
+using platform::TextAlignment;
+
+using FontPointer = std::shared_ptr<const platform::Font>;
 
 MainQueue& mainQueue() {
   return *Platform::current().mainQueue;
+}
+
+// A handle of its own: whoever is called back may change the language.
+StringList currentLocales() {
+  return Localizer::sharedLocalizer().currentLocales();
+}
+
+// A change of language refreshes every control for the same handle, and in most languages each
+// keeps the font that it has: that is found out once. On the main thread only.
+bool hasCustomFont(const String& locale) {
+  struct Answer {
+    String locale;
+    bool hasCustomFont;
+  };
+  static auto& last = *new Answer{{}, false};
+  if (locale.view().data() != last.locale.view().data() || locale.size() != last.locale.size()) {
+    last = {locale, localizationUtilities::languageHasCustomFont(
+                        Localizer::languageOnlyFromString(locale))};
+  }
+  return last.hasCustomFont;
+}
+
+FontPointer fontForLocale(const String& locale, const FontPointer& original) {
+  return hasCustomFont(locale) ? localizationUtilities::ovFontForLocale(locale, original)
+                               : original;
+}
+
+// Left and right alone may be exchanged. For the others, those of most controls, the platform need
+// not be asked how the language is written.
+TextAlignment alignmentForLocale(const String& locale, TextAlignment original) {
+  const bool hasSide = original == TextAlignment::left || original == TextAlignment::right;
+  return hasSide ? localizationUtilities::ovAlignmentForLocale(locale, original) : original;
 }
 
 }  // namespace
@@ -31,8 +66,7 @@ LocalizedControl::~LocalizedControl() {
 
 void LocalizedControl::handleOVPreferredLocaleDidChangeNotification(
     const platform::Notification* /*notification*/) {
-  // A handle of its own: whoever is called back may change the language.
-  const StringList locales = Localizer::sharedLocalizer().currentLocales();
+  const StringList locales = currentLocales();
   if (!locales.empty()) {
     refreshOnMainThread(locales.front());
   }
@@ -40,16 +74,16 @@ void LocalizedControl::handleOVPreferredLocaleDidChangeNotification(
 
 void LocalizedControl::refreshOnMainThread(const String& locale) {
   if (mainQueue().isMainThread()) {
-    refresh(locale);
+    refreshHere(locale);
     return;
   }
   const String carried = onTheWay_ == LocaleOnTheWay::kept ? locale : String();
-  onMainThread([this, &carried] { refresh(carried); });
+  onMainThread([this, &carried] { refreshHere(carried); });
 }
 
 void LocalizedControl::followLanguage() {
-  takeSteps([&] { handleOVPreferredLocaleDidChangeNotification(nullptr); },
-            [&] { observeLanguageChanges(); });
+  Hold(*this).takeSteps([&] { handleOVPreferredLocaleDidChangeNotification(nullptr); },
+                        [&] { observeLanguageChanges(); });
 }
 
 void LocalizedControl::observeLanguageChanges() {
@@ -57,21 +91,21 @@ void LocalizedControl::observeLanguageChanges() {
   // moment. What it needs of the control there, it takes with it.
   Platform::current().notifications->addObserver(
       this, String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
-      [anchor = anchor_, onTheWay = onTheWay_](const platform::Notification& notification) {
-        if (mainQueue().isMainThread()) {
-          if (LocalizedControl* control = anchor->control()) {
-            control->handleOVPreferredLocaleDidChangeNotification(&notification);
-          }
+      [anchor = anchor_, onTheWay = onTheWay_](const platform::Notification& /*notification*/) {
+        const StringList locales = currentLocales();
+        if (locales.empty()) {
           return;
         }
-        const StringList locales = Localizer::sharedLocalizer().currentLocales();
-        if (locales.empty()) {
+        if (mainQueue().isMainThread()) {
+          if (LocalizedControl* control = anchor->control()) {
+            control->refreshHere(locales.front());
+          }
           return;
         }
         const String carried = onTheWay == LocaleOnTheWay::kept ? locales.front() : String();
         mainQueue().performOnMainThreadAndWait([&] {
           if (LocalizedControl* control = anchor->control()) {
-            control->refresh(carried);
+            control->refreshHere(carried);
           }
         });
       });
@@ -107,8 +141,8 @@ String LocalizedControl::localized(const String& key) {
   return Localizer::sharedLocalizer().localizedStringForKey(key);
 }
 
-void LocalizedControl::refreshAccessibility(platform::Accessible& control) const {
-  takeSteps(
+void LocalizedControl::refreshAccessibility(platform::Accessible& control, const Hold& hold) const {
+  hold.takeSteps(
       [&] {
         if (!originalAccessibilityLabel_.empty()) {
           control.setAccessibilityLabel(localized(originalAccessibilityLabel_));
@@ -121,12 +155,10 @@ void LocalizedControl::refreshAccessibility(platform::Accessible& control) const
       });
 }
 
-void LocalizedControl::refreshStyle(platform::TextStyle& style, const String& locale) const {
-  takeSteps([&] { style.setFont(localizationUtilities::ovFontForLocale(locale, originalFont_)); },
-            [&] {
-              style.setTextAlignment(
-                  localizationUtilities::ovAlignmentForLocale(locale, originalAlignment_));
-            });
+void LocalizedControl::refreshStyle(platform::TextStyle& style, const String& locale,
+                                    const Hold& hold) const {
+  hold.takeSteps([&] { style.setFont(fontForLocale(locale, originalFont_)); },
+                 [&] { style.setTextAlignment(alignmentForLocale(locale, originalAlignment_)); });
 }
 
 void LocalizedControl::rememberStyle(const platform::TextStyle& style) {

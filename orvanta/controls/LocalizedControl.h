@@ -82,8 +82,10 @@ class ORVANTA_EXPORT LocalizedControl {
   /// `driven` is the toolkit's control. It is let go of last, when nothing can reach this any more.
   LocalizedControl(std::shared_ptr<void> driven, LocaleOnTheWay onTheWay);
 
-  /// The refresh itself, on the main thread.
-  virtual void refresh(const String& locale) = 0;
+  class Hold;
+
+  /// The refresh itself, on the main thread, its steps taken in `hold`.
+  virtual void refresh(const String& locale, const Hold& hold) = 0;
 
   /// Refreshes on the main thread, at once when this is it; returns when that is done.
   void refreshOnMainThread(const String& locale);
@@ -92,24 +94,23 @@ class ORVANTA_EXPORT LocalizedControl {
   void followLanguage();
 
   /// Keeps what is driven while the toolkit is at work on it, and knows whether the control still
-  /// lives afterwards.
+  /// lives afterwards. One does for a whole refresh.
   class Hold {
    public:
     explicit Hold(const LocalizedControl& control)
         : driven_(control.driven_), anchor_(control.anchor_) {}
     [[nodiscard]] bool controlLives() const noexcept { return anchor_->control() != nullptr; }
 
+    /// Takes the steps in their order, as long as the control lives.
+    template <typename... Steps>
+    void takeSteps(const Steps&... steps) const {
+      static_cast<void>(((steps(), controlLives()) && ...));
+    }
+
    private:
     std::shared_ptr<void> driven_;
     std::shared_ptr<const MainThreadAnchor> anchor_;
   };
-
-  /// Takes the steps in their order, as long as the control lives.
-  template <typename... Steps>
-  void takeSteps(const Steps&... steps) const {
-    const Hold hold(*this);
-    static_cast<void>(((steps(), hold.controlLives()) && ...));
-  }
 
   /// Runs `step` at a later turn of the main thread, unless the control has died by then.
   void later(std::function<void()> step) const;
@@ -124,14 +125,15 @@ class ORVANTA_EXPORT LocalizedControl {
   [[nodiscard]] static String localized(const String& key);
 
   /// Speaks the texts of the remembered keys of label and hint, where those are not empty.
-  void refreshAccessibility(platform::Accessible& control) const;
+  void refreshAccessibility(platform::Accessible& control, const Hold& hold) const;
 
   /// Draws in the remembered font and alignment as the locale wants them.
-  void refreshStyle(platform::TextStyle& style, const String& locale) const;
+  void refreshStyle(platform::TextStyle& style, const String& locale, const Hold& hold) const;
 
   void rememberStyle(const platform::TextStyle& style);
 
  private:
+  void refreshHere(const String& locale) { refresh(locale, Hold(*this)); }
   void observeLanguageChanges();
 
   std::shared_ptr<void> driven_;

@@ -65,20 +65,20 @@ void UILocalizedButton::setTitlesFromKey(const String& key) {
   }
 }
 
-void UILocalizedButton::refresh(const String& locale) {
-  takeSteps(
+void UILocalizedButton::refresh(const String& locale, const Hold& hold) {
+  hold.takeSteps(
       [&] {
         if (!originalKey().empty()) {
-          refreshStrings();
+          refreshStrings(hold);
         }
       },
-      [&] { refreshStyle(button_.titleLabel(), locale); });
+      [&] { refreshStyle(button_.titleLabel(), locale, hold); });
 }
 
-void UILocalizedButton::refreshStrings() {
+void UILocalizedButton::refreshStrings(const Hold& hold) {
   // Twice on purpose, with the same result: whoever watches the titles sees each set two times.
-  takeSteps([&] { setTitlesFromKey(originalKey()); }, [&] { setTitlesFromKey(originalKey()); },
-            [&] { refreshAccessibility(button_); });
+  hold.takeSteps([&] { setTitlesFromKey(originalKey()); }, [&] { setTitlesFromKey(originalKey()); },
+                 [&] { refreshAccessibility(button_, hold); });
 }
 
 }  // namespace orvanta

@@ -47,10 +47,10 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
   [[nodiscard]] platform::Button& button() const noexcept { return button_; }
 
  protected:
-  void refresh(const String& locale) override;
+  void refresh(const String& locale, const Hold& hold) override;
 
  private:
-  void refreshStrings();
+  void refreshStrings(const Hold& hold);
 
   platform::Button& button_;
   ControlStates controlStates_;

@@ -47,19 +47,19 @@ void UILocalizedLabel::configure() {
   followLanguage();
 }
 
-void UILocalizedLabel::refresh(const String& locale) {
-  takeSteps(
+void UILocalizedLabel::refresh(const String& locale, const Hold& hold) {
+  hold.takeSteps(
       [&] {
         if (!originalKey().empty()) {
-          refreshStrings();
+          refreshStrings(hold);
         }
       },
-      [&] { refreshStyle(label_, locale); });
+      [&] { refreshStyle(label_, locale, hold); });
 }
 
-void UILocalizedLabel::refreshStrings() {
-  takeSteps([&] { label_.setText(localized(originalKey())); },
-            [&] { refreshAccessibility(label_); });
+void UILocalizedLabel::refreshStrings(const Hold& hold) {
+  hold.takeSteps([&] { label_.setText(localized(originalKey())); },
+                 [&] { refreshAccessibility(label_, hold); });
 }
 
 }  // namespace orvanta

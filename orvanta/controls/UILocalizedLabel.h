@@ -41,10 +41,10 @@ class ORVANTA_EXPORT UILocalizedLabel : public LocalizedControl {
   [[nodiscard]] platform::Label& label() const noexcept { return label_; }
 
  protected:
-  void refresh(const String& locale) override;
+  void refresh(const String& locale, const Hold& hold) override;
 
  private:
-  void refreshStrings();
+  void refreshStrings(const Hold& hold);
 
   platform::Label& label_;
 };

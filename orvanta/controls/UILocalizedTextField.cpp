@@ -33,7 +33,7 @@ void UILocalizedTextField::awakeFromNib() {
     setOriginalPlaceholder(field_.placeholder());
   }
   rememberStyle(field_);
-  takeSteps([&] { initializePlaceholder(); }, [&] { followLanguage(); });
+  Hold(*this).takeSteps([&] { initializePlaceholder(); }, [&] { followLanguage(); });
 }
 
 void UILocalizedTextField::initializePlaceholder() {
@@ -61,18 +61,18 @@ void UILocalizedTextField::localizePlaceholder() {
   }
 }
 
-void UILocalizedTextField::refresh(const String& locale) {
-  takeSteps([&] { refreshStyle(field_, locale); },
-            [&] {
-              if (!originalKey().empty()) {
-                refreshStrings();
-              }
-            });
+void UILocalizedTextField::refresh(const String& locale, const Hold& hold) {
+  hold.takeSteps([&] { refreshStyle(field_, locale, hold); },
+                 [&] {
+                   if (!originalKey().empty()) {
+                     refreshStrings(hold);
+                   }
+                 });
 }
 
-void UILocalizedTextField::refreshStrings() {
-  takeSteps([&] { field_.setText(localized(originalKey())); },
-            [&] { refreshAccessibility(field_); });
+void UILocalizedTextField::refreshStrings(const Hold& hold) {
+  hold.takeSteps([&] { field_.setText(localized(originalKey())); },
+                 [&] { refreshAccessibility(field_, hold); });
 }
 
 }  // namespace orvanta

@@ -39,11 +39,11 @@ class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
   [[nodiscard]] platform::TextField& field() const noexcept { return field_; }
 
  protected:
-  void refresh(const String& locale) override;
+  void refresh(const String& locale, const Hold& hold) override;
 
  private:
   void localizePlaceholder();
-  void refreshStrings();
+  void refreshStrings(const Hold& hold);
 
   platform::TextField& field_;
   String originalPlaceholder_;

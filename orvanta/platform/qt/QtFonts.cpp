@@ -172,8 +172,16 @@ class QtFonts final : public platform::FontSystem {
 
 }  // namespace
 
+// Most widgets of a window share one font, and then one handle to it.
 FontPointer fontHandle(const QFont& font) {
-  return std::make_shared<QtFont>(font);
+  thread_local std::weak_ptr<const QtFont> lately;
+  std::shared_ptr<const QtFont> handle = lately.lock();
+  if (handle == nullptr || !handle->font().isCopyOf(font) ||
+      handle->font().resolveMask() != font.resolveMask()) {
+    handle = std::make_shared<const QtFont>(font);
+    lately = handle;
+  }
+  return handle;
 }
 
 QFont toQFont(const FontPointer& font) {

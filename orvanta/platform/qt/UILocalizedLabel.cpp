@@ -16,8 +16,7 @@ class LabelAdapter final
     return fromQString(marksMnemonics() ? fromMnemonics(text) : text);
   }
   void setText(const String& text) override {
-    const QString plain = toQString(text);
-    widget().setText(marksMnemonics() ? withoutMnemonics(plain) : plain);
+    widget().setText(marksMnemonics() ? withoutMnemonics(toQString(text)) : toQString(text));
   }
 
  private:
@@ -50,6 +49,16 @@ UILocalizedLabel* UILocalizedLabel::initLocalizedWithFrame(const QRect& frame, Q
 
 void UILocalizedLabel::awake() {
   control_->awakeFromNib();
+}
+
+QSize UILocalizedLabel::sizeHint() const {
+  const std::optional<QSize> hint = plainTextSize_.hintFor(*this);
+  return hint ? *hint : QLabel::sizeHint();
+}
+
+QSize UILocalizedLabel::minimumSizeHint() const {
+  const std::optional<QSize> hint = plainTextSize_.hintFor(*this);
+  return hint ? *hint : QLabel::minimumSizeHint();
 }
 
 void UILocalizedLabel::changeEvent(QEvent* event) {

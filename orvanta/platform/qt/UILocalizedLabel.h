@@ -7,6 +7,7 @@
 #include <orvanta/controls/UILocalizedLabel.h>
 #include <orvanta/platform/qt/Export.h>
 #include <orvanta/platform/qt/LocalizedWidget.h>
+#include <orvanta/platform/qt/PlainTextSize.h>
 
 namespace orvanta::qt {
 
@@ -32,6 +33,9 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
   /// The rules that this label follows, and what it remembers. Lives as long as the label.
   [[nodiscard]] orvanta::UILocalizedLabel& control() const { return *control_; }
 
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
  protected:
   void awake() override;
   void changeEvent(QEvent* event) override;
@@ -39,6 +43,7 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
  private:
   std::shared_ptr<LabelAdapter> adapter_;
   std::unique_ptr<orvanta::UILocalizedLabel> control_;
+  mutable PlainTextSize plainTextSize_;
 };
 
 }  // namespace orvanta::qt

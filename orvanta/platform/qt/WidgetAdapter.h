@@ -65,23 +65,41 @@ class StyleAdapter : public Base {
     }
     return fontHandle(font);
   }
+  // Nothing to do when the widget still has the font that was set last: Qt would look up all that
+  // the widget inherits before it found that out.
   void setFont(const std::shared_ptr<const platform::Font>& font) override {
+    if (font == font_ && this->widget().font().isCopyOf(shown_)) {
+      return;
+    }
     this->widget().setFont(toQFont(font));
+    font_ = font;
+    shown_ = this->widget().font();
   }
   [[nodiscard]] platform::TextAlignment textAlignment() const override {
     return sides_.side((this->widget().*kAlignment)());
   }
   void setTextAlignment(platform::TextAlignment alignment) override {
-    align(sides_.set(alignment, (this->widget().*kAlignment)()));
+    const Qt::Alignment shown = (this->widget().*kAlignment)();
+    align(shown, sides_.set(alignment, shown));
   }
 
   /// To be called when the application's direction has changed.
-  void renewSides() { align(sides_.renewed((this->widget().*kAlignment)())); }
+  void renewSides() {
+    const Qt::Alignment shown = (this->widget().*kAlignment)();
+    align(shown, sides_.renewed(shown));
+  }
 
  private:
-  void align(Qt::Alignment alignment) { (this->widget().*kSetAlignment)(alignment); }
+  // A line edit would repaint itself for the alignment that it has.
+  void align(Qt::Alignment shown, Qt::Alignment wanted) {
+    if (wanted != shown) {
+      (this->widget().*kSetAlignment)(wanted);
+    }
+  }
 
   SideMemory sides_;
+  std::shared_ptr<const platform::Font> font_;
+  QFont shown_;
 };
 
 }  // namespace orvanta::qt
