@@ -12,9 +12,6 @@ namespace {
 
 using platform::MainQueue;
 using platform::Platform;
-using platform::TextAlignment;
-
-using FontPointer = std::shared_ptr<const platform::Font>;
 
 MainQueue& mainQueue() {
   return *Platform::current().mainQueue;
@@ -23,33 +20,6 @@ MainQueue& mainQueue() {
 // A handle of its own: whoever is called back may change the language.
 StringList currentLocales() {
   return Localizer::sharedLocalizer().currentLocales();
-}
-
-// A change of language refreshes every control for the same handle, and in most languages each
-// keeps the font that it has: that is found out once. On the main thread only.
-bool hasCustomFont(const String& locale) {
-  struct Answer {
-    String locale;
-    bool hasCustomFont;
-  };
-  static auto& last = *new Answer{{}, false};
-  if (locale.view().data() != last.locale.view().data() || locale.size() != last.locale.size()) {
-    last = {locale, localizationUtilities::languageHasCustomFont(
-                        Localizer::languageOnlyFromString(locale))};
-  }
-  return last.hasCustomFont;
-}
-
-FontPointer fontForLocale(const String& locale, const FontPointer& original) {
-  return hasCustomFont(locale) ? localizationUtilities::ovFontForLocale(locale, original)
-                               : original;
-}
-
-// Left and right alone may be exchanged. For the others, those of most controls, the platform need
-// not be asked how the language is written.
-TextAlignment alignmentForLocale(const String& locale, TextAlignment original) {
-  const bool hasSide = original == TextAlignment::left || original == TextAlignment::right;
-  return hasSide ? localizationUtilities::ovAlignmentForLocale(locale, original) : original;
 }
 
 }  // namespace
@@ -157,8 +127,12 @@ void LocalizedControl::refreshAccessibility(platform::Accessible& control, const
 
 void LocalizedControl::refreshStyle(platform::TextStyle& style, const String& locale,
                                     const Hold& hold) const {
-  hold.takeSteps([&] { style.setFont(fontForLocale(locale, originalFont_)); },
-                 [&] { style.setTextAlignment(alignmentForLocale(locale, originalAlignment_)); });
+  hold.takeSteps(
+      [&] { style.setFont(localizationUtilities::ovFontForLocale(locale, originalFont_)); },
+      [&] {
+        style.setTextAlignment(
+            localizationUtilities::ovAlignmentForLocale(locale, originalAlignment_));
+      });
 }
 
 void LocalizedControl::rememberStyle(const platform::TextStyle& style) {

@@ -15,17 +15,14 @@ FontHandle ovFontForLocale(const String& locale, const FontHandle& baseFont) {
 }
 
 TextAlignment ovAlignmentForLocale(const String& locale, TextAlignment baseAlignment) {
-  if (!languageAlignmentIsReversed(Localizer::languageOnlyFromString(locale))) {
+  // Of what is not to be exchanged, most texts, the platform need not be asked how the language is
+  // written.
+  const bool hasSide =
+      baseAlignment == TextAlignment::left || baseAlignment == TextAlignment::right;
+  if (!hasSide || !languageAlignmentIsReversed(Localizer::languageOnlyFromString(locale))) {
     return baseAlignment;
   }
-  switch (baseAlignment) {
-    case TextAlignment::left:
-      return TextAlignment::right;
-    case TextAlignment::right:
-      return TextAlignment::left;
-    default:
-      return baseAlignment;
-  }
+  return baseAlignment == TextAlignment::left ? TextAlignment::right : TextAlignment::left;
 }
 
 bool languageHasCustomFont(const String& language) {
