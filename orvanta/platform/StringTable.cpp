@@ -35,8 +35,7 @@ std::vector<StringTable::Entry> StringTable::entries() const {
 }
 
 std::size_t StringTable::heapBytes() const noexcept {
-  return sizeof(StringTable) + arena_.size() +
-         (ownIndex_ == nullptr ? 0 : slotCount_ * sizeof(Slot));
+  return sizeof(StringTable) + arena_.size();
 }
 
 }  // namespace orvanta::platform

@@ -2,10 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -25,10 +23,10 @@ class StringTableBuilder;
 ///
 ///     key length (4 bytes) | value length (4 bytes) | key | value
 ///
-/// so that the bytes a lookup compares and the text it hands out lie side by side. The index is
-/// an array of 8-byte slots, at most a third of them used, probed one after the other; a slot holds
-/// the high half of the key's hash and where the record stands. A text that is handed out shares
-/// the arena: it stays valid when the table goes.
+/// so that the bytes a lookup compares and the text it hands out lie side by side. Behind them
+/// stands the index, an array of 8-byte slots, at most a third of them used, or half in a large
+/// table, probed one after the other; a slot holds the high half of the key's hash and where the
+/// record stands. A text that is handed out shares the arena: it stays valid when the table goes.
 ///
 /// Reading one table from several threads is safe.
 class ORVANTA_EXPORT StringTable {
@@ -100,12 +98,7 @@ class ORVANTA_EXPORT StringTable {
 
   static constexpr Slot kEmptyIndex[1] = {kFree};
 
-  struct FreeIndex {
-    void operator()(Slot* index) const noexcept { std::free(index); }
-  };
-
   String arena_;
-  std::unique_ptr<Slot[], FreeIndex> ownIndex_;
   const Slot* index_ = kEmptyIndex;
   std::uint32_t slotCount_ = 1;
   std::size_t size_ = 0;

@@ -9,6 +9,7 @@
 namespace orvanta::platform::standard {
 
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
+  // Short entries leave room to spare, of which nothing is touched.
   constexpr std::size_t kShortEntry = 64;
   static_cast<void>(reserve(expectedBytes));
   records_.reserve(expectedBytes / kShortEntry);
@@ -54,30 +55,30 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   if (records_.empty()) {
     return table;
   }
-  if (void* exact = std::realloc(arena_, used_)) {
-    arena_ = static_cast<char*>(exact);
+  // Misses are the faster the emptier an index is, but one that passes the caches had better be
+  // small.
+  const std::size_t slotsForEach = records_.size() < 50'000 ? 3 : 2;
+  const std::size_t count = std::min<std::size_t>(slotsForEach * records_.size(),
+                                                  std::numeric_limits<std::uint32_t>::max());
+  const std::size_t start = (used_ + sizeof(Slot) - 1) / sizeof(Slot) * sizeof(Slot);
+  void* const whole = std::realloc(arena_, start + count * sizeof(Slot));
+  if (whole == nullptr) {
+    return nullptr;
   }
-  table->arena_ = String::takingOver(arena_, used_);
   arena_ = nullptr;
   used_ = 0;
   capacity_ = 0;
-  return fillIndex(*table, std::exchange(records_, {})) ? table : nullptr;
+  table->arena_ = String::takingOver(static_cast<char*>(whole), start + count * sizeof(Slot));
+  auto* const index = reinterpret_cast<Slot*>(static_cast<char*>(whole) + start);
+  std::uninitialized_fill_n(index, count, StringTable::kFree);
+  table->index_ = index;
+  table->slotCount_ = static_cast<std::uint32_t>(count);
+  fillIndex(*table, {index, count}, std::exchange(records_, {}));
+  return table;
 }
 
-bool StringTableBuilder::fillIndex(StringTable& table, std::span<const Slot> records) {
-  // Misses are the faster the emptier an index is, but one that passes the caches had better be
-  // small.
-  const std::size_t slotsForEach = records.size() < 50'000 ? 3 : 2;
-  const std::size_t count = std::min<std::size_t>(slotsForEach * records.size(),
-                                                  std::numeric_limits<std::uint32_t>::max());
-  auto* index = reinterpret_cast<Slot*>(allocateBytes(count * sizeof(Slot)));
-  if (index == nullptr) {
-    return false;
-  }
-  std::uninitialized_fill_n(index, count, StringTable::kFree);
-  table.ownIndex_.reset(index);
-  table.index_ = index;
-  table.slotCount_ = static_cast<std::uint32_t>(count);
+void StringTableBuilder::fillIndex(StringTable& table, std::span<Slot> index,
+                                   std::span<const Slot> records) {
   const auto keyOf = [&](Slot slot) { return table.entryAt(StringTable::offsetIn(slot)).key; };
   const auto haveOneKey = [&](Slot a, Slot b) {
     return StringTable::mayHoldSameKey(a, b) && keyOf(a) == keyOf(b);
@@ -85,12 +86,11 @@ bool StringTableBuilder::fillIndex(StringTable& table, std::span<const Slot> rec
   for (const Slot record : records) {
     std::size_t at = StringTable::homeSlot(record, table.slotCount_);
     while (index[at] != StringTable::kFree && !haveOneKey(index[at], record)) {
-      at = at + 1 == count ? 0 : at + 1;
+      at = table.slotBehind(at);
     }
     table.size_ += index[at] == StringTable::kFree ? 1 : 0;
     index[at] = record;
   }
-  return true;
 }
 
 }  // namespace orvanta::platform::standard

@@ -57,7 +57,7 @@ class ORVANTA_EXPORT StringTableBuilder {
   using Slot = StringTable::Slot;
 
   [[nodiscard]] bool reserve(std::size_t more);
-  [[nodiscard]] static bool fillIndex(StringTable& table, std::span<const Slot> records);
+  static void fillIndex(StringTable& table, std::span<Slot> index, std::span<const Slot> records);
 
   char* arena_ = nullptr;
   std::size_t used_ = 0;
