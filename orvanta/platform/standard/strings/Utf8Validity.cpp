@@ -11,8 +11,9 @@
 namespace orvanta::platform::standard {
 
 // Compiled twice where the compiler can choose at run time: with vectors of 32 bytes it takes half
-// the time.
-#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && defined(__GLIBC__)
+// the time. Not under ThreadSanitizer, which is not there yet when the choice is made.
+#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && defined(__GLIBC__) && \
+    !defined(__SANITIZE_THREAD__)
 #define ORVANTA_ALSO_FOR_WIDE_VECTORS [[gnu::target_clones("avx2", "default")]]
 #else
 #define ORVANTA_ALSO_FOR_WIDE_VECTORS
