@@ -155,7 +155,7 @@ void Utf16Writer::flush() {
   if (!outcome_) {
     outcome_ = file_.write({buffers_->utf16, static_cast<std::size_t>(stop.out - buffers_->utf16)});
   }
-  std::memmove(buffers_->utf8, end, torn);
+  std::copy(end, end + torn, buffers_->utf8);
   size_ = torn;
 }
 

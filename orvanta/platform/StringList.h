@@ -72,7 +72,7 @@ class StringList::Builder {
     if (items_ == nullptr) {
       items_ = std::make_shared<String[]>(most_);
     }
-    items_[size_++] = std::move(item);
+    items_.get()[size_++] = std::move(item);
   }
 
   /// What was added; absent when that is nothing.

@@ -19,6 +19,7 @@ namespace orvanta {
 /// makes the processor wait for that write.
 class ORVANTA_EXPORT TextStorage {
  public:
+  virtual ~TextStorage();
   TextStorage(const TextStorage&) = delete;
   TextStorage& operator=(const TextStorage&) = delete;
 
@@ -45,7 +46,6 @@ class ORVANTA_EXPORT TextStorage {
  protected:
   /// Counts the handle of its maker.
   TextStorage() noexcept = default;
-  virtual ~TextStorage();
 
  private:
   // Counting without atomic instructions, where the C library can tell that nobody could see it.
