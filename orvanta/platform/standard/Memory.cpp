@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 
 #include <sys/mman.h>
 
@@ -16,8 +17,12 @@ constexpr std::size_t kMany = std::size_t{1024} * 1024;
 // Clearing a large page takes as long as handing out so many bytes in small ones, about.
 constexpr std::size_t kWorthAnotherPage = std::size_t{256} * 1024;
 
-std::size_t roundedUp(std::size_t size, std::size_t step) noexcept {
-  return (std::max<std::size_t>(size, 1) + step - 1) / step * step;
+// Not by `std::aligned_alloc`, which may refuse sizes that are no multiple of the alignment.
+char* allocateAligned(std::size_t alignment, std::size_t size) noexcept {
+  void* bytes = nullptr;
+  return posix_memalign(&bytes, alignment, std::max<std::size_t>(size, 1)) == 0
+             ? static_cast<char*>(bytes)
+             : nullptr;
 }
 
 }  // namespace
@@ -27,12 +32,11 @@ char* allocateBytes(std::size_t size) noexcept {
     return nullptr;
   }
   if (size < kMany) {
-    return static_cast<char*>(std::aligned_alloc(kCacheLine, roundedUp(size, kCacheLine)));
+    return allocateAligned(kCacheLine, size);
   }
-  const std::size_t whole = roundedUp(size, kLargePage);
-  const std::size_t inLargePages =
-      size + kLargePage - whole > kWorthAnotherPage ? whole : whole - kLargePage;
-  auto* bytes = static_cast<char*>(std::aligned_alloc(kLargePage, std::max(inLargePages, size)));
+  const std::size_t rest = size % kLargePage;
+  const std::size_t inLargePages = size - rest + (rest > kWorthAnotherPage ? kLargePage : 0);
+  char* const bytes = allocateAligned(kLargePage, std::max(inLargePages, size));
 #ifdef MADV_HUGEPAGE
   if (bytes != nullptr) {
     // A wish: where it is refused the pages are small ones.

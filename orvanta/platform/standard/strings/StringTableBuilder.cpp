@@ -11,8 +11,8 @@ namespace orvanta::platform::standard {
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
   // Short entries leave room to spare, of which nothing is touched.
   constexpr std::size_t kShortEntry = 64;
-  static_cast<void>(reserve(expectedBytes));
   records_.reserve(expectedBytes / kShortEntry);
+  static_cast<void>(reserve(expectedBytes));
 }
 
 StringTableBuilder::~StringTableBuilder() {
@@ -65,11 +65,12 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   if (whole == nullptr) {
     return nullptr;
   }
+  arena_ = static_cast<char*>(whole);
+  table->arena_ = String::takingOver(arena_, start + count * sizeof(Slot));
+  auto* const index = reinterpret_cast<Slot*>(arena_ + start);
   arena_ = nullptr;
   used_ = 0;
   capacity_ = 0;
-  table->arena_ = String::takingOver(static_cast<char*>(whole), start + count * sizeof(Slot));
-  auto* const index = reinterpret_cast<Slot*>(static_cast<char*>(whole) + start);
   std::uninitialized_fill_n(index, count, StringTable::kFree);
   table->index_ = index;
   table->slotCount_ = static_cast<std::uint32_t>(count);
