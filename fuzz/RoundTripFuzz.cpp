@@ -9,11 +9,11 @@
 #include <string>
 #include <string_view>
 
-#include <orvanta/cache/StringsFileText.h>
-#include <orvanta/cache/StringsPayload.h>
-#include <orvanta/cache/Utf16Writer.h>
-#include <orvanta/platform/Utf8.h>
-#include <orvanta/platform/standard/strings/StringTableReader.h>
+#include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/strings/writer/StringsFileText.h>
+#include <orvanta/strings/writer/Utf16Writer.h>
+#include <orvanta/text/StringsPayload.h>
+#include <orvanta/text/Utf8.h>
 
 #include "../tests/support/MemoryFile.h"
 
@@ -62,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!isValid) {
     return 0;
   }
-  const auto read = orvanta::platform::standard::readStringTable(
+  const auto read = orvanta::strings::readStringTable(
       file.bytes, [](const auto& problem) { expect(false, problem.message); });
   expect(read != nullptr && read->size() == pairs.size(), "every pair is there");
   for (const auto& [key, value] : pairs) {

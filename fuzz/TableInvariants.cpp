@@ -6,16 +6,16 @@
 #include <string>
 #include <vector>
 
-#include <orvanta/platform/Utf8.h>
-#include <orvanta/platform/standard/strings/StringTableReader.h>
+#include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/text/Utf8.h>
 
 namespace orvanta::fuzz {
 
 namespace {
 
-using platform::StringTable;
-using platform::standard::readStringTable;
-using platform::standard::TableProblem;
+using strings::readStringTable;
+using strings::StringTable;
+using strings::TableProblem;
 
 // An entry costs at most an index slot or two besides its characters; the shortest statement that
 // makes one takes 2 bytes.

@@ -2,7 +2,7 @@
 
 /// Everything that an application needs of the core. An application with a platform of its own
 /// includes <orvanta/platform/Platform.h> too, and one that only sets options
-/// <orvanta/platform/standard/StandardPlatform.h>.
+/// <orvanta/standard/StandardPlatform.h>.
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 #include "harness/Files.h"
 
@@ -20,9 +20,9 @@ std::filesystem::path Application::tableFile(std::string_view language) const {
   return languageFolder(language) / "Localizable.strings";
 }
 
-platform::Platform Application::makePlatform(
-    std::string_view language, std::shared_ptr<platform::standard::RunLoop> loop) const {
-  platform::standard::StandardOptions options;
+platform::Platform Application::makePlatform(std::string_view language,
+                                             std::shared_ptr<standard::RunLoop> loop) const {
+  standard::StandardOptions options;
   options.mainBundlePath = folder_ / "Bundle";
   options.cachesPath = cachesFolder();
   options.deviceLanguages = {std::string(language)};
@@ -30,7 +30,7 @@ platform::Platform Application::makePlatform(
   options.logSink = [](std::string_view) {};
   platform::Platform replacements;
   replacements.mainQueue = std::move(loop);
-  return platform::standard::makeStandardPlatform(options, std::move(replacements));
+  return standard::makeStandardPlatform(options, std::move(replacements));
 }
 
 }  // namespace orvanta::bench

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/RunLoop.h>
+#include <orvanta/standard/RunLoop.h>
 
 #include "data/Corpus.h"
 
@@ -28,7 +28,7 @@ class Application {
   /// A standard platform for this application on a device set to `language`, with nothing read
   /// yet. Its main queue is `loop` if one is given, and it drops what is logged.
   [[nodiscard]] platform::Platform makePlatform(
-      std::string_view language, std::shared_ptr<platform::standard::RunLoop> loop = nullptr) const;
+      std::string_view language, std::shared_ptr<standard::RunLoop> loop = nullptr) const;
 
  private:
   std::filesystem::path folder_;

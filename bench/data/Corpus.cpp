@@ -3,7 +3,7 @@
 #include <string_view>
 #include <unordered_set>
 
-#include <orvanta/platform/Utf8.h>
+#include <orvanta/text/Utf8.h>
 
 #include "data/Random.h"
 

@@ -1,6 +1,6 @@
 #include "data/Utf16.h"
 
-#include <orvanta/platform/Utf8.h>
+#include <orvanta/text/Utf8.h>
 
 namespace orvanta::bench {
 

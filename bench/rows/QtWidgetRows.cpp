@@ -10,9 +10,9 @@
 #include <malloc.h>
 
 #include <orvanta/locale/Localizer.h>
-#include <orvanta/platform/qt/QtPlatform.h>
-#include <orvanta/platform/qt/RepaintBatch.h>
-#include <orvanta/platform/qt/UILocalizedLabel.h>
+#include <orvanta/qt/RepaintBatch.h>
+#include <orvanta/qt/UILocalizedLabel.h>
+#include <orvanta/qt/platform/QtPlatform.h>
 
 #include "contenders/Application.h"
 #include "contenders/LabelWindow.h"
@@ -219,7 +219,7 @@ void installPlatform(const std::filesystem::path& folder, const Languages& langu
   const Application application(folder);
   application.ship("fr", languages.french, textFormUtf8);
   application.ship("en", languages.english, textFormUtf8);
-  platform::standard::StandardOptions options;
+  standard::StandardOptions options;
   options.mainBundlePath = application.languageFolder("en").parent_path();
   options.cachesPath = application.cachesFolder();
   options.deviceLanguages = {"en"};

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 #include "data/Corpus.h"
 #include "data/Random.h"

@@ -68,7 +68,7 @@ Contender switching(std::string_view name, const Languages& languages,
 class OurSide {
  public:
   OurSide(const Application& application, const Languages& languages)
-      : loop_(platform::standard::RunLoop::make()), listeners_(languages.asked.size()) {
+      : loop_(standard::RunLoop::make()), listeners_(languages.asked.size()) {
     platform::Platform::install(application.makePlatform("fr", loop_));
     localizer_ = std::make_unique<Localizer>();
     auto& center = *platform::Platform::current().notifications;
@@ -102,7 +102,7 @@ class OurSide {
   };
   const StringList french_ = {"fr"_s};
   const StringList english_ = {"en"_s};
-  std::shared_ptr<platform::standard::RunLoop> loop_;
+  std::shared_ptr<standard::RunLoop> loop_;
   std::unique_ptr<Localizer> localizer_;
   std::vector<Listener> listeners_;
 };

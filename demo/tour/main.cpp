@@ -8,9 +8,9 @@
 
 #include <orvanta/orvanta.h>
 #include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/MemoryControls.h>
-#include <orvanta/platform/standard/RunLoop.h>
-#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/standard/MemoryControls.h>
+#include <orvanta/standard/RunLoop.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 namespace {
 
@@ -18,9 +18,9 @@ using orvanta::Localizer;
 using orvanta::StringList;
 using orvanta::platform::Platform;
 using orvanta::platform::TextAlignment;
-using orvanta::platform::standard::MemoryButton;
-using orvanta::platform::standard::MemoryLabel;
-using orvanta::platform::standard::RunLoop;
+using orvanta::standard::MemoryButton;
+using orvanta::standard::MemoryLabel;
+using orvanta::standard::RunLoop;
 
 std::string_view nameOf(TextAlignment alignment) {
   switch (alignment) {
@@ -144,9 +144,9 @@ void tour() {
 }  // namespace
 
 int main() {
-  orvanta::platform::standard::StandardOptions options;
+  orvanta::standard::StandardOptions options;
   options.mainBundlePath = DEMO_BUNDLE;
   options.cachesPath = DEMO_CACHES;
-  Platform::install(orvanta::platform::standard::makeStandardPlatform(options));
+  Platform::install(orvanta::standard::makeStandardPlatform(options));
   tour();
 }

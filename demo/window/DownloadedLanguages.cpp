@@ -5,7 +5,7 @@
 #include <QJsonObject>
 
 #include <orvanta/orvanta.h>
-#include <orvanta/platform/qt/Text.h>
+#include <orvanta/qt/Text.h>
 
 namespace demo {
 

@@ -7,11 +7,11 @@
 #include <utility>
 
 #include <orvanta/orvanta.h>
-#include <orvanta/platform/qt/FormLoader.h>
-#include <orvanta/platform/qt/Text.h>
-#include <orvanta/platform/qt/UILocalizedButton.h>
-#include <orvanta/platform/qt/UILocalizedLabel.h>
-#include <orvanta/platform/qt/UILocalizedTextField.h>
+#include <orvanta/qt/FormLoader.h>
+#include <orvanta/qt/Text.h>
+#include <orvanta/qt/UILocalizedButton.h>
+#include <orvanta/qt/UILocalizedLabel.h>
+#include <orvanta/qt/UILocalizedTextField.h>
 
 #include "DownloadedLanguages.h"
 

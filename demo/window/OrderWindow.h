@@ -3,9 +3,9 @@
 #include <QWidget>
 
 #include <orvanta/locale/Localizer.h>
-#include <orvanta/platform/qt/LanguageChangeObserver.h>
-#include <orvanta/platform/qt/LayoutDirectionFollower.h>
-#include <orvanta/platform/qt/RepaintBatch.h>
+#include <orvanta/qt/LanguageChangeObserver.h>
+#include <orvanta/qt/LayoutDirectionFollower.h>
+#include <orvanta/qt/RepaintBatch.h>
 
 class QMenu;
 

@@ -6,8 +6,8 @@
 #include <QWidget>
 
 #include <orvanta/orvanta.h>
-#include <orvanta/platform/qt/LanguageChangeObserver.h>
-#include <orvanta/platform/qt/Text.h>
+#include <orvanta/qt/LanguageChangeObserver.h>
+#include <orvanta/qt/Text.h>
 
 namespace demo {
 

@@ -2,7 +2,7 @@
 #include <QCommandLineParser>
 #include <iostream>
 
-#include <orvanta/platform/qt/QtPlatform.h>
+#include <orvanta/qt/platform/QtPlatform.h>
 
 #include "Appearance.h"
 #include "OrderWindow.h"
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
   });
   options.process(application);
 
-  orvanta::platform::standard::StandardOptions paths;
+  orvanta::standard::StandardOptions paths;
   paths.mainBundlePath = DEMO_BUNDLE;
   paths.cachesPath = DEMO_CACHES;
   orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(paths));

@@ -34,14 +34,13 @@ bool beginsWith(const Components& whole, const Components& start) {
 }
 
 // A query or a fragment would be cut off silently, and another file be written.
-bool namesWholePath(const platform::URL& url) {
+bool namesWholePath(const URL& url) {
   return url.absoluteString().view().find_first_of("?#") == std::string_view::npos;
 }
 
 }  // namespace
 
-String confinedPath(platform::FileManager& files, const platform::URL& file,
-                    const platform::URL& folder) {
+String confinedPath(platform::FileManager& files, const URL& file, const URL& folder) {
   const String filePath = file.path();
   const String folderPath = folder.path();
   if (filePath.isAbsent() || folderPath.isAbsent() || !namesWholePath(file)) {

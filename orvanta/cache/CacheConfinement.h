@@ -1,8 +1,8 @@
 #pragma once
 
 #include <orvanta/platform/FileManager.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta {
 
@@ -10,7 +10,6 @@ namespace orvanta {
 /// path, strictly inside the folder, and reached through no symbolic link on the way from it (the
 /// folder itself may be reached through one). Absent when there is no such path, so that a
 /// language's name from the network can never lead out of the cache.
-[[nodiscard]] String confinedPath(platform::FileManager& files, const platform::URL& file,
-                                  const platform::URL& folder);
+[[nodiscard]] String confinedPath(platform::FileManager& files, const URL& file, const URL& folder);
 
 }  // namespace orvanta

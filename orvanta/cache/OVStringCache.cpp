@@ -5,10 +5,10 @@
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/ReplacingWriter.h>
-#include <orvanta/cache/StringsFileText.h>
 #include <orvanta/cache/TableWriter.h>
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/strings/writer/StringsFileText.h>
 
 namespace orvanta {
 
@@ -16,7 +16,6 @@ namespace {
 
 using platform::Bundle;
 using platform::Platform;
-using platform::URL;
 
 StringList codesOf(const OVLocaleDictionary& languages) {
   std::vector<String> codes;
@@ -199,8 +198,9 @@ StringsUpdate OVStringCache::updateLanguage(const String& language, const String
   const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(folder, language);
   const auto error = writeTableInside(
       folder,
-      [&](Utf16Writer& writer) {
-        forEachPieceOfStringsFile(*table, [&](std::string_view piece) { writer.append(piece); });
+      [&](strings::Utf16Writer& writer) {
+        strings::forEachPieceOfStringsFile(*table,
+                                           [&](std::string_view piece) { writer.append(piece); });
       },
       file);
   if (!error) {

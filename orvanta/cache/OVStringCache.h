@@ -6,13 +6,13 @@
 #include <string_view>
 
 #include <orvanta/Export.h>
-#include <orvanta/cache/StringsPayload.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/platform/Bundle.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
-#include <orvanta/platform/TextHash.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
+#include <orvanta/text/StringsPayload.h>
+#include <orvanta/text/TextHash.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta {
 
@@ -32,8 +32,8 @@ struct StringsUpdate {
 
   String language;
   Result result;
-  platform::URL file;  ///< Absent when skipped, or when the language's name fits in no URL.
-  String reason;       ///< For people; absent when written.
+  URL file;       ///< Absent when skipped, or when the language's name fits in no URL.
+  String reason;  ///< For people; absent when written.
 };
 
 /// The catalogue of the languages that the application can run in, and the cache of downloaded
@@ -53,8 +53,8 @@ class ORVANTA_EXPORT OVStringCache {
   ~OVStringCache();
 
   /// The cache folder, found and made at the first read; absent when the platform has no caches.
-  [[nodiscard]] const platform::URL& cacheDirectoryURL();
-  void setCacheDirectoryURL(platform::URL url);
+  [[nodiscard]] const URL& cacheDirectoryURL();
+  void setCacheDirectoryURL(URL url);
 
   /// The languages shipped in the main bundle, under their folders' names. Built at every call.
   [[nodiscard]] OVLocaleDictionary mainBundleLocales() const;
@@ -126,7 +126,7 @@ class ORVANTA_EXPORT OVStringCache {
   const std::shared_ptr<platform::Bundle>* findBundle(const HashedKey& language);
   StringsUpdate updateLanguage(const String& language, const StringsPayload* table);
 
-  platform::URL cacheDirectoryURL_;
+  URL cacheDirectoryURL_;
   OVLocaleDictionary cachedLanguages_;
   OVLocaleDictionary availableLanguages_;
 };

@@ -1,16 +1,15 @@
 #include <string>
 
 #include <orvanta/cache/OVStringCacheUtilities.h>
-#include <orvanta/cache/StringsFileText.h>
 #include <orvanta/cache/TableWriter.h>
-#include <orvanta/platform/CharacterSet.h>
-#include <orvanta/platform/PathString.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/strings/writer/StringsFileText.h>
+#include <orvanta/text/CharacterSet.h>
+#include <orvanta/text/PathString.h>
 
 namespace orvanta::OVStringCacheUtilities {
 
 using platform::Platform;
-using platform::URL;
 
 URL cacheDirectoryURL() {
   URL url = Platform::current().files->cachesDirectoryURL().URLByAppendingPathComponent(
@@ -60,14 +59,15 @@ URL stringsFileURLForLanguage(const URL& directory, const String& language) {
 
 String localizableStringsFile(const StringsPayload& table) {
   std::string text;
-  forEachPieceOfStringsFile(table, [&](std::string_view piece) { text += piece; });
+  strings::forEachPieceOfStringsFile(table, [&](std::string_view piece) { text += piece; });
   return text;
 }
 
 void saveLanguageStringForLanguage(const String& text, const String& /*language*/,
                                    const URL& file) {
   if (text.isPresent()) {
-    static_cast<void>(writeTable([&](Utf16Writer& writer) { writer.append(text.view()); }, file));
+    static_cast<void>(
+        writeTable([&](strings::Utf16Writer& writer) { writer.append(text.view()); }, file));
   }
 }
 

@@ -3,9 +3,9 @@
 #include <string_view>
 
 #include <orvanta/Export.h>
-#include <orvanta/cache/StringsPayload.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringsPayload.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta {
 
@@ -18,26 +18,26 @@ namespace OVStringCacheUtilities {
 
 /// The URL of the cache folder, which is made if it can be; absent when the platform has no caches
 /// directory. Ends in "/".
-[[nodiscard]] ORVANTA_EXPORT platform::URL cacheDirectoryURL();
+[[nodiscard]] ORVANTA_EXPORT URL cacheDirectoryURL();
 
 /// Asks for the folder and its parents to be made, whether or not it is there; a failure is
 /// ignored and shows in what is tried next.
-ORVANTA_EXPORT void createDirectoryIfNeeded(const platform::URL& directory);
+ORVANTA_EXPORT void createDirectoryIfNeeded(const URL& directory);
 
 /// The same for the folder that a file stands in.
-ORVANTA_EXPORT void createDirectoryIfNeededForFile(const platform::URL& file);
+ORVANTA_EXPORT void createDirectoryIfNeededForFile(const URL& file);
 
 /// The URL of the folder that a file stands in.
-[[nodiscard]] ORVANTA_EXPORT platform::URL directoryFromFileURL(const platform::URL& file);
+[[nodiscard]] ORVANTA_EXPORT URL directoryFromFileURL(const URL& file);
 
 /// Deletes every entry of the folder, hidden ones included, but not the folder. An entry that
 /// cannot be deleted is logged and left.
-ORVANTA_EXPORT void clearFilesFromDirectory(const platform::URL& directory);
+ORVANTA_EXPORT void clearFilesFromDirectory(const URL& directory);
 
 /// The URL of a language's table below the folder: the identifier goes into it as it stands, so
 /// that one with a character that no URL holds gives absent.
-[[nodiscard]] ORVANTA_EXPORT platform::URL stringsFileURLForLanguage(const platform::URL& directory,
-                                                                     const String& language);
+[[nodiscard]] ORVANTA_EXPORT URL stringsFileURLForLanguage(const URL& directory,
+                                                           const String& language);
 
 /// The text of a strings file with the table's pairs, one after the other in the table's order:
 /// an empty comment, the assignment, a blank line. Pairs with an empty key or value, and values
@@ -50,7 +50,7 @@ ORVANTA_EXPORT void clearFilesFromDirectory(const platform::URL& directory);
 /// `language` is not used: the URL alone names the file, wherever that is. Only
 /// `OVStringCache::updateStrings` holds it against the cache folder.
 ORVANTA_EXPORT void saveLanguageStringForLanguage(const String& text, const String& language,
-                                                  const platform::URL& file);
+                                                  const URL& file);
 
 /// The text in lower case, then without white space and line breaks at both ends.
 [[nodiscard]] ORVANTA_EXPORT String cleanedString(const String& text);

@@ -6,16 +6,14 @@
 #include <vector>
 
 #include <orvanta/cache/ReplacingWriter.h>
-#include <orvanta/platform/PathString.h>
-#include <orvanta/platform/TextHash.h>
+#include <orvanta/text/PathString.h>
+#include <orvanta/text/TextHash.h>
 
 namespace orvanta {
 
 namespace {
 
 using platform::FileManager;
-using platform::FileOutcome;
-using platform::URL;
 using Write = std::function<FileOutcome(platform::WritableFile& file)>;
 
 // Hidden, so that it is never taken for a table, and told by its ending from anything else.

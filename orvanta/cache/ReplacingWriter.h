@@ -3,8 +3,8 @@
 #include <functional>
 
 #include <orvanta/platform/FileManager.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta {
 
@@ -12,12 +12,12 @@ namespace orvanta {
 /// the way, and wherever the process or the power ends, a reader finds the whole old file or the
 /// whole new one: `write` gets a new file beside the old one, which is synced and then renamed over
 /// it.
-[[nodiscard]] platform::FileOutcome replaceFile(
+[[nodiscard]] FileOutcome replaceFile(
     platform::FileManager& files, const String& path,
-    const std::function<platform::FileOutcome(platform::WritableFile& file)>& write);
+    const std::function<FileOutcome(platform::WritableFile& file)>& write);
 
 /// Removes what writers that died on the way have left in the folder and below it; never the file
 /// of a writer that lives, in this process or another.
-void sweepAbandonedFiles(platform::FileManager& files, const platform::URL& folder);
+void sweepAbandonedFiles(platform::FileManager& files, const URL& folder);
 
 }  // namespace orvanta

@@ -6,23 +6,20 @@
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/ReplacingWriter.h>
 #include <orvanta/cache/TableWriter.h>
-#include <orvanta/platform/PathString.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/text/PathString.h>
 
 namespace orvanta {
 
 namespace {
 
-using platform::FileError;
-using platform::FileOutcome;
 using platform::Platform;
-using platform::URL;
 
 FileOutcome replaceTable(const TableText& text, const String& path) {
   OVStringCacheUtilities::createDirectoryIfNeeded(
       URL::fileURLWithPath(path::stringByDeletingLastPathComponent(path), true));
   return replaceFile(*Platform::current().files, path, [&](platform::WritableFile& file) {
-    Utf16Writer writer(file);
+    strings::Utf16Writer writer(file);
     text(writer);
     return writer.finish();
   });

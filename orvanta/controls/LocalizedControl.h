@@ -9,8 +9,8 @@
 #include <orvanta/platform/Controls.h>
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/NotificationCenter.h>
-#include <orvanta/platform/String.h>
 #include <orvanta/platform/TextAlignment.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta {
 

@@ -4,7 +4,7 @@
 
 #include <orvanta/fonts/DerivedFonts.h>
 #include <orvanta/fonts/localizationUtilities.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta::localizationUtilities {
 

@@ -5,8 +5,8 @@
 #include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/FontSystem.h>
-#include <orvanta/platform/String.h>
 #include <orvanta/platform/TextAlignment.h>
+#include <orvanta/text/String.h>
 
 /// The fonts and the alignment that texts get in the current language.
 ///

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <orvanta/platform/Dictionary.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/Dictionary.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta {
 

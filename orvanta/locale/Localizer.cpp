@@ -90,7 +90,7 @@ template <typename Key>
     static_cast<void>(defaultLocaleBundle());
   }
   const HashedKey hashed(characters);
-  const platform::StringTable* table = currentLanguageBundle_->loadedDefaultTable();
+  const strings::StringTable* table = currentLanguageBundle_->loadedDefaultTable();
   if (table == nullptr) {
     return textElsewhereOrKey(hashed, key);
   }

@@ -10,8 +10,8 @@
 #include <orvanta/platform/AffineTransform.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/Calendar.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
 
 namespace orvanta {
 

@@ -5,7 +5,7 @@
 
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
-#include <orvanta/platform/CharacterSet.h>
+#include <orvanta/text/CharacterSet.h>
 
 namespace orvanta {
 

@@ -2,7 +2,7 @@
 #include <utility>
 
 #include <orvanta/locale/OVLocale.h>
-#include <orvanta/platform/PathString.h>
+#include <orvanta/text/PathString.h>
 
 namespace orvanta {
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
-#include <orvanta/platform/StringTable.h>
-#include <orvanta/platform/TextHash.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/strings/StringTable.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
+#include <orvanta/text/TextHash.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta::platform {
 
@@ -54,7 +54,7 @@ class ORVANTA_EXPORT Bundle {
 
   /// The table "Localizable" where the bundle has it in memory, which then answers as `textForKey`
   /// would, without a virtual call; null otherwise.
-  [[nodiscard]] const StringTable* loadedDefaultTable() const noexcept {
+  [[nodiscard]] const strings::StringTable* loadedDefaultTable() const noexcept {
     return loadedDefaultTable_;
   }
 
@@ -66,13 +66,13 @@ class ORVANTA_EXPORT Bundle {
   Bundle() = default;
 
   /// `table` must stay until something else is set.
-  void setLoadedDefaultTable(const StringTable* table) const noexcept {
+  void setLoadedDefaultTable(const strings::StringTable* table) const noexcept {
     loadedDefaultTable_ = table;
   }
 
  private:
   // What the bundle found out already; part of no answer.
-  mutable const StringTable* loadedDefaultTable_ = nullptr;
+  mutable const strings::StringTable* loadedDefaultTable_ = nullptr;
 };
 
 /// Opens bundles and keeps them: one object for each path, never freed.

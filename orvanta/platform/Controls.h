@@ -5,8 +5,8 @@
 
 #include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
-#include <orvanta/platform/String.h>
 #include <orvanta/platform/TextAlignment.h>
+#include <orvanta/text/String.h>
 
 /// What the library asks of a toolkit's controls. A port writes one adapter a control; the
 /// localized controls drive it, on the main thread alone.

@@ -10,19 +10,13 @@
 #include <vector>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/URL.h>
+#include <orvanta/strings/ByteSink.h>
+#include <orvanta/strings/ByteSource.h>
+#include <orvanta/text/Status.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/URL.h>
 
 namespace orvanta::platform {
-
-/// Why a file operation failed.
-struct FileError {
-  std::uint64_t code;           ///< The system's own number (errno where there is one).
-  String localizedDescription;  ///< For people.
-};
-
-/// The outcome of an operation that gives nothing back: absent when it succeeded.
-using FileOutcome = std::optional<FileError>;
 
 enum class ItemKind { missing, file, directory, symbolicLink, other };
 
@@ -38,12 +32,9 @@ struct FileStamp {
 };
 
 /// A file open for reading, from its start. Closed with the object.
-class ORVANTA_EXPORT ReadableFile {
+class ORVANTA_EXPORT ReadableFile : public strings::ByteSource {
  public:
-  virtual ~ReadableFile();
-  /// Fills `buffer` from where the last read ended. The number of bytes read, 0 at the end;
-  /// absent when reading failed.
-  [[nodiscard]] virtual std::optional<std::size_t> read(std::span<char> buffer) = 0;
+  ~ReadableFile() override;
 
  protected:
   ReadableFile() = default;
@@ -52,11 +43,9 @@ class ORVANTA_EXPORT ReadableFile {
 };
 
 /// A new file open for writing. Closed with the object; only `close` tells whether that worked.
-class ORVANTA_EXPORT WritableFile {
+class ORVANTA_EXPORT WritableFile : public strings::ByteSink {
  public:
-  virtual ~WritableFile();
-  /// Appends all of `bytes`, or fails having appended any part of them.
-  [[nodiscard]] virtual FileOutcome write(std::string_view bytes) = 0;
+  ~WritableFile() override;
   /// Succeeds once what was written would survive a loss of power.
   [[nodiscard]] virtual FileOutcome sync() = 0;
   [[nodiscard]] virtual FileOutcome close() = 0;

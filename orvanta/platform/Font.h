@@ -4,7 +4,7 @@
 #include <memory>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta::platform {
 

@@ -6,7 +6,7 @@
 
 #include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta::platform {
 

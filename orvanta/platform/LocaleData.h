@@ -4,8 +4,8 @@
 
 #include <orvanta/Export.h>
 #include <orvanta/platform/Calendar.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
 
 namespace orvanta::platform {
 

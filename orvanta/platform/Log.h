@@ -1,7 +1,7 @@
 #pragma once
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/String.h>
+#include <orvanta/text/String.h>
 
 namespace orvanta::platform {
 

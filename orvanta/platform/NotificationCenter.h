@@ -3,9 +3,9 @@
 #include <functional>
 
 #include <orvanta/Export.h>
-#include <orvanta/platform/Dictionary.h>
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
+#include <orvanta/text/Dictionary.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
 
 namespace orvanta::platform {
 

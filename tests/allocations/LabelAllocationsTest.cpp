@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <orvanta/controls/UILocalizedLabel.h>
-#include <orvanta/platform/standard/MemoryControls.h>
+#include <orvanta/standard/MemoryControls.h>
 
 #include "../support/LocalizedApplication.h"
 #include "CountingNew.h"
@@ -29,7 +29,7 @@ test::Strings stringsOf(const std::string& language) {
 std::vector<std::unique_ptr<UILocalizedLabel>> liveLabels(std::size_t count) {
   std::vector<std::unique_ptr<UILocalizedLabel>> labels;
   for (std::size_t i = 0; i < count; ++i) {
-    auto label = std::make_shared<platform::standard::MemoryLabel>();
+    auto label = std::make_shared<standard::MemoryLabel>();
     label->setText("screen.label." + std::to_string(i % kKeys));
     label->setAccessibilityHint("screen.label." + std::to_string((i + 1) % kKeys));
     label->setFont(platform::Platform::current().fonts->systemFontOfSize(

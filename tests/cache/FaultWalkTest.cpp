@@ -49,7 +49,7 @@ Walk walk(const Fault& fault) {
     const auto files = std::make_shared<ForwardingFileManager>(replacements.files);
     replacements.files = files;
     replacements.bundles = nullptr;
-    platform::Platform::install(platform::standard::makeStandardPlatform({}, replacements));
+    platform::Platform::install(standard::makeStandardPlatform({}, replacements));
 
     OVStringCache cache;
     cache.updateStrings(payloadOf({{"fr", kOld}}), "main", "app");

@@ -9,7 +9,6 @@
 namespace orvanta {
 namespace {
 
-using platform::URL;
 using test::TestApplication;
 using ::testing::UnorderedElementsAre;
 

@@ -47,7 +47,7 @@ TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
 TEST(StringsFile, IsSavedWhereItsURLSays) {
   TestApplication app;
   const auto file = app.caches() / "anywhere" / "x y.strings";
-  const auto url = platform::URL::fileURLWithPath(file.string(), false);
+  const auto url = URL::fileURLWithPath(file.string(), false);
   OVStringCacheUtilities::saveLanguageStringForLanguage("text", "not used", url);
   EXPECT_EQ(contentsOf(file), utf16("text"));
   OVStringCacheUtilities::saveLanguageStringForLanguage({}, "fr", url);
@@ -55,7 +55,7 @@ TEST(StringsFile, IsSavedWhereItsURLSays) {
   EXPECT_EQ(app.log,
             std::vector<std::string>({"file " + url.absoluteString().str() + " written to cache"}));
   OVStringCacheUtilities::saveLanguageStringForLanguage(
-      "text", "fr", platform::URL::URLWithString("https://host/x.strings"));
+      "text", "fr", URL::URLWithString("https://host/x.strings"));
   EXPECT_EQ(app.log.back(), "error saving strings file https://host/x.strings");
 }
 
@@ -165,7 +165,7 @@ TEST(CacheUpdate, FollowsTheFolderThatIsSet) {
   TestApplication app;
   const auto elsewhere = app.caches() / "elsewhere";
   OVStringCache cache;
-  cache.setCacheDirectoryURL(platform::URL::fileURLWithPath(elsewhere.string(), true));
+  cache.setCacheDirectoryURL(URL::fileURLWithPath(elsewhere.string(), true));
   cache.updateStrings(payloadOf({{"fr", {{"k", "v"}}}}), "main", "app");
   EXPECT_EQ(test::tablesBelow(elsewhere), 1U);
   EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
@@ -173,7 +173,7 @@ TEST(CacheUpdate, FollowsTheFolderThatIsSet) {
   std::filesystem::create_directories(app.caches() / "deep" / "inner");
   std::filesystem::create_directory_symlink("deep/inner", app.caches() / "link");
   const auto behindLink = app.caches() / "link" / ".." / "tables";
-  cache.setCacheDirectoryURL(platform::URL::fileURLWithPath(behindLink.string(), true));
+  cache.setCacheDirectoryURL(URL::fileURLWithPath(behindLink.string(), true));
   cache.updateStrings(payloadOf({{"de", {{"k", "v"}}}}), "main", "app");
   EXPECT_EQ(test::tablesBelow(app.caches() / "deep" / "tables"), 1U);
   EXPECT_EQ(cache.localizedStringForKey("k", "de"), "v");

@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include <orvanta/orvanta.h>
-#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 // Prints the text of one key of the bundle given, in the language given.
 int main(int argc, char** argv) {
@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   orvanta::platform::Platform::install(
-      orvanta::platform::standard::makeStandardPlatform({.mainBundlePath = argv[1]}));
+      orvanta::standard::makeStandardPlatform({.mainBundlePath = argv[1]}));
   orvanta::Localizer& localizer = orvanta::Localizer::sharedLocalizer();
   localizer.updatePreferredLocales({argv[2]}, nullptr);
   std::cout << OrvantaLocalizerVersionNumber << ' ' << localizer.localizedStringForKey(argv[3])

@@ -6,8 +6,8 @@
 namespace orvanta {
 namespace {
 
-using platform::standard::MemoryButton;
-using platform::standard::MemoryLabel;
+using standard::MemoryButton;
+using standard::MemoryLabel;
 using test::LocalizedApplication;
 
 TEST(LabelMadeInCode, HasItsFrameAndIsConfigured) {

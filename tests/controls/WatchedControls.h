@@ -5,7 +5,7 @@
 #include <string>
 
 #include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/MemoryControls.h>
+#include <orvanta/standard/MemoryControls.h>
 
 /// In-memory controls that write down, in order, what is read from them and what they are told.
 namespace orvanta::test {
@@ -107,9 +107,9 @@ class WatchedText : public WatchedStyle<WatchedAccessible<Watched<Base>>> {
   }
 };
 
-using WatchedLabel = WatchedText<platform::standard::MemoryLabel>;
+using WatchedLabel = WatchedText<standard::MemoryLabel>;
 
-class WatchedTextField : public WatchedText<platform::standard::MemoryTextField> {
+class WatchedTextField : public WatchedText<standard::MemoryTextField> {
  public:
   [[nodiscard]] String placeholder() const override {
     return diary->read("placeholder", MemoryTextField::placeholder());
@@ -120,7 +120,7 @@ class WatchedTextField : public WatchedText<platform::standard::MemoryTextField>
   }
 };
 
-class WatchedButton : public WatchedAccessible<Watched<platform::standard::MemoryButton>> {
+class WatchedButton : public WatchedAccessible<Watched<standard::MemoryButton>> {
  public:
   WatchedButton() { titleLabel_.diary = diary; }
 
@@ -139,7 +139,7 @@ class WatchedButton : public WatchedAccessible<Watched<platform::standard::Memor
   [[nodiscard]] platform::TextStyle& titleLabel() override { return titleLabel_; }
 
  private:
-  WatchedStyle<Watched<platform::standard::MemoryStyled<platform::TextStyle>>> titleLabel_;
+  WatchedStyle<Watched<standard::MemoryStyled<platform::TextStyle>>> titleLabel_;
 };
 
 }  // namespace orvanta::test

@@ -5,7 +5,7 @@
 
 #include <orvanta/fonts/ResourceFace.h>
 #include <orvanta/fonts/localizationUtilities.h>
-#include <orvanta/platform/standard/StandardFonts.h>
+#include <orvanta/standard/StandardFonts.h>
 
 #include "../support/LocalizedApplication.h"
 
@@ -37,7 +37,7 @@ class WatchedFonts final : public platform::FontSystem {
   std::vector<bool> registrations;  // Whether each one succeeded.
 
  private:
-  std::shared_ptr<platform::FontSystem> fonts_ = platform::standard::makeStandardFonts();
+  std::shared_ptr<platform::FontSystem> fonts_ = standard::makeStandardFonts();
 };
 
 platform::Platform platformWith(std::shared_ptr<platform::FontSystem> fonts) {

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <unicode/locid.h>
 
-#include <orvanta/platform/standard/LanguageDirections.h>
+#include <orvanta/standard/LanguageDirections.h>
 
-namespace orvanta::platform::standard {
+namespace orvanta::standard {
 namespace {
 
 // The releases of ICU and of CLDR, from which the table was taken, that belong together.
@@ -37,7 +37,7 @@ TEST(LanguageDirections, AreThoseOfIcu) {
   std::size_t rightToLeft = 0;
   forEachCode([&](const std::string& code) {
     const bool icu = icu::Locale::createCanonical(code.c_str()).isRightToLeft() != 0;
-    const bool ours = directionOfLanguage(code) == LanguageDirection::rightToLeft;
+    const bool ours = directionOfLanguage(code) == platform::LanguageDirection::rightToLeft;
     rightToLeft += ours ? 1U : 0U;
     if (icu != ours) {
       differing.insert(code);
@@ -49,4 +49,4 @@ TEST(LanguageDirections, AreThoseOfIcu) {
 }
 
 }  // namespace
-}  // namespace orvanta::platform::standard
+}  // namespace orvanta::standard

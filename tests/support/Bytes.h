@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include <orvanta/platform/Utf8.h>
+#include <orvanta/text/Utf8.h>
 
 namespace orvanta::test {
 

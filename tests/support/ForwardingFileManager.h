@@ -17,14 +17,12 @@ namespace orvanta::test {
 /// What becomes of one file operation.
 struct Fault {
   /// The operation fails so. One that has no outcome gives its absent or empty result.
-  std::optional<platform::FileError> failure;
+  std::optional<FileError> failure;
   /// A write passes on this many bytes before it fails.
   std::size_t bytesBeforeFailure = 0;
 
   static Fault none() { return {}; }
-  static Fault fail(int code) {
-    return {platform::FileError{static_cast<std::uint64_t>(code), "injected"}};
-  }
+  static Fault fail(int code) { return {FileError{static_cast<std::uint64_t>(code), "injected"}}; }
   static Fault cutShort(std::size_t bytes, int code) {
     Fault fault = fail(code);
     fault.bytesBeforeFailure = bytes;
@@ -45,8 +43,8 @@ class ForwardingFileManager final : public platform::FileManager {
   /// Holds for files that are open already, too.
   void setHook(Hook hook) { *hook_ = std::move(hook); }
 
-  platform::URL cachesDirectoryURL() override {
-    return ask("cachesDirectoryURL", {}).failure ? platform::URL() : target_->cachesDirectoryURL();
+  URL cachesDirectoryURL() override {
+    return ask("cachesDirectoryURL", {}).failure ? URL() : target_->cachesDirectoryURL();
   }
   bool fileExistsAtPath(const String& path) override {
     return !ask("fileExistsAtPath", path).failure && target_->fileExistsAtPath(path);
@@ -58,20 +56,20 @@ class ForwardingFileManager final : public platform::FileManager {
   std::optional<platform::FileStamp> stampOfFileAtPath(const String& path) override {
     return ask("stampOfFileAtPath", path).failure ? std::nullopt : target_->stampOfFileAtPath(path);
   }
-  platform::FileOutcome createDirectoryAtURL(const platform::URL& url) override {
+  FileOutcome createDirectoryAtURL(const URL& url) override {
     const Fault fault = ask("createDirectoryAtURL", url.absoluteString());
     return fault.failure ? fault.failure : target_->createDirectoryAtURL(url);
   }
-  platform::FileOutcome removeItemAtURL(const platform::URL& url) override {
+  FileOutcome removeItemAtURL(const URL& url) override {
     const Fault fault = ask("removeItemAtURL", url.absoluteString());
     return fault.failure ? fault.failure : target_->removeItemAtURL(url);
   }
-  std::vector<platform::URL> contentsOfDirectoryAtURL(const platform::URL& url) override {
+  std::vector<URL> contentsOfDirectoryAtURL(const URL& url) override {
     return ask("contentsOfDirectoryAtURL", url.absoluteString()).failure
-               ? std::vector<platform::URL>()
+               ? std::vector<URL>()
                : target_->contentsOfDirectoryAtURL(url);
   }
-  void enumerateDirectoryAtURL(const platform::URL& url, const EntryVisitor& visit) override {
+  void enumerateDirectoryAtURL(const URL& url, const EntryVisitor& visit) override {
     if (!ask("enumerateDirectoryAtURL", url.absoluteString()).failure) {
       target_->enumerateDirectoryAtURL(url, visit);
     }
@@ -94,15 +92,15 @@ class ForwardingFileManager final : public platform::FileManager {
     }
     return creation;
   }
-  platform::FileOutcome removeFileUnlessInUse(const String& path) override {
+  FileOutcome removeFileUnlessInUse(const String& path) override {
     const Fault fault = ask("removeFileUnlessInUse", path);
     return fault.failure ? fault.failure : target_->removeFileUnlessInUse(path);
   }
-  platform::FileOutcome moveItemReplacing(const String& from, const String& to) override {
+  FileOutcome moveItemReplacing(const String& from, const String& to) override {
     const Fault fault = ask("moveItemReplacing", to);
     return fault.failure ? fault.failure : target_->moveItemReplacing(from, to);
   }
-  platform::FileOutcome syncDirectory(const String& path) override {
+  FileOutcome syncDirectory(const String& path) override {
     const Fault fault = ask("syncDirectory", path);
     return fault.failure ? fault.failure : target_->syncDirectory(path);
   }
@@ -135,7 +133,7 @@ class ForwardingFileManager final : public platform::FileManager {
    public:
     Writing(std::unique_ptr<platform::WritableFile> target, SharedHook hook, String path)
         : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
-    platform::FileOutcome write(std::string_view bytes) override {
+    FileOutcome write(std::string_view bytes) override {
       const Fault fault = ask(hook_, "write", path_);
       if (!fault.failure) {
         return target_->write(bytes);
@@ -143,12 +141,12 @@ class ForwardingFileManager final : public platform::FileManager {
       const auto written = target_->write(bytes.substr(0, fault.bytesBeforeFailure));
       return written ? written : fault.failure;
     }
-    platform::FileOutcome sync() override {
+    FileOutcome sync() override {
       const Fault fault = ask(hook_, "sync", path_);
       return fault.failure ? fault.failure : target_->sync();
     }
     /// Closes even where it is told to fail, as the system does.
-    platform::FileOutcome close() override {
+    FileOutcome close() override {
       const Fault fault = ask(hook_, "close", path_);
       const auto closed = target_->close();
       return fault.failure ? fault.failure : closed;

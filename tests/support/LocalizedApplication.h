@@ -3,7 +3,7 @@
 #include <utility>
 
 #include <orvanta/locale/Localizer.h>
-#include <orvanta/platform/standard/StandardProcessInfo.h>
+#include <orvanta/standard/StandardProcessInfo.h>
 
 #include "TestApplication.h"
 

@@ -3,20 +3,20 @@
 #include <string>
 #include <string_view>
 
-#include <orvanta/cache/Utf16Writer.h>
 #include <orvanta/platform/FileManager.h>
+#include <orvanta/strings/writer/Utf16Writer.h>
 
 namespace orvanta::test {
 
 /// A file that keeps in memory what is written.
 class MemoryFile final : public platform::WritableFile {
  public:
-  platform::FileOutcome write(std::string_view written) override {
+  FileOutcome write(std::string_view written) override {
     bytes += written;
     return {};
   }
-  platform::FileOutcome sync() override { return {}; }
-  platform::FileOutcome close() override { return {}; }
+  FileOutcome sync() override { return {}; }
+  FileOutcome close() override { return {}; }
 
   std::string bytes;
 };
@@ -24,7 +24,7 @@ class MemoryFile final : public platform::WritableFile {
 /// What a file of this text holds; empty when the text cannot be written.
 inline std::string writtenAsUtf16(std::string_view utf8) {
   MemoryFile file;
-  Utf16Writer writer(file);
+  strings::Utf16Writer writer(file);
   writer.append(utf8);
   return writer.finish() ? "" : file.bytes;
 }

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include <orvanta/platform/Platform.h>
-#include <orvanta/platform/standard/RunLoop.h>
-#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/standard/RunLoop.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 namespace orvanta::test {
 
@@ -69,18 +69,17 @@ class TestApplication {
     for (const auto& [language, strings] : shipped) {
       ship(language, strings);
     }
-    platform::standard::StandardOptions options;
+    standard::StandardOptions options;
     options.mainBundlePath = bundle();
     options.cachesPath = caches();
     options.deviceLanguages = std::move(deviceLanguages);
     options.systemVersion = platform::OperatingSystemVersion{9, 0, 0};
     options.logSink = [this](std::string_view line) { log.emplace_back(line); };
-    loop = platform::standard::RunLoop::make();
+    loop = standard::RunLoop::make();
     if (replacements.mainQueue == nullptr) {
       replacements.mainQueue = loop;
     }
-    platform::Platform::install(
-        platform::standard::makeStandardPlatform(options, std::move(replacements)));
+    platform::Platform::install(standard::makeStandardPlatform(options, std::move(replacements)));
   }
 
   [[nodiscard]] std::filesystem::path bundle() const { return scratch_.path() / "App"; }
@@ -97,7 +96,7 @@ class TestApplication {
   }
 
   std::vector<std::string> log;
-  std::shared_ptr<platform::standard::RunLoop> loop;
+  std::shared_ptr<standard::RunLoop> loop;
 
  private:
   ScratchFolder scratch_;

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include <orvanta/cache/StringsPayload.h>
+#include <orvanta/text/StringsPayload.h>
 
 namespace orvanta::test {
 

@@ -15,7 +15,7 @@ using test::LocalizedApplication;
 
 platform::Platform withSystem(const OperatingSystemVersion& version) {
   platform::Platform platform;
-  platform.processInfo = platform::standard::makeProcessInfo(version);
+  platform.processInfo = standard::makeProcessInfo(version);
   return platform;
 }
 

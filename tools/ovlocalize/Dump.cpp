@@ -1,7 +1,7 @@
 #include <iostream>
 #include <vector>
 
-#include <orvanta/platform/standard/strings/StringTableReader.h>
+#include <orvanta/strings/reader/StringTableReader.h>
 
 #include "Answering.h"
 #include "Commands.h"
@@ -12,8 +12,8 @@ namespace ovlocalize {
 
 namespace {
 
-using orvanta::platform::StringTable;
-using orvanta::platform::standard::TableProblem;
+using orvanta::strings::StringTable;
+using orvanta::strings::TableProblem;
 
 std::string fileOf(const Settings& settings, const Source& source) {
   if (source.language.empty()) {
@@ -76,7 +76,7 @@ void printForPeople(const StringTable& table) {
 int dump(const Settings& settings, const Source& source) {
   const std::string file = fileOf(settings, source);
   std::vector<TableProblem> problems;
-  const auto table = orvanta::platform::standard::readStringTable(
+  const auto table = orvanta::strings::readStringTable(
       contentsOf(file), [&](const TableProblem& problem) { problems.push_back(problem); });
   if (table == nullptr) {
     throw Failure(nameOf(file) + " holds nothing like a table of strings");

@@ -2,8 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include <orvanta/platform/String.h>
-#include <orvanta/platform/StringList.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/StringList.h>
 
 namespace ovlocalize {
 

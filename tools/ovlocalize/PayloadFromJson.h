@@ -1,6 +1,6 @@
 #pragma once
 
-#include <orvanta/cache/StringsPayload.h>
+#include <orvanta/text/StringsPayload.h>
 
 #include "Json.h"
 

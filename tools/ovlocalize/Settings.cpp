@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include <orvanta/platform/standard/StandardPlatform.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 namespace ovlocalize {
 
@@ -11,12 +11,12 @@ void installPlatform(const Settings& settings) {
   if (!settings.bundle.empty() && !std::filesystem::is_directory(settings.bundle, ignored)) {
     throw Failure("no such bundle folder: " + settings.bundle);
   }
-  orvanta::platform::standard::StandardOptions options;
+  orvanta::standard::StandardOptions options;
   options.mainBundlePath = settings.bundle;
   options.cachesPath = settings.cache;
   options.deviceLanguages = settings.devices;
   options.logSink = settings.logSink;
-  orvanta::platform::Platform::install(orvanta::platform::standard::makeStandardPlatform(options));
+  orvanta::platform::Platform::install(orvanta::standard::makeStandardPlatform(options));
 }
 
 }  // namespace ovlocalize

@@ -1,0 +1,28 @@
+#include <utility>
+
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/platform/Platform.h>
+#include <orvanta/qt/LanguageChangeObserver.h>
+
+namespace orvanta::qt {
+
+LanguageChangeObserver::LanguageChangeObserver(std::function<void()> step)
+    : step_(std::make_shared<std::function<void()>>(std::move(step))) {
+  platform::Platform::current().notifications->addObserver(
+      this, String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
+      [held = step_](const platform::Notification&) {
+        platform::Platform::current().mainQueue->performOnMainThreadAndWait([&held] {
+          // A copy: the step may end its own observer.
+          if (const std::function<void()> current = *held) {
+            current();
+          }
+        });
+      });
+}
+
+LanguageChangeObserver::~LanguageChangeObserver() {
+  platform::Platform::current().notifications->removeObserver(this);
+  *step_ = nullptr;
+}
+
+}  // namespace orvanta::qt

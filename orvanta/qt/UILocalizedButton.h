@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QPushButton>
+#include <map>
+#include <memory>
+
+#include <orvanta/controls/UILocalizedButton.h>
+#include <orvanta/qt/Export.h>
+#include <orvanta/qt/LocalizedWidget.h>
+
+namespace orvanta::qt {
+
+class ButtonAdapter;
+
+/// A QPushButton that localizes itself: the text typed into it in a layout is a key, and its
+/// accessible name and description are keys too.
+///
+/// It has a title for each state. A button that is in several at once shows the title of the first
+/// of: disabled, highlighted (held down), selected (checked), focused. `text` is the normal title.
+/// It is wide enough for every title.
+///
+/// Nothing happens before `awakeFromNib`, which form loaders call, or `configure`, for a button
+/// made in code.
+class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public LocalizedWidget {
+  Q_OBJECT
+  /// Where the title stands; in the centre unless a layout says otherwise.
+  Q_PROPERTY(Qt::Alignment titleAlignment READ titleAlignment WRITE setTitleAlignment)
+
+ public:
+  explicit UILocalizedButton(QWidget* parent = nullptr);
+  ~UILocalizedButton() override;
+
+  /// For a button made in code, once it has its title.
+  void configure();
+
+  [[nodiscard]] QString titleForState(platform::ControlState state) const;
+  void setTitle(const QString& title, platform::ControlState state);
+
+  [[nodiscard]] Qt::Alignment titleAlignment() const { return titleAlignment_; }
+  void setTitleAlignment(Qt::Alignment alignment);
+
+  /// The rules that this button follows, and what it remembers. Lives as long as the button.
+  [[nodiscard]] orvanta::UILocalizedButton& control() const { return *control_; }
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void awake() override;
+  void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void initStyleOption(QStyleOptionButton* option) const override;
+
+ private:
+  [[nodiscard]] platform::ControlState shownState() const;
+
+  // Those of the other states than the normal one, written as Qt writes titles.
+  std::map<platform::ControlState, QString> titles_;
+  Qt::Alignment titleAlignment_ = Qt::AlignCenter;
+  std::shared_ptr<ButtonAdapter> adapter_;
+  std::unique_ptr<orvanta::UILocalizedButton> control_;
+};
+
+}  // namespace orvanta::qt

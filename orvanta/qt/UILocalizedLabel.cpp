@@ -1,0 +1,71 @@
+#include <QEvent>
+
+#include <orvanta/qt/UILocalizedLabel.h>
+#include <orvanta/qt/WidgetAdapter.h>
+
+namespace orvanta::qt {
+
+class LabelAdapter final
+    : public StyleAdapter<AccessibleAdapter<AdapterOf<platform::Label, QLabel>>, &QLabel::alignment,
+                          &QLabel::setAlignment> {
+ public:
+  using StyleAdapter::StyleAdapter;
+
+  String text() const override {
+    const QString text = widget().text();
+    return fromQString(marksMnemonics() ? fromMnemonics(text) : text);
+  }
+  void setText(const String& text) override {
+    widget().setText(marksMnemonics() ? withoutMnemonics(toQString(text)) : toQString(text));
+  }
+
+ private:
+  // A label reads "&" as a mark only where it leads to another widget.
+  bool marksMnemonics() const { return widget().buddy() != nullptr; }
+};
+
+UILocalizedLabel::UILocalizedLabel(QWidget* parent)
+    : QLabel(parent),
+      adapter_(std::make_shared<LabelAdapter>(*this)),
+      control_(std::make_unique<orvanta::UILocalizedLabel>(adapter_)) {
+  setTextFormat(Qt::PlainText);
+}
+
+UILocalizedLabel::~UILocalizedLabel() = default;
+
+UILocalizedLabel* UILocalizedLabel::initLocalizedWithFrame(const QRect& frame, QWidget* parent,
+                                                           const QString& key) {
+  auto* label = new UILocalizedLabel(parent);
+  label->setAwake();
+  label->control_ = orvanta::UILocalizedLabel::initLocalizedWithFrame(
+      {double(frame.x()), double(frame.y()), double(frame.width()), double(frame.height())},
+      [&](const platform::Rect&) {
+        label->setGeometry(frame);
+        label->setText(key);
+        return label->adapter_;
+      });
+  return label;
+}
+
+void UILocalizedLabel::awake() {
+  control_->awakeFromNib();
+}
+
+QSize UILocalizedLabel::sizeHint() const {
+  const std::optional<QSize> hint = plainTextSize_.hintFor(*this);
+  return hint ? *hint : QLabel::sizeHint();
+}
+
+QSize UILocalizedLabel::minimumSizeHint() const {
+  const std::optional<QSize> hint = plainTextSize_.hintFor(*this);
+  return hint ? *hint : QLabel::minimumSizeHint();
+}
+
+void UILocalizedLabel::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::LayoutDirectionChange) {
+    adapter_->renewSides();
+  }
+}
+
+}  // namespace orvanta::qt

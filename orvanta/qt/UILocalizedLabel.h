@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QLabel>
+#include <QRect>
+#include <memory>
+
+#include <orvanta/controls/UILocalizedLabel.h>
+#include <orvanta/qt/Export.h>
+#include <orvanta/qt/LocalizedWidget.h>
+#include <orvanta/qt/PlainTextSize.h>
+
+namespace orvanta::qt {
+
+class LabelAdapter;
+
+/// A QLabel that localizes itself: the text typed into it in a layout is a key, and its accessible
+/// name and description are keys too.
+///
+/// It shows plain text unless the layout says otherwise. Nothing happens before `awakeFromNib`,
+/// which form loaders call.
+class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget {
+  Q_OBJECT
+
+ public:
+  explicit UILocalizedLabel(QWidget* parent = nullptr);
+  ~UILocalizedLabel() override;
+
+  /// A label made in code, awake already; `key` may be null.
+  [[nodiscard]] static UILocalizedLabel* initLocalizedWithFrame(const QRect& frame,
+                                                                QWidget* parent = nullptr,
+                                                                const QString& key = {});
+
+  /// The rules that this label follows, and what it remembers. Lives as long as the label.
+  [[nodiscard]] orvanta::UILocalizedLabel& control() const { return *control_; }
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void awake() override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  std::shared_ptr<LabelAdapter> adapter_;
+  std::unique_ptr<orvanta::UILocalizedLabel> control_;
+  mutable PlainTextSize plainTextSize_;
+};
+
+}  // namespace orvanta::qt

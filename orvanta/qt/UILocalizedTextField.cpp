@@ -1,0 +1,40 @@
+#include <QEvent>
+
+#include <orvanta/qt/UILocalizedTextField.h>
+#include <orvanta/qt/WidgetAdapter.h>
+
+namespace orvanta::qt {
+
+class TextFieldAdapter final
+    : public StyleAdapter<AccessibleAdapter<AdapterOf<platform::TextField, QLineEdit>>,
+                          &QLineEdit::alignment, &QLineEdit::setAlignment> {
+ public:
+  using StyleAdapter::StyleAdapter;
+
+  String text() const override { return fromQString(widget().text()); }
+  void setText(const String& text) override { widget().setText(toQString(text)); }
+  String placeholder() const override { return fromQString(widget().placeholderText()); }
+  void setPlaceholder(const String& placeholder) override {
+    widget().setPlaceholderText(toQString(placeholder));
+  }
+};
+
+UILocalizedTextField::UILocalizedTextField(QWidget* parent)
+    : QLineEdit(parent),
+      adapter_(std::make_shared<TextFieldAdapter>(*this)),
+      control_(std::make_unique<orvanta::UILocalizedTextField>(adapter_)) {}
+
+UILocalizedTextField::~UILocalizedTextField() = default;
+
+void UILocalizedTextField::awake() {
+  control_->awakeFromNib();
+}
+
+void UILocalizedTextField::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::LayoutDirectionChange) {
+    adapter_->renewSides();
+  }
+}
+
+}  // namespace orvanta::qt

@@ -1,0 +1,58 @@
+#include <QLocale>
+#include <QOperatingSystemVersion>
+#include <QSysInfo>
+#include <QVersionNumber>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <orvanta/qt/platform/QtFonts.h>
+#include <orvanta/qt/platform/QtMainQueue.h>
+#include <orvanta/qt/platform/QtPlatform.h>
+
+namespace orvanta::qt {
+
+namespace {
+
+// Where Qt knows no version of the system itself, as on Linux, the kernel's.
+platform::OperatingSystemVersion systemVersion() {
+  const QOperatingSystemVersion system = QOperatingSystemVersion::current();
+  const QVersionNumber version = system.majorVersion() >= 0
+                                     ? system.version()
+                                     : QVersionNumber::fromString(QSysInfo::kernelVersion());
+  return {version.majorVersion(), version.minorVersion(), version.microVersion()};
+}
+
+// The locales C and POSIX name no language.
+std::vector<std::string> deviceLanguages() {
+  QStringList languages = QLocale::system().uiLanguages();
+  languages.removeAll(QStringLiteral("C"));
+  languages.removeAll(QStringLiteral("POSIX"));
+  languages.removeDuplicates();
+  std::vector<std::string> names;
+  for (const QString& language : languages) {
+    names.push_back(language.toStdString());
+  }
+  return names;
+}
+
+}  // namespace
+
+platform::Platform makeQtPlatform(standard::StandardOptions options,
+                                  platform::Platform replacements) {
+  if (!options.deviceLanguages) {
+    options.deviceLanguages = deviceLanguages();
+  }
+  if (!options.systemVersion) {
+    options.systemVersion = systemVersion();
+  }
+  if (replacements.fonts == nullptr) {
+    replacements.fonts = makeQtFonts();
+  }
+  if (replacements.mainQueue == nullptr) {
+    replacements.mainQueue = makeQtMainQueue();
+  }
+  return standard::makeStandardPlatform(options, std::move(replacements));
+}
+
+}  // namespace orvanta::qt

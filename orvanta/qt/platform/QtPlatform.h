@@ -1,0 +1,18 @@
+#pragma once
+
+#include <orvanta/platform/Platform.h>
+#include <orvanta/qt/Export.h>
+#include <orvanta/standard/StandardPlatform.h>
+
+namespace orvanta::qt {
+
+/// The standard platform with what Qt knows better: fonts, a main queue on Qt's event loop, the
+/// system's version, and the device's languages where the options do not name them. Members that
+/// are present in `replacements` are taken instead.
+///
+/// To be called on the thread of the application object, which may be made before or after. Fonts
+/// need it.
+[[nodiscard]] ORVANTA_QT_EXPORT platform::Platform makeQtPlatform(
+    standard::StandardOptions options = {}, platform::Platform replacements = {});
+
+}  // namespace orvanta::qt

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/text/String.h>
+#include <orvanta/text/TextHash.h>
+
+namespace orvanta::strings {
+
+class StringTableBuilder;
+
+/// One language's texts under their keys, read once and never changed.
+///
+/// Layout: all keys and values stand in one arena, each entry a record
+///
+///     key length (4 bytes) | value length (4 bytes) | key | value
+///
+/// so that the bytes a lookup compares and the text it hands out lie side by side. Behind them
+/// stands the index, an array of 8-byte slots, at most a third of them used, or half in a large
+/// table, probed one after the other; a slot holds the high half of the key's hash and where the
+/// record stands. A text that is handed out shares the arena: it stays valid when the table goes.
+///
+/// Reading one table from several threads is safe.
+class ORVANTA_EXPORT StringTable {
+ public:
+  struct Entry {
+    std::string_view key;
+    std::string_view value;
+  };
+
+  /// An empty table.
+  StringTable() = default;
+
+  /// The text under `key`, absent when there is none. Never allocates.
+  [[nodiscard]] String textForKey(const HashedKey& key) const noexcept {
+    const std::string_view text = find(key);
+    return text.data() == nullptr ? String() : handleTo(text);
+  }
+
+  /// The same as a view, its data null when there is none, and the handle to what was found: for
+  /// callers who look on elsewhere and make one handle in the end.
+  [[nodiscard]] std::string_view find(const HashedKey& key) const noexcept;
+  [[nodiscard]] String handleTo(std::string_view found) const noexcept {
+    return arena_.part(found);
+  }
+
+  [[nodiscard]] std::size_t size() const noexcept { return size_; }
+
+  /// The entries in the order of the statements that hold. The views live as long as the table.
+  [[nodiscard]] std::vector<Entry> entries() const;
+
+  /// Bytes of heap that the table holds on to.
+  [[nodiscard]] std::size_t heapBytes() const noexcept;
+
+ private:
+  friend class StringTableBuilder;
+
+  using Slot = std::uint64_t;
+
+  static constexpr std::size_t kHeader = 2 * sizeof(std::uint32_t);
+  static constexpr Slot kFree = std::numeric_limits<Slot>::max();
+  static constexpr Slot kHashMask = 0xFFFFFFFF00000000;
+
+  // How a slot tells where its record stands.
+  static std::size_t offsetIn(Slot slot) noexcept { return slot & ~kHashMask; }
+  static bool mayHoldSameKey(Slot slot, std::uint64_t hash) noexcept {
+    return ((slot ^ hash) & kHashMask) == 0;
+  }
+
+  // Where the record of a key belongs, in an index of any number of slots. Spreads the half of the
+  // hash that a slot stores: neighbours agree in its upper bits, the lower ones still tell all but
+  // a few in a million apart.
+  static std::size_t homeSlot(std::uint64_t hash, std::uint32_t slotCount) noexcept {
+    return static_cast<std::size_t>(((hash >> 32) * slotCount) >> 32);
+  }
+
+  [[nodiscard]] std::size_t slotBehind(std::size_t at) const noexcept {
+    return at + 1 == slotCount_ ? 0 : at + 1;
+  }
+
+  // Looks on behind a slot with the key's hash and another key.
+  [[nodiscard]] std::string_view findBehind(std::size_t at, const HashedKey& key) const noexcept;
+
+  [[nodiscard]] Entry entryAt(std::size_t offset) const noexcept {
+    const char* const record = arena_.view().data() + offset;
+    std::uint32_t lengths[2];
+    std::memcpy(lengths, record, kHeader);
+    return {{record + kHeader, lengths[0]}, {record + kHeader + lengths[0], lengths[1]}};
+  }
+
+  static constexpr Slot kEmptyIndex[1] = {kFree};
+
+  String arena_;
+  const Slot* index_ = kEmptyIndex;
+  std::uint32_t slotCount_ = 1;
+  std::size_t size_ = 0;
+};
+
+// Here, because it is what a look-up consists of: without a call for each of its steps it takes
+// half the time. A slot that has the key's hash has the key, all but always.
+inline std::string_view StringTable::find(const HashedKey& key) const noexcept {
+  std::size_t at = homeSlot(key.hash, slotCount_);
+  const Slot* const index = index_;
+  for (;;) {
+    if (index[at] == kFree) {
+      return {};
+    }
+    if (mayHoldSameKey(index[at], key.hash)) [[likely]] {
+      break;
+    }
+    at = slotBehind(at);
+  }
+  const auto [candidate, text] = entryAt(offsetIn(index[at]));
+  // By the length of the key, which is known, not that of the candidate, which has to come from
+  // memory first: `memcmp` branches on it.
+  const bool isSame = candidate.size() == key.text.size() &&
+                      std::memcmp(candidate.data(), key.text.data(), key.text.size()) == 0;
+  return isSame ? text : findBehind(at, key);
+}
+
+}  // namespace orvanta::strings

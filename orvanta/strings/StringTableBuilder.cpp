@@ -1,0 +1,97 @@
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <orvanta/strings/StringTableBuilder.h>
+#include <orvanta/text/Memory.h>
+
+namespace orvanta::strings {
+
+StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
+  // Short entries leave room to spare, of which nothing is touched.
+  constexpr std::size_t kShortEntry = 64;
+  records_.reserve(expectedBytes / kShortEntry);
+  static_cast<void>(reserve(expectedBytes));
+}
+
+StringTableBuilder::~StringTableBuilder() {
+  std::free(arena_);
+}
+
+bool StringTableBuilder::reserve(std::size_t more) {
+  if (more > kLargestArena - used_) {
+    return false;
+  }
+  if (used_ + more > capacity_) {
+    const std::size_t wanted = std::min(std::max(used_ + more, 2 * capacity_), kLargestArena);
+    char* larger = arena_ == nullptr ? allocateBytes(wanted)
+                                     : static_cast<char*>(std::realloc(arena_, wanted));
+    if (larger == nullptr) {
+      return false;
+    }
+    arena_ = larger;
+    capacity_ = wanted;
+  }
+  return true;
+}
+
+bool StringTableBuilder::add(std::string_view key, std::string_view value) {
+  if (key.size() > kLargestArena || value.size() > kLargestArena) {
+    return false;
+  }
+  char* start = beginEntry(key.size() + value.size());
+  if (start == nullptr) {
+    return false;
+  }
+  std::copy(key.begin(), key.end(), start);
+  std::copy(value.begin(), value.end(), start + key.size());
+  commitEntry(key.size(), value.size());
+  return true;
+}
+
+std::shared_ptr<const StringTable> StringTableBuilder::build() {
+  auto table = std::make_shared<StringTable>();
+  if (records_.empty()) {
+    return table;
+  }
+  // Misses are the faster the emptier an index is, but one that passes the caches had better be
+  // small.
+  const std::size_t slotsForEach = records_.size() < 50'000 ? 3 : 2;
+  const std::size_t count = std::min<std::size_t>(slotsForEach * records_.size(),
+                                                  std::numeric_limits<std::uint32_t>::max());
+  const std::size_t start = (used_ + sizeof(Slot) - 1) / sizeof(Slot) * sizeof(Slot);
+  void* const whole = std::realloc(arena_, start + count * sizeof(Slot));
+  if (whole == nullptr) {
+    return nullptr;
+  }
+  arena_ = static_cast<char*>(whole);
+  table->arena_ = String::takingOver(arena_, start + count * sizeof(Slot));
+  auto* const index = reinterpret_cast<Slot*>(arena_ + start);
+  arena_ = nullptr;
+  used_ = 0;
+  capacity_ = 0;
+  std::uninitialized_fill_n(index, count, StringTable::kFree);
+  table->index_ = index;
+  table->slotCount_ = static_cast<std::uint32_t>(count);
+  fillIndex(*table, {index, count}, std::exchange(records_, {}));
+  return table;
+}
+
+void StringTableBuilder::fillIndex(StringTable& table, std::span<Slot> index,
+                                   std::span<const Slot> records) {
+  const auto keyOf = [&](Slot slot) { return table.entryAt(StringTable::offsetIn(slot)).key; };
+  const auto haveOneKey = [&](Slot a, Slot b) {
+    return StringTable::mayHoldSameKey(a, b) && keyOf(a) == keyOf(b);
+  };
+  for (const Slot record : records) {
+    std::size_t at = StringTable::homeSlot(record, table.slotCount_);
+    while (index[at] != StringTable::kFree && !haveOneKey(index[at], record)) {
+      at = table.slotBehind(at);
+    }
+    table.size_ += index[at] == StringTable::kFree ? 1 : 0;
+    index[at] = record;
+  }
+}
+
+}  // namespace orvanta::strings

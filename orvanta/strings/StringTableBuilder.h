@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include <orvanta/Export.h>
+#include <orvanta/strings/StringTable.h>
+#include <orvanta/text/TextHash.h>
+
+namespace orvanta::strings {
+
+/// Fills a table. Of a key that is added twice the last value holds.
+class ORVANTA_EXPORT StringTableBuilder {
+ public:
+  /// `expectedBytes` is a guess at the sum of all keys and values; too little costs a copy.
+  explicit StringTableBuilder(std::size_t expectedBytes = 0);
+  ~StringTableBuilder();
+  StringTableBuilder(const StringTableBuilder&) = delete;
+  StringTableBuilder& operator=(const StringTableBuilder&) = delete;
+
+  /// Adds an entry, or gives false where the table would pass 4 GiB.
+  bool add(std::string_view key, std::string_view value);
+
+  /// Room for one entry, into which the caller writes the key and right behind it the value, at
+  /// most `bytes` together. Absent where the table would pass 4 GiB. What was written counts only
+  /// with `commitEntry`; any other call takes the room back.
+  [[nodiscard]] char* beginEntry(std::size_t bytes) {
+    if (bytes > capacity_ - used_ || kHeader > capacity_ - used_ - bytes) {
+      if (bytes > kLargestArena - kHeader || !reserve(kHeader + bytes)) {
+        return nullptr;
+      }
+    }
+    return arena_ + used_ + kHeader;
+  }
+  void commitEntry(std::size_t keySize, std::size_t valueSize) {
+    const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
+                                      static_cast<std::uint32_t>(valueSize)};
+    char* start = arena_ + used_;
+    std::memcpy(start, lengths, kHeader);
+    records_.push_back((textHash({start + kHeader, keySize}) & StringTable::kHashMask) | used_);
+    used_ += kHeader + keySize + valueSize;
+  }
+
+  /// The table, null when there is no memory for its index; the builder is empty afterwards.
+  [[nodiscard]] std::shared_ptr<const StringTable> build();
+
+ private:
+  static constexpr std::size_t kHeader = StringTable::kHeader;
+  static constexpr std::size_t kLargestArena = std::numeric_limits<std::uint32_t>::max();
+
+  using Slot = StringTable::Slot;
+
+  [[nodiscard]] bool reserve(std::size_t more);
+  static void fillIndex(StringTable& table, std::span<Slot> index, std::span<const Slot> records);
+
+  char* arena_ = nullptr;
+  std::size_t used_ = 0;
+  std::size_t capacity_ = 0;
+  std::vector<Slot> records_;  // In the order of adding.
+};
+
+}  // namespace orvanta::strings

@@ -1,0 +1,227 @@
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+#include <orvanta/strings/encoding/Utf16ToUtf8.h>
+
+// This is where a downloaded table's loading time is spent: such tables are UTF-16, mostly ASCII
+// keys and values in the reader's own script. Sixteen units at a time are looked at and take one of
+// three ways, none of which branches on single characters.
+
+namespace orvanta::strings {
+
+namespace {
+
+constexpr std::size_t kBlock = 16;
+constexpr char32_t kReplacement = 0xFFFD;
+
+// The UTF-8 of the units below U+0800: the bytes, of the first the lowest, and above them, from
+// bit 24 on, their number.
+constexpr std::array<std::uint32_t, 0x800> makePairs() {
+  std::array<std::uint32_t, 0x800> pairs = {};
+  for (std::uint32_t unit = 0; unit < pairs.size(); ++unit) {
+    pairs[unit] = unit < 0x80 ? unit | (1U << 24)
+                              : (0xC0 | (unit >> 6)) | ((0x80 | (unit & 0x3F)) << 8) | (2U << 24);
+  }
+  return pairs;
+}
+
+constexpr std::array<std::uint32_t, 0x800> kPairs = makePairs();
+
+// What all units with the same upper ten bits have in common in UTF-8, where a character's last
+// byte holds the lower six.
+struct Form {
+  std::uint32_t bytes;  // Of the first byte the lowest, with nothing for the lower six bits.
+  std::uint8_t shift;   // To where the lower six bits belong.
+  std::uint8_t length;
+};
+
+constexpr std::uint32_t kSurrogate = 0x80000000;  // In place of bytes: half a character.
+
+constexpr std::array<Form, 1024> makeForms() {
+  std::array<Form, 1024> forms = {};
+  for (std::uint32_t upper = 0; upper < forms.size(); ++upper) {
+    if (upper < (0x80 >> 6)) {
+      forms[upper] = {upper << 6, 0, 1};
+    } else if (upper < (0x800 >> 6)) {
+      forms[upper] = {0x80C0 | upper, 8, 2};
+    } else if (upper >= (0xD800 >> 6) && upper < (0xE000 >> 6)) {
+      forms[upper] = {kSurrogate, 0, 0};
+    } else {
+      forms[upper] = {0x8080E0 | (upper >> 6) | ((upper & 0x3F) << 8), 16, 3};
+    }
+  }
+  return forms;
+}
+
+constexpr std::array<Form, 1024> kForms = makeForms();
+
+template <std::endian kOrder>
+std::uint16_t unitAt(const char* in) noexcept {
+  std::uint16_t unit = 0;
+  std::memcpy(&unit, in, sizeof unit);
+  if constexpr (kOrder != std::endian::native) {
+    unit = static_cast<std::uint16_t>((unit << 8) | (unit >> 8));
+  }
+  return unit;
+}
+
+// A mask that four units, loaded at once, are to be tested with.
+template <std::endian kOrder>
+constexpr std::uint64_t fourTimes(std::uint16_t mask) {
+  const unsigned wide = mask;
+  const unsigned inOrder =
+      kOrder == std::endian::native ? wide : ((wide << 8) | (wide >> 8)) & 0xFFFFU;
+  return 0x0001000100010001U * std::uint64_t{inOrder};
+}
+
+std::uint64_t fourUnitsAt(const char* in) noexcept {
+  std::uint64_t units = 0;
+  std::memcpy(&units, in, sizeof units);
+  return units;
+}
+
+std::uint64_t anyOfBlock(const char* in) noexcept {
+  std::uint64_t any = 0;
+  for (std::size_t index = 0; index < kBlock; index += 4) {
+    any |= fourUnitsAt(in + 2 * index);
+  }
+  return any;
+}
+
+template <std::endian kOrder>
+void narrowBlock(const char* in, char* out) noexcept {
+  std::array<std::uint16_t, kBlock> units = {};
+  std::memcpy(units.data(), in, sizeof units);
+  std::array<char, kBlock> bytes = {};
+  for (std::size_t index = 0; index < kBlock; ++index) {
+    bytes[index] =
+        static_cast<char>(kOrder == std::endian::native ? units[index] : units[index] >> 8);
+  }
+  std::memcpy(out, bytes.data(), sizeof bytes);
+}
+
+void store(char* out, std::uint32_t firstByteLowest) noexcept {
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(out, &firstByteLowest, sizeof firstByteLowest);
+  } else {
+    for (unsigned index = 0; index < sizeof firstByteLowest; ++index) {
+      out[index] = static_cast<char>(firstByteLowest >> (8 * index));
+    }
+  }
+}
+
+// Writes four bytes, of which the length that the form gives are meant.
+void put(const Form& form, std::uint32_t unit, char* out) noexcept {
+  store(out, form.bytes | ((unit & 0x3F) << form.shift));
+}
+
+char* putBasic(std::uint32_t unit, char* out) noexcept {
+  const Form& form = kForms[unit >> 6];
+  put(form, unit, out);
+  return out + form.length;
+}
+
+char* putBeyondBasic(std::uint32_t high, std::uint32_t low, char* out) noexcept {
+  const std::uint32_t codePoint = 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+  store(out, (0xF0 | (codePoint >> 18)) | ((0x80 | ((codePoint >> 12) & 0x3F)) << 8) |
+                 ((0x80 | ((codePoint >> 6) & 0x3F)) << 16) | ((0x80 | (codePoint & 0x3F)) << 24));
+  return out + 4;
+}
+
+template <std::endian kOrder>
+Transcoded putCharacter(const char* in, const char* inEnd, char* out) noexcept {
+  const std::uint32_t unit = unitAt<kOrder>(in);
+  if ((unit & 0xF800) != 0xD800) {
+    return {in + 2, putBasic(unit, out)};
+  }
+  if (unit < 0xDC00 && inEnd - in >= 4) {
+    const std::uint32_t low = unitAt<kOrder>(in + 2);
+    if ((low & 0xFC00) == 0xDC00) {
+      return {in + 4, putBeyondBasic(unit, low, out)};
+    }
+  }
+  return {in + 2, putBasic(kReplacement, out)};
+}
+
+template <std::endian kOrder>
+char* putBlockBelow800(const char* in, char* out) noexcept {
+  for (std::size_t index = 0; index < kBlock; ++index) {
+    const std::uint32_t pair = kPairs[unitAt<kOrder>(in + 2 * index)];
+    store(out, pair);
+    out += pair >> 24;
+  }
+  return out;
+}
+
+// Null when there is a surrogate among them.
+template <std::endian kOrder, std::size_t kUnits = kBlock>
+char* putBlock(const char* in, char* out) noexcept {
+  std::uint32_t seen = 0;
+  for (std::size_t index = 0; index < kUnits; ++index) {
+    const std::uint32_t unit = unitAt<kOrder>(in + 2 * index);
+    const Form& form = kForms[unit >> 6];
+    put(form, unit, out);
+    out += form.length;
+    seen |= form.bytes;
+  }
+  return (seen & kSurrogate) == 0 ? out : nullptr;
+}
+
+// The block, and one unit more where it ends within a pair of surrogates.
+template <std::endian kOrder>
+Transcoded putBlockWithSurrogates(const char* in, const char* inEnd, char* out) noexcept {
+  const char* blockEnd = in + 2 * kBlock;
+  Transcoded at = {in, out};
+  while (at.in < blockEnd) {
+    at = putCharacter<kOrder>(at.in, inEnd, at.out);
+  }
+  return at;
+}
+
+template <std::endian kOrder>
+Transcoded transcode(const char* in, const char* inEnd, char* begin, const char* outEnd) noexcept {
+  Transcoded at = {in, begin};
+  const auto hasRoom = [&] { return outEnd - at.out >= static_cast<std::ptrdiff_t>(kUtf16Room); };
+  while (hasRoom() && inEnd - at.in >= static_cast<std::ptrdiff_t>(2 * kBlock)) {
+    const std::uint64_t any = anyOfBlock(at.in);
+    if ((any & fourTimes<kOrder>(0xFF80)) == 0) {
+      narrowBlock<kOrder>(at.in, at.out);
+      at = {at.in + 2 * kBlock, at.out + kBlock};
+    } else if ((any & fourTimes<kOrder>(0xF800)) == 0) {
+      at = {at.in + 2 * kBlock, putBlockBelow800<kOrder>(at.in, at.out)};
+    } else if (char* out = putBlock<kOrder>(at.in, at.out)) {
+      at = {at.in + 2 * kBlock, out};
+    } else {
+      at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out);
+    }
+  }
+  // What is left, and short texts: fewer at a time, and one by one from where there are surrogates.
+  while (hasRoom() && inEnd - at.in >= 8) {
+    char* out = putBlock<kOrder, 4>(at.in, at.out);
+    if (out == nullptr) {
+      break;
+    }
+    at = {at.in + 8, out};
+  }
+  while (hasRoom() && inEnd - at.in >= 2) {
+    at = putCharacter<kOrder>(at.in, inEnd, at.out);
+  }
+  if (hasRoom() && inEnd - at.in == 1) {
+    at = {at.in + 1, putBasic(kReplacement, at.out)};
+  }
+  return at;
+}
+
+}  // namespace
+
+Transcoded utf16LittleToUtf8(const char* in, const char* inEnd, char* out, char* outEnd) noexcept {
+  return transcode<std::endian::little>(in, inEnd, out, outEnd);
+}
+
+Transcoded utf16BigToUtf8(const char* in, const char* inEnd, char* out, char* outEnd) noexcept {
+  return transcode<std::endian::big>(in, inEnd, out, outEnd);
+}
+
+}  // namespace orvanta::strings

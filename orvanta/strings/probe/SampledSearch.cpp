@@ -1,0 +1,93 @@
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include <orvanta/strings/probe/SampledSearch.h>
+
+namespace orvanta::strings {
+
+SampledSearch::SampledSearch(std::vector<std::string> patterns) : patterns_(std::move(patterns)) {
+  std::size_t shortest = patterns_.front().size();
+  for (std::uint32_t number = 0; number < patterns_.size(); ++number) {
+    const std::string& pattern = patterns_[number];
+    shortest = std::min(shortest, pattern.size());
+    longest_ = std::max(longest_, pattern.size());
+    for (std::uint32_t offset = 0; offset + kWindowSize <= pattern.size(); ++offset) {
+      const Window window = windowAt(pattern.data() + offset);
+      places_.push_back({window, number, offset});
+      filter_[filterIndex(window)] = 1;
+    }
+  }
+  std::sort(places_.begin(), places_.end(),
+            [](const Place& a, const Place& b) { return a.window < b.window; });
+  // An occurrence of n bytes has n - 7 windows: of as many positions in a row one is sampled.
+  stride_ = shortest - (kWindowSize - 1);
+}
+
+SampledSearch::Window SampledSearch::windowAt(const char* bytes) noexcept {
+  Window window = 0;
+  std::memcpy(&window, bytes, kWindowSize);
+  return window;
+}
+
+std::size_t SampledSearch::filterIndex(Window window) noexcept {
+  constexpr Window kSpreading = 0x9E3779B97F4A7C15;  // Odd; 2^64 divided by the golden ratio.
+  return (window * kSpreading) >> (64U - kFilterBits);
+}
+
+// 0 when the window at `bytes` stands in no pattern.
+inline unsigned SampledSearch::mayStartWindow(const char* bytes) const noexcept {
+  return filter_[filterIndex(windowAt(bytes))];
+}
+
+bool SampledSearch::occursIn(std::string_view text) const noexcept {
+  if (text.size() < kWindowSize) {
+    return false;
+  }
+  const char* const begin = text.data();
+  const std::size_t stride = stride_;
+  const std::size_t end = text.size() - kWindowSize + 1;
+  std::size_t at = 0;
+  // Several windows for each branch: the look-ups overlap, and next to none is ever taken.
+  constexpr std::size_t kTogether = 8;
+  while (at + (kTogether - 1) * stride < end) {
+    const char* next = begin + at;
+    unsigned found = 0;
+    for (std::size_t window = 0; window < kTogether; ++window) {
+      found |= mayStartWindow(next);
+      next += stride;
+    }
+    if (found != 0) {
+      for (std::size_t window = 0; window < kTogether; ++window) {
+        if (occursAround(text, at + window * stride)) {
+          return true;
+        }
+      }
+    }
+    at += kTogether * stride;
+  }
+  for (; at < end; at += stride) {
+    if (occursAround(text, at)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool SampledSearch::occursAround(std::string_view text, std::size_t at) const noexcept {
+  if (mayStartWindow(text.data() + at) == 0) {
+    return false;
+  }
+  const Window window = windowAt(text.data() + at);
+  auto place = std::lower_bound(places_.begin(), places_.end(), window,
+                                [](const Place& a, Window b) { return a.window < b; });
+  for (; place != places_.end() && place->window == window; ++place) {
+    const std::string& pattern = patterns_[place->pattern];
+    if (at >= place->offset && text.substr(at - place->offset).starts_with(pattern)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace orvanta::strings

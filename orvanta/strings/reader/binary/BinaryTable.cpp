@@ -1,0 +1,131 @@
+#include <optional>
+#include <string>
+#include <utility>
+
+#include <orvanta/strings/reader/binary/BinaryObjects.h>
+#include <orvanta/strings/reader/binary/BinaryTable.h>
+#include <orvanta/strings/reader/binary/BinaryText.h>
+
+namespace orvanta::strings {
+
+namespace {
+
+constexpr std::string_view kMagic = "bplist00";
+
+// How much a table may take in memory: so many times the file's size, and this much in any case.
+// Sound files, in which many keys share a text, were found to stay far below it.
+constexpr std::size_t kLargestGrowth = 16;
+constexpr std::size_t kAlwaysGranted = std::size_t{64} << 10;
+// What an entry takes besides its characters.
+constexpr std::size_t kEntryOverhead = 32;
+
+constexpr std::size_t kLongestQuote = 80;
+
+class BinaryTableReader {
+ public:
+  BinaryTableReader(std::string_view file, const BinaryObjects& objects, StringTableBuilder& table,
+                    const ProblemCollector& problems)
+      : objects_(objects),
+        table_(table),
+        problems_(problems),
+        left_(kAlwaysGranted + kLargestGrowth * file.size()) {}
+
+  void read(const BinaryObject& dictionary) {
+    const std::size_t count = objects_.pairCount(dictionary);
+    for (std::size_t index = 0; index < count; ++index) {
+      const auto key = objects_.at(objects_.referenceAt(dictionary, index));
+      const auto value = objects_.at(objects_.referenceAt(dictionary, count + index));
+      if (!isText(key)) {
+        report("key " + std::to_string(index + 1) + " of the dictionary is no text");
+      } else if (!isText(value)) {
+        report("the value of \"" + quoted(*key) + "\" is no text");
+      } else if (!add(*key, *value)) {
+        report("the table grows too large for its file, " + std::to_string(count - index) +
+               " pairs are left out");
+        return;
+      }
+    }
+  }
+
+ private:
+  static bool isText(const std::optional<BinaryObject>& object) noexcept {
+    return object && object->isText();
+  }
+
+  bool charge(std::size_t bytes) noexcept {
+    const bool granted = bytes <= left_;
+    left_ -= granted ? bytes : left_;
+    return granted;
+  }
+
+  // Charges before it decodes, so that refused work is not done either.
+  bool add(const BinaryObject& key, const BinaryObject& value) {
+    const std::size_t least = BinaryText::leastSize(key) + BinaryText::leastSize(value);
+    if (!charge(kEntryOverhead + least)) {
+      return false;
+    }
+    const BinaryText keyText(key);
+    const BinaryText valueText(value);
+    char* const begin = table_.beginEntry(keyText.room() + valueText.room());
+    if (begin == nullptr) {
+      return false;
+    }
+    char* const keyEnd = keyText.decode(begin);
+    char* const valueEnd = valueText.decode(keyEnd);
+    if (!charge(static_cast<std::size_t>(valueEnd - begin) - least)) {
+      return false;
+    }
+    table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
+                       static_cast<std::size_t>(valueEnd - keyEnd));
+    return true;
+  }
+
+  // The beginning of a key, for a message.
+  static std::string quoted(BinaryObject key) {
+    const bool whole = key.payload.size() <= kLongestQuote;
+    key.payload = key.payload.substr(0, kLongestQuote);
+    return BinaryText(key).str() + (whole ? "" : "...");
+  }
+
+  void report(std::string message) const {
+    if (problems_) {
+      problems_({0, 0, std::move(message)});
+    }
+  }
+
+  const BinaryObjects& objects_;
+  StringTableBuilder& table_;
+  const ProblemCollector& problems_;
+  std::size_t left_;
+};
+
+}  // namespace
+
+bool looksLikeBinaryTable(std::string_view bytes) noexcept {
+  return bytes.starts_with(kMagic);
+}
+
+bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
+                     const ProblemCollector& problems) {
+  const auto refuse = [&](const char* why) {
+    if (problems) {
+      problems({0, 0, why});
+    }
+    return false;
+  };
+  if (!looksLikeBinaryTable(bytes)) {
+    return refuse("no binary property list");
+  }
+  const std::optional<BinaryObjects> objects = BinaryObjects::open(bytes);
+  if (!objects) {
+    return refuse("a binary property list that is cut off or damaged at its end");
+  }
+  const std::optional<BinaryObject> top = objects->at(objects->topObject());
+  if (!top || top->kind != BinaryKind::kDictionary) {
+    return refuse("a binary property list without a dictionary at its top");
+  }
+  BinaryTableReader(bytes, *objects, table, problems).read(*top);
+  return true;
+}
+
+}  // namespace orvanta::strings

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <orvanta/strings/reader/text/TextScanner.h>
+
+namespace orvanta::strings {
+
+/// How deep arrays and dictionaries may be nested to be passed over as one value.
+inline constexpr int kDeepestCollection = 128;
+
+/// Where a value that is no text ends, or how far it went before it proved to be none.
+struct PassedCollection {
+  const char* end;
+  bool closed;
+};
+
+/// Passes over the data, array or dictionary that opens at `open`.
+///
+///     <0fab 12>    (a, "b", (c))    {a = b; c = (d);}
+[[nodiscard]] PassedCollection passOverCollection(TextScanner& scanner, const char* open);
+
+}  // namespace orvanta::strings

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+
+#include <orvanta/strings/StringTable.h>
+#include <orvanta/strings/StringTableBuilder.h>
+#include <orvanta/strings/reader/text/TextScanner.h>
+
+namespace orvanta::strings {
+
+/// The statements of a strings file, as long as nothing is wrong with them.
+///
+///     file      = statements | "{" statements "}"
+///     statement = key "=" value ";" | key ";"
+///
+/// where a key alone is its own value.
+class TextStatements {
+ public:
+  enum class Braces { kNone, kOpen, kClosed, kLeft };
+
+  explicit TextStatements(StringTableBuilder& table) noexcept : table_(table) {}
+
+  /// Reads on from `at` and gives where it had to stop: the end of the text, or the beginning of
+  /// what is no sound statement, or is not all there.
+  [[nodiscard]] const char* read(TextScanner& scanner, const char* at);
+
+  /// Adds an entry that was found another way.
+  void add(const TextToken& key, const TextToken& value);
+
+  /// Where the last statement begins that `read` has read; null before the first.
+  [[nodiscard]] const char* last() const noexcept { return last_; }
+
+  [[nodiscard]] std::size_t count() const noexcept { return count_; }
+
+  [[nodiscard]] Braces braces() const noexcept { return braces_; }
+  /// Goes on behind the closing brace, where no statement is expected.
+  void leaveBraces() noexcept { braces_ = Braces::kLeft; }
+
+  /// No entry fits into the table any more.
+  [[nodiscard]] bool full() const noexcept { return full_; }
+
+ private:
+  // Both give the end of what they read, null where it is not sound.
+  [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at);
+  [[nodiscard]] const char* readBrace(const char* at) noexcept;
+
+  StringTableBuilder& table_;
+  const char* last_ = nullptr;
+  std::size_t count_ = 0;
+  Braces braces_ = Braces::kNone;
+  bool full_ = false;
+};
+
+}  // namespace orvanta::strings

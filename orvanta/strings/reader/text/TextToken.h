@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+namespace orvanta::strings {
+
+/// A key or a value as it stands in the text, without its quotes.
+///
+///     "quoted, with \"escapes\""    'quoted'    letters_digits_and_$/:.-
+struct TextToken {
+  const char* begin = nullptr;  ///< Null when there is no token.
+  const char* end = nullptr;
+  const char* next = nullptr;  ///< Behind the closing quote.
+  bool escapes = false;        ///< There are backslashes to be resolved.
+
+  [[nodiscard]] bool found() const noexcept { return begin != nullptr; }
+  [[nodiscard]] std::string_view text() const noexcept { return {begin, end}; }
+};
+
+[[nodiscard]] inline bool isQuote(char c) noexcept {
+  return c == '"' || c == '\'';
+}
+
+/// The token at `at`, quoted or not; none where none begins, or a quote is not closed before `end`.
+[[nodiscard]] TextToken readToken(const char* at, const char* end) noexcept;
+
+/// The same, where `at` is known to be a quote, and the first quote of its kind behind it (null for
+/// none) and the first backslash behind it (`end` for none) have been looked up.
+[[nodiscard]] TextToken readQuoted(const char* open, const char* close, const char* backslash,
+                                   const char* end) noexcept;
+
+/// The first `c` from `begin` on; null when there is none before `end`.
+[[nodiscard]] inline const char* findCharacter(char c, const char* begin,
+                                               const char* end) noexcept {
+  return begin == end ? nullptr
+                      : static_cast<const char*>(
+                            std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
+}
+
+/// Writes the text that a quoted string stands for and gives its end. It is never longer than
+/// `raw`.
+///
+///     \n \t \r \a \b \f \v    the control character
+///     \U0041                  the UTF-16 unit with this number, of one to four digits
+///     \101                    the character with this octal number in the NeXTSTEP set
+///     \ and anything else     that, so \" \' \\ and a line break too
+char* resolveEscapes(std::string_view raw, char* out) noexcept;
+
+}  // namespace orvanta::strings

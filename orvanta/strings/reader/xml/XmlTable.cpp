@@ -1,0 +1,274 @@
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include <orvanta/strings/reader/xml/XmlNesting.h>
+#include <orvanta/strings/reader/xml/XmlProblems.h>
+#include <orvanta/strings/reader/xml/XmlScanner.h>
+#include <orvanta/strings/reader/xml/XmlTable.h>
+#include <orvanta/strings/reader/xml/XmlText.h>
+
+namespace orvanta::strings {
+
+namespace {
+
+constexpr std::string_view kList = "plist";
+constexpr std::string_view kDictionary = "dict";
+constexpr std::string_view kKey = "key";
+constexpr std::string_view kValue = "string";
+constexpr const char* kNoList = "no property list";
+constexpr const char* kStrayText = "text outside of a key or value";
+constexpr std::string_view kWhiteSpace = " \t\r\n";
+constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
+                                                         "<!--"};
+
+bool endsDictionary(const XmlToken& token) noexcept {
+  return token.closes(kDictionary) || token.closes(kList);
+}
+
+class XmlTableReader {
+ public:
+  XmlTableReader(std::string_view utf8, StringTableBuilder& table, XmlProblems& problems)
+      : scanner_(utf8), table_(table), problems_(problems) {}
+
+  bool read() {
+    if (!enterDictionary()) {
+      return false;
+    }
+    while (readNext()) {
+    }
+    return true;
+  }
+
+ private:
+  // What the next value belongs to.
+  enum class Key { kNone, kHeld, kLost };
+
+  XmlToken nextTag() {
+    XmlToken token = scanner_.next();
+    while (token.piece != XmlPiece::kOpening && token.piece != XmlPiece::kClosing &&
+           token.piece != XmlPiece::kEnd) {
+      token = scanner_.next();
+    }
+    return token;
+  }
+
+  bool enterDictionary() {
+    const XmlToken list = nextTag();
+    if (!list.opens(kList) || list.selfClosing) {
+      problems_.add(list.offset, kNoList);
+      return false;
+    }
+    const XmlToken dictionary = nextTag();
+    if (!dictionary.opens(kDictionary)) {
+      problems_.add(dictionary.offset, "a property list without a dictionary at its top");
+      return false;
+    }
+    if (dictionary.selfClosing) {
+      closeDictionary(dictionary.offset);
+    }
+    return true;
+  }
+
+  // False once the table is read.
+  bool readNext() {
+    const XmlToken token = scanner_.next();
+    switch (token.piece) {
+      case XmlPiece::kEnd:
+        finish(token.offset);
+        return false;
+      case XmlPiece::kText:
+        reportStrayText(token);
+        return true;
+      case XmlPiece::kLiteral:
+        problems_.add(token.offset, kStrayText);
+        return true;
+      case XmlPiece::kBroken:
+        problems_.add(token.offset, "a '<' that begins no whole tag");
+        return true;
+      case XmlPiece::kClosing:
+        return readClosing(token);
+      case XmlPiece::kOpening:
+        return readOpening(token);
+    }
+    return false;
+  }
+
+  void reportStrayText(const XmlToken& token) {
+    const std::size_t blank = token.text.find_first_not_of(kWhiteSpace);
+    if (blank != std::string_view::npos) {
+      problems_.add(token.offset + blank, kStrayText);
+    }
+  }
+
+  bool readClosing(const XmlToken& token) {
+    if (token.text == kList) {
+      finish(token.offset);
+      return false;
+    }
+    if (token.text == kDictionary && !isClosed_) {
+      closeDictionary(token.offset);
+    } else {
+      problems_.add(token.offset, "a closing tag without its opening tag");
+    }
+    return true;
+  }
+
+  void closeDictionary(std::size_t offset) {
+    dropKey();
+    isClosed_ = true;
+    closedAt_ = offset;
+  }
+
+  void finish(std::size_t offset) {
+    dropKey();
+    if (!isClosed_) {
+      problems_.add(offset, "the dictionary has no end");
+    }
+  }
+
+  bool readOpening(const XmlToken& token) {
+    if (isClosed_) {
+      problems_.add(closedAt_, "the dictionary ends before its last pair");
+      isClosed_ = false;
+    }
+    if (token.text == kKey) {
+      dropKey();
+      keyAt_ = token.offset;
+      held_ = readText(token, key_) ? Key::kHeld : Key::kLost;
+      return true;
+    }
+    const Key owner = std::exchange(held_, Key::kNone);
+    if (owner == Key::kNone) {
+      problems_.add(token.offset, "a value without a key");
+    }
+    if (token.text == kValue) {
+      return !readText(token, value_) || owner != Key::kHeld || add(token);
+    }
+    if (owner == Key::kHeld) {
+      problems_.add(token.offset, "a value that is no text");
+    }
+    skipElement(token);
+    return true;
+  }
+
+  bool add(const XmlToken& value) {
+    if (table_.add(key_.view(), value_.view())) {
+      return true;
+    }
+    problems_.add(value.offset, "the table grows too large, all that follows is left out");
+    return false;
+  }
+
+  void dropKey() {
+    if (std::exchange(held_, Key::kNone) == Key::kHeld) {
+      problems_.add(keyAt_, "a key without a value");
+    }
+  }
+
+  // False, and reported, when the element's text is damaged.
+  bool readText(const XmlToken& opening, XmlText& text) {
+    text.clear();
+    if (opening.selfClosing) {
+      return true;
+    }
+    bool whole = true;
+    for (;;) {
+      const XmlToken token = scanner_.next();
+      if (token.closes(opening.text)) {
+        return whole;
+      }
+      if (token.piece == XmlPiece::kText) {
+        whole = (whole && appendData(token, text)) && whole;
+      } else if (token.piece == XmlPiece::kLiteral) {
+        text.appendLiteral(token.text);
+      } else {
+        if (whole) {
+          problems_.add(token.offset, token.piece == XmlPiece::kEnd ? "a text without an end"
+                                                                    : "a '<' or tag in a text");
+        }
+        resume(opening.text, token);
+        return false;
+      }
+    }
+  }
+
+  bool appendData(const XmlToken& token, XmlText& text) {
+    const std::optional<std::size_t> unknown = text.appendData(token.text);
+    if (unknown) {
+      problems_.add(token.offset + *unknown, "a reference to an entity that is not known");
+    }
+    return !unknown;
+  }
+
+  // After damage inside an element: goes on behind its end or, where that is missing, before what
+  // cannot belong to it.
+  void resume(std::string_view name, XmlToken token) {
+    while (!token.closes(name)) {
+      if (token.piece == XmlPiece::kEnd || token.opens(kKey) || endsDictionary(token)) {
+        scanner_.giveBack(token);
+        return;
+      }
+      token = nextTag();
+    }
+  }
+
+  // Passes over a value that is no text, however deep it nests.
+  void skipElement(const XmlToken& opening) {
+    if (opening.selfClosing) {
+      return;
+    }
+    XmlNesting nesting;
+    nesting.open(opening.text);
+    while (!nesting.isEmpty()) {
+      const XmlToken token = nextTag();
+      if (token.piece == XmlPiece::kOpening) {
+        nesting.endLeaf();
+      }
+      const bool isForeign = token.piece == XmlPiece::kEnd || token.closes(kList) ||
+                             nesting.isEmpty() || (token.opens(kKey) && !nesting.isInDictionary());
+      if (isForeign || (token.piece == XmlPiece::kClosing && !nesting.close(token.text) &&
+                        token.closes(kDictionary))) {
+        scanner_.giveBack(token);
+        return;
+      }
+      if (token.piece == XmlPiece::kOpening && !token.selfClosing) {
+        nesting.open(token.text);
+      }
+    }
+  }
+
+  XmlScanner scanner_;
+  StringTableBuilder& table_;
+  XmlProblems& problems_;
+  XmlText key_;
+  XmlText value_;
+  Key held_ = Key::kNone;
+  std::size_t keyAt_ = 0;
+  bool isClosed_ = false;
+  std::size_t closedAt_ = 0;
+};
+
+}  // namespace
+
+bool looksLikeXmlTable(std::string_view utf8) noexcept {
+  const std::size_t begin = std::min(utf8.find_first_not_of(kWhiteSpace), utf8.size());
+  const std::string_view text = utf8.substr(begin);
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&](std::string_view beginning) { return text.starts_with(beginning); });
+}
+
+bool readXmlTable(std::string_view utf8, StringTableBuilder& table,
+                  const ProblemCollector& problems) {
+  XmlProblems found(utf8, problems);
+  const bool isXml = looksLikeXmlTable(utf8);
+  if (!isXml) {
+    found.add(0, kNoList);
+  }
+  const bool isTable = isXml && XmlTableReader(utf8, table, found).read();
+  found.handOver();
+  return isTable;
+}
+
+}  // namespace orvanta::strings

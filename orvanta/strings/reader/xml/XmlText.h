@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvanta::strings {
+
+/// The text of one element, put together from its pieces. A piece that needs no change is not
+/// copied as long as it is the only one.
+class XmlText {
+ public:
+  void clear() noexcept;
+
+  /// Appends character data with its references resolved. Gives the offset in `raw` of the first
+  /// reference to an entity that is not known, absent when there is none.
+  std::optional<std::size_t> appendData(std::string_view raw);
+
+  /// Appends the inside of a CDATA section, in which nothing is a reference.
+  void appendLiteral(std::string_view raw);
+
+  /// Valid until the next change, and as long as the pieces.
+  [[nodiscard]] std::string_view view() const noexcept;
+
+ private:
+  bool takeWhole(std::string_view raw, std::string_view special) noexcept;
+  void makeOwn();
+
+  std::string_view borrowed_;
+  std::string own_;
+  bool isOwn_ = false;
+};
+
+}  // namespace orvanta::strings

@@ -1,0 +1,138 @@
+#include <QAction>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QRawFont>
+#include <QTest>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include <orvanta/cache/OVStringCache.h>
+#include <orvanta/qt/UILocalizedButton.h>
+#include <orvanta/qt/UILocalizedLabel.h>
+#include <orvanta/qt/UILocalizedTextField.h>
+
+#include "OrderWindow.h"
+#include "Support.h"
+
+using namespace Qt::StringLiterals;
+using orvanta::qt::UILocalizedButton;
+using orvanta::qt::UILocalizedLabel;
+using orvanta::qt::UILocalizedTextField;
+using orvanta::test::speak;
+
+class OrderWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    QVERIFY(speak(u"en"_s));
+    window_ = std::make_unique<demo::OrderWindow>(QStringLiteral(DEMO_DOWNLOADS "/it.json"));
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  }
+
+  void speaksTheLanguageThatIsClicked() {
+    auto* button = find<UILocalizedButton>("languageButton");
+    bool clicked = false;
+    QTimer::singleShot(0, button, [&] {
+      for (QAction* action : button->menu()->actions()) {
+        if (action->text() == u"العربية"_s) {
+          clicked = true;
+          QTest::mouseClick(button->menu(), Qt::LeftButton, {},
+                            button->menu()->actionGeometry(action).center());
+          return;
+        }
+      }
+      button->menu()->close();
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(clicked);
+    auto* title = find<UILocalizedLabel>("signInTitle");
+    QTRY_COMPARE(title->text(), u"تسجيل الدخول"_s);
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    QCOMPARE(orvanta::test::inkSide(*title), u"right"_s);
+    QCOMPARE(QRawFont::fromFont(title->font(), QFontDatabase::Arabic).familyName(),
+             u"CorbetSansKufiArabic-Bold"_s);
+    QCOMPARE(find<UILocalizedButton>("signInButton")->accessibleName(),
+             u"تسجيل الدخول إلى حسابك"_s);
+    QCOMPARE(find<UILocalizedTextField>("passwordField")->accessibleName(), u"كلمة المرور"_s);
+    QVERIFY(find<UILocalizedLabel>("summaryLabel")->text().contains(QChar(0x60C)));
+  }
+
+  void cutsNothingOffInAnyLanguage() {
+    auto& cache = orvanta::Localizer::sharedLocalizer().stringCache();
+    const orvanta::OVLocaleDictionary languages = cache.availableLanguages();
+    QVERIFY(languages.entries().size() >= 14);
+    for (const auto& [language, record] : languages) {
+      QVERIFY(speak(orvanta::qt::toQString(language)));
+      for (QWidget* widget : window_->findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<UILocalizedLabel*>(widget);
+        const bool wraps = label != nullptr && label->wordWrap();
+        if (label == nullptr && qobject_cast<UILocalizedButton*>(widget) == nullptr) {
+          continue;
+        }
+        const QSize needed =
+            wraps ? QSize(0, label->heightForWidth(label->width())) : widget->sizeHint();
+        QVERIFY2(needed.width() <= widget->width() && needed.height() <= widget->height(),
+                 qPrintable(orvanta::qt::toQString(language) + ' ' + widget->objectName()));
+      }
+    }
+  }
+
+  void keepsWhatWasTyped() {
+    auto* email = find<UILocalizedTextField>("emailField");
+    QCOMPARE(email->text(), u"name@example.com"_s);
+    QVERIFY(speak(u"fr"_s));
+    QCOMPARE(email->text(), u"nom@exemple.fr"_s);
+    email->selectAll();
+    QTest::keyClicks(email, u"me@here"_s);
+    QVERIFY(speak(u"de"_s));
+    QCOMPARE(email->text(), u"me@here"_s);
+    QCOMPARE(email->accessibleName(), u"E-Mail-Adresse"_s);
+
+    QTest::mouseClick(find<UILocalizedButton>("placeButton"), Qt::LeftButton);
+    QCOMPARE(find<UILocalizedLabel>("statusLabel")->control().originalKey().str(),
+             std::string("order.placed"));
+  }
+
+  void refreshesFromAWorkerThread() {
+    auto* title = find<UILocalizedLabel>("orderTitle");
+    title->setText(u"stale"_s);
+    std::atomic<bool> ended = false;
+    std::thread worker([&] {
+      title->control().refreshStringsFromLocale("en");
+      ended = true;
+    });
+    QVERIFY(QTest::qWaitFor([&] { return ended.load(); }));
+    worker.join();
+    QCOMPARE(title->text(), u"Your cart"_s);
+  }
+
+  void downloadsALanguageAndSpeaksIt() {
+    QTest::mouseClick(find<UILocalizedButton>("downloadButton"), Qt::LeftButton);
+    QTRY_COMPARE(find<UILocalizedLabel>("signInTitle")->text(), u"Accedi"_s);
+    QVERIFY(
+        find<UILocalizedLabel>("statusLabel")->text().startsWith(u"Le nuove lingue sono pronte"_s));
+    const QList<QAction*> actions = find<UILocalizedButton>("languageButton")->menu()->actions();
+    QVERIFY(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
+      return action->text() == u"Italiano"_s && action->isChecked();
+    }));
+  }
+
+  // What follows is no slot. NOLINTNEXTLINE(readability-redundant-access-specifiers)
+ private:
+  template <typename Widget>
+  Widget* find(const char* name) const {
+    return window_->findChild<Widget*>(QString::fromLatin1(name));
+  }
+
+  std::unique_ptr<demo::OrderWindow> window_;
+};
+
+std::unique_ptr<QObject> orvanta::test::makeOrderWindowTest() {
+  return std::make_unique<OrderWindowTest>();
+}
+
+#include "OrderWindowTest.moc"

@@ -1,0 +1,87 @@
+#include <QFontInfo>
+#include <QPainterPath>
+#include <QRawFont>
+#include <QTest>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include <orvanta/fonts/localizationUtilities.h>
+#include <orvanta/platform/Platform.h>
+#include <orvanta/qt/platform/QtFonts.h>
+
+#include "Support.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using orvanta::platform::Platform;
+namespace utilities = orvanta::localizationUtilities;
+
+QPainterPath outlineOf(const QFont& font, QChar letter) {
+  const QRawFont raw = QRawFont::fromFont(font, QFontDatabase::Arabic);
+  return raw.pathForGlyph(raw.glyphIndexesForString(QString(letter)).value(0));
+}
+
+}  // namespace
+
+class PlatformTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void runsWhatWasQueuedBeforeTheApplication() { QTRY_VERIFY(orvanta::test::earlyStepRan); }
+
+  void runsAtOnceOnItsOwnThreadAndCarriesFromOthers() {
+    orvanta::platform::MainQueue& queue = *Platform::current().mainQueue;
+    std::vector<int> order;
+    queue.dispatchAsync([&] { order.push_back(2); });
+    queue.performOnMainThreadAndWait([&] { order.push_back(1); });
+    QCOMPARE(order, std::vector{1});
+
+    bool waited = false;
+    std::atomic<bool> ended = false;
+    std::thread worker([&] {
+      queue.performOnMainThreadAndWait([&] { order.push_back(queue.isMainThread() ? 3 : -3); });
+      waited = order.size() == 3;
+      ended = true;
+    });
+    QVERIFY(QTest::qWaitFor([&] { return ended.load(); }));
+    worker.join();
+    QVERIFY(waited);
+    QCOMPARE(order, (std::vector{1, 2, 3}));
+  }
+
+  void hasTwoArabicFacesThatLookDifferent() {
+    const auto regular = utilities::ArabicFontWithSize(20, false);
+    const auto bold = utilities::ArabicFontWithSize(20, true);
+    QVERIFY(regular != nullptr && bold != nullptr);
+    QVERIFY(!utilities::ovFontIsBold(regular));
+    QVERIFY(utilities::ovFontIsBold(bold));
+    QCOMPARE(QFontInfo(orvanta::qt::toQFont(regular)).family(), u"CorbetSansKufiArabic"_s);
+
+    const QChar meem(0x645);
+    const QPainterPath regularOutline = outlineOf(orvanta::qt::toQFont(regular), meem);
+    const QPainterPath boldOutline = outlineOf(orvanta::qt::toQFont(bold), meem);
+    QVERIFY(!regularOutline.isEmpty());
+    QVERIFY(regularOutline != boldOutline);
+    QVERIFY(regularOutline != outlineOf(QFont(u"DejaVu Sans"_s, 20), meem));
+  }
+
+  void knowsFontsByExactNameAlone() {
+    orvanta::platform::FontSystem& fonts = *Platform::current().fonts;
+    QVERIFY(fonts.fontWithName("DejaVuSans-Bold", 12) != nullptr);
+    QCOMPARE(fonts.fontWithName("DejaVuSans-Bold", 12)->pointSize(), 12.0);
+    QVERIFY(utilities::ovFontIsBold(fonts.fontWithName("DejaVuSans-Bold", 12)));
+    QVERIFY(fonts.fontWithName("DejaVuSans-Nosuch", 12) == nullptr);
+    QVERIFY(fonts.fontWithName("Dejavu", 12) == nullptr);
+    QVERIFY(fonts.fontWithName({}, 12) == nullptr);
+    const std::vector<std::byte> noFont(100);
+    QVERIFY(!fonts.registerFontData(noFont));
+  }
+};
+
+std::unique_ptr<QObject> orvanta::test::makePlatformTest() {
+  return std::make_unique<PlatformTest>();
+}
+
+#include "PlatformTest.moc"

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QString>
+#include <QWidget>
+#include <memory>
+
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/qt/LanguageChangeObserver.h>
+#include <orvanta/qt/Text.h>
+
+namespace orvanta::test {
+
+[[nodiscard]] std::unique_ptr<QObject> makePlatformTest();
+[[nodiscard]] std::unique_ptr<QObject> makeWidgetsTest();
+[[nodiscard]] std::unique_ptr<QObject> makeRepaintTest();
+[[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();
+
+/// Whether a step ran that was queued before there was an application object.
+inline bool earlyStepRan = false;
+
+/// Changes the language and waits until everybody has heard of it. False when nobody does.
+[[nodiscard]] inline bool speak(const QString& language) {
+  bool heard = false;
+  const qt::LanguageChangeObserver observer([&heard] { heard = true; });
+  Localizer::sharedLocalizer().updatePreferredLocales({qt::fromQString(language)}, {});
+  QElapsedTimer timer;
+  for (timer.start(); !heard && timer.elapsed() < 5000;) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+  }
+  QCoreApplication::processEvents();
+  return heard;
+}
+
+/// Where in a widget black ink is: the blank columns left and right of it.
+struct Blank {
+  int left = 0;
+  int right = 0;
+};
+
+[[nodiscard]] inline Blank blankBesideInk(QWidget& widget, const QRect& within) {
+  QImage image(widget.size(), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  widget.render(&image);
+  int first = within.right();
+  int last = within.left();
+  for (int y = within.top(); y <= within.bottom(); ++y) {
+    for (int x = within.left(); x <= within.right(); ++x) {
+      if (qGray(image.pixel(x, y)) < 100) {
+        first = std::min(first, x);
+        last = std::max(last, x);
+      }
+    }
+  }
+  return {first - within.left(), within.right() - last};
+}
+
+/// "left", "right" or "middle", by where the ink is.
+[[nodiscard]] inline QString inkSide(QWidget& widget) {
+  const Blank blank = blankBesideInk(widget, widget.rect().adjusted(4, 4, -4, -4));
+  if (std::abs(blank.left - blank.right) < 12) {
+    return QStringLiteral("middle");
+  }
+  return blank.left < blank.right ? QStringLiteral("left") : QStringLiteral("right");
+}
+
+}  // namespace orvanta::test

@@ -1,0 +1,180 @@
+#include <atomic>
+#include <functional>
+#include <future>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/standard/RunLoop.h>
+
+namespace orvanta::standard {
+namespace {
+
+// The two ways in which the main thread may run what is queued.
+void turnPending(RunLoop& loop) {
+  loop.runPending();
+}
+void turnRunning(RunLoop& loop) {
+  loop.dispatchAsync([&] { loop.quit(); });
+  loop.run();
+}
+
+class RunLoopTurns : public testing::TestWithParam<void (*)(RunLoop&)> {
+ protected:
+  void turnUntil(const std::function<bool()>& isDone) {
+    while (!isDone()) {
+      GetParam()(*loop_);
+    }
+  }
+  std::shared_ptr<RunLoop> loop_ = RunLoop::make();
+};
+
+INSTANTIATE_TEST_SUITE_P(BothWays, RunLoopTurns, testing::Values(turnPending, turnRunning));
+
+TEST_P(RunLoopTurns, RunsStepsLaterAndInOrder) {
+  std::string order;
+  loop_->dispatchAsync([&] {
+    order += "1";
+    loop_->dispatchAsync([&] { order += "3"; });
+    order += "2";
+  });
+  EXPECT_EQ(order, "") << "never inside the call";
+  turnUntil([&] { return order.size() >= 3; });
+  EXPECT_EQ(order, "123");
+}
+
+TEST_P(RunLoopTurns, WaitsOnTheMainThreadByRunningAtOnce) {
+  std::string order;
+  loop_->dispatchAsync([&] { order += "2"; });
+  loop_->performOnMainThreadAndWait([&] { order += "1"; });
+  EXPECT_EQ(order, "1");
+  turnUntil([&] { return order.size() >= 2; });
+  EXPECT_EQ(order, "12");
+}
+
+TEST_P(RunLoopTurns, RunsTheStepsOfOtherThreadsOnTheMainOne) {
+  std::atomic<int> ended = 0;
+  std::vector<int> seen;  // By steps on the main thread alone.
+  std::vector<std::thread> threads;
+  threads.reserve(4);
+  for (int number = 0; number < 4; ++number) {
+    threads.emplace_back([&, number] {
+      bool ran = false;
+      loop_->performOnMainThreadAndWait([&] {
+        ran = loop_->isMainThread();
+        seen.push_back(number);
+      });
+      EXPECT_TRUE(ran) << "waits until the step has run";
+      loop_->dispatchAsync([&, number] { seen.push_back(number); });
+      ++ended;
+    });
+  }
+  turnUntil([&] { return ended == 4 && seen.size() >= 8; });
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(seen.size(), 8U);
+}
+
+TEST(RunLoop, RunsUntilItIsToldToQuit) {
+  const auto loop = RunLoop::make();
+  std::string order;
+  loop->dispatchAsync([&] { order += "1"; });
+  loop->dispatchAsync([&] {
+    loop->quit();
+    order += "2";
+  });
+  loop->dispatchAsync([&] { order += "3"; });
+  loop->run();
+  EXPECT_EQ(order, "12") << "the step under way is the last one";
+  loop->quit();
+  loop->run();
+  EXPECT_EQ(order, "12") << "told to quit before it runs, it returns at once";
+  loop->dispatchAsync([&] { loop->quit(); });
+  loop->run();
+  EXPECT_EQ(order, "123") << "nothing is lost";
+}
+
+TEST(RunLoop, RunsWhatIsPendingAndNoMore) {
+  const auto loop = RunLoop::make();
+  int inner = 0;
+  EXPECT_EQ(loop->runPending(), 0U);
+  loop->dispatchAsync([&] {
+    loop->dispatchAsync([&] { ++inner; });
+    EXPECT_EQ(loop->runPending(), 2U) << "nested: the second step and the inner one";
+    loop->dispatchAsync([&] { ++inner; });
+  });
+  loop->dispatchAsync([] {});
+  EXPECT_EQ(loop->runPending(), 1U);
+  EXPECT_EQ(inner, 1);
+  EXPECT_EQ(loop->runPending(), 1U);
+  EXPECT_EQ(inner, 2);
+}
+
+TEST(RunLoop, LosesNoStepToAnException) {
+  const auto loop = RunLoop::make();
+  int ran = 0;
+  for (int count = 0; count < 2; ++count) {
+    loop->dispatchAsync([] { throw std::runtime_error("the application's own"); });
+    loop->dispatchAsync([&] { ++ran; });
+  }
+  EXPECT_THROW(static_cast<void>(loop->runPending()), std::runtime_error);
+  EXPECT_THROW(loop->run(), std::runtime_error);
+  EXPECT_EQ(loop->runPending(), 1U);
+  EXPECT_EQ(ran, 2);
+
+  std::thread waiting([&] {
+    loop->performOnMainThreadAndWait([] { throw std::runtime_error("on the main thread"); });
+  });
+  EXPECT_THROW(loop->run(), std::runtime_error);
+  waiting.join();
+}
+
+TEST(RunLoop, AsksItsHostForATurn) {
+  const auto loop = RunLoop::make();
+  int asked = 0;
+  loop->dispatchAsync([] {});
+  loop->setWakeUpHook([&] { ++asked; });
+  loop->dispatchAsync([] {});
+  loop->dispatchAsync([] {});
+  EXPECT_EQ(asked, 2);
+  loop->setWakeUpHook({});
+  loop->dispatchAsync([] {});
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(loop->runPending(), 4U);
+}
+
+TEST(RunLoop, LetsGoOfWaitingThreadsWhenItEnds) {
+  auto loop = RunLoop::make();
+  std::promise<void> queued;
+  loop->setWakeUpHook([&] { queued.set_value(); });
+  bool ran = false;
+  std::thread waiting(
+      [queue = loop.get(), &ran] { queue->performOnMainThreadAndWait([&] { ran = true; }); });
+  queued.get_future().wait();
+  loop.reset();
+  waiting.join();
+  EXPECT_FALSE(ran);
+}
+
+TEST(RunLoop, MayEndInsideAStep) {
+  auto loop = RunLoop::make();
+  bool ran = false;
+  loop->dispatchAsync([&] { loop.reset(); });
+  loop->dispatchAsync([&] { ran = true; });
+  loop->run();
+  EXPECT_FALSE(ran);
+}
+
+TEST(RunLoop, KnowsItsThread) {
+  for (const auto& loop : {RunLoop::make(), RunLoop::main()}) {
+    EXPECT_TRUE(loop->isMainThread());
+    std::thread([&] { EXPECT_FALSE(loop->isMainThread()); }).join();
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::standard

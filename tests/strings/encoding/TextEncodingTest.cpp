@@ -1,0 +1,170 @@
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <tests/support/Bytes.h>
+
+#include <orvanta/strings/encoding/TextEncoding.h>
+#include <orvanta/strings/encoding/Utf8Validity.h>
+#include <orvanta/text/Utf8.h>
+
+#include "../reader/TableReading.h"
+
+namespace orvanta::strings {
+namespace {
+
+using namespace std::string_literals;
+using test::encode;
+using test::Encoding;
+using test::kEncodings;
+
+std::string transcoded(EncodedText text, std::size_t room) {
+  Utf8Transcoder transcoder(text);
+  std::string out;
+  std::vector<char> piece(room);
+  while (!transcoder.atEnd()) {
+    const std::size_t size = transcoder.transcode(piece.data(), room);
+    EXPECT_GT(size, 0U);
+    out.append(piece.data(), size);
+  }
+  return out;
+}
+
+TEST(TextEncoding, IsToldWithAndWithoutAMark) {
+  const TableRow rows[] = {
+      {"statement", "\"k\" = \"\u00E9\u05E9\U0001F600\";\n", "k=\u00E9\u05E9\U0001F600"},
+      {"low bytes of zero", "\"\u4E00\u0100\" = \"\u4E00\u4E00\";", "\u4E00\u0100=\u4E00\u4E00"},
+      {"one character beyond ASCII in front", "\"\u4E16\u754C\" = \"\u4E16\";",
+       "\u4E16\u754C=\u4E16"},
+      {"comment", "/* \u4E16 */\n\"k\" = \"v\";", "k=v"},
+      {"shortest", "k;", "k=k"},
+      {"a NUL inside", "\"a\" = \"\0\0b\";"s, "a=\0\0b"s},
+      {"nothing", "", ""},
+  };
+  for (const Encoding& encoding : kEncodings) {
+    SCOPED_TRACE(encoding.name);
+    for (const TableRow& row : rows) {
+      checkTables({{row.name, encode(encoding, row.bytes), row.pairs}});
+    }
+  }
+  checkTables({{"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s}});
+}
+
+TEST(TextEncoding, ReplacesWhatIsNoCharacter) {
+  struct Row {
+    const char* name;
+    TextEncoding encoding;
+    std::string bytes;
+    std::string text;
+  };
+  using enum TextEncoding;
+  const Row rows[] = {
+      {"stray bytes", kUtf8, "a\x80\xFFz", "a\uFFFD\uFFFDz"},
+      {"overlong", kUtf8, "\xC0\xAF\xE0\x80\xAF", "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"surrogate in UTF-8", kUtf8, "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
+      {"cut off", kUtf8, "a\xF0\x9F\x98", "a\uFFFD"},
+      {"cut off by a character", kUtf8, "\xE2\x82z\xE2\x82\xAC", "\uFFFDz\u20AC"},
+      {"lone high", kUtf16Little, "\x3D\xD8z\0"s, "\uFFFDz"},
+      {"lone low", kUtf16Big, "\xDE\0\0z"s, "\uFFFDz"},
+      {"swapped", kUtf16Little, "\x00\xDE\x3D\xD8"s, "\uFFFD\uFFFD"},
+      {"high at the end", kUtf16Little, "z\0\x3D\xD8"s, "z\uFFFD"},
+      {"odd byte", kUtf16Big, "\0z\0"s, "z\uFFFD"},
+      {"surrogate in UTF-32", kUtf32Big, "\0\0\xD8\0\0\0\0z"s, "\uFFFDz"},
+      {"beyond the last", kUtf32Little, "\0\0\x11\0z\0\0\0\xFF\xFF\xFF\xFF"s, "\uFFFDz\uFFFD"},
+      {"torn unit", kUtf32Little, "z\0\0\0z\0\0"s, "z\uFFFD"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(transcoded({row.encoding, row.bytes}, 256), row.text);
+  }
+}
+
+// Every way of packing units is hit at every distance from a block's edges, and every piece of
+// room stops somewhere else.
+TEST(TextEncoding, TranscodesLikeOneCharacterAtATime) {
+  std::mt19937 random(7);
+  const std::u32string_view characters[] = {U"ab\"=;\n", U"\u00E9\u0440\u07FF\u0080",
+                                            U"\u0800\u20AC\uFFFD\uD7FF\uE000",
+                                            U"\U0001F600\U0010FFFF"};
+  for (int round = 0; round < 400; ++round) {
+    std::string text;
+    while (text.size() < 300) {
+      const auto& kind = characters[random() % (1 + static_cast<unsigned>(round) % 4)];
+      const char32_t character = kind[random() % kind.size()];
+      for (auto times = 1 + random() % 40; times > 0; --times) {
+        utf8::append(text, character);
+      }
+    }
+    for (const Encoding& encoding : kEncodings) {
+      if (!encoding.mark.empty()) {
+        const std::string bytes = encode(encoding, text);
+        const std::size_t room = Utf8Transcoder::kSlack + random() % 200;
+        ASSERT_EQ(transcoded(detectEncoding(bytes), room), text) << encoding.name;
+      }
+    }
+  }
+}
+
+TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
+  std::mt19937 random(11);
+  const std::string pieces[] = {
+      "a",
+      "\u00E9",
+      "\u20AC",
+      "\u0905",
+      "\uD7A3",
+      "\U0001F600",
+      "\xC0\x80",
+      "\xE0\x9F\x80",
+      "\xED\xA0\x80",
+      "\xF4\x90\x80\x80",
+      "\xF0\x8F\x80\x80",
+      "\xF5\x80\x80\x80",
+      "\x80",
+      "\xC3",
+      "\xE2\x82",
+  };
+  int valid = 0;
+  for (int round = 0; round < 20000; ++round) {
+    std::string text(random() % 70, 'a');
+    while (text.size() < random() % 200) {
+      text += pieces[random() % (random() % 40 == 0 ? std::size(pieces) : 6)];
+    }
+    text.resize(text.size() - (text.empty() ? 0 : random() % 2));
+    ASSERT_EQ(isValidUtf8(text), utf8::isValid(text)) << testing::PrintToString(text);
+    valid += isValidUtf8(text) ? 1 : 0;
+  }
+  EXPECT_GT(valid, 2000);
+  EXPECT_LT(valid, 18000);
+}
+
+// The window through which UTF-16 is read must not show: statements and comments longer than it,
+// and statements across its edges.
+TEST(TextEncoding, ReadsLongTextsAlike) {
+  std::string text;
+  for (int index = 0; index < 3000; ++index) {
+    text += "/* \u00E9 */\n\"key" + std::to_string(index) + "\" = \"";
+    for (int length = index % 97; length > 0; --length) {
+      text += index % 3 == 0 ? "\u4E16" : "v";
+    }
+    text += "\";\n";
+    if (index % 1000 == 500) {
+      text += "/*" + std::string(70'000, '*') + "*/ long = \"" + std::string(70'000, '\n') + "\";";
+    }
+  }
+  for (const char* end : {"", "\"bad = \"1\";\n", "// no line break"}) {
+    const std::string whole = text + end;
+    const TableReading expected = readTable(whole);
+    EXPECT_EQ(expected.table->size(), 3001U);
+    EXPECT_EQ(expected.places.empty(), !whole.ends_with("1\";\n"));
+    const TableReading reading = readTable(encode(test::kUtf16Little, whole));
+    EXPECT_TRUE(reading.pairs == expected.pairs);
+    EXPECT_EQ(reading.places, expected.places);
+    // The same through repaired UTF-8.
+    EXPECT_TRUE(readTable(whole + "// \xFF").pairs == expected.pairs);
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::strings

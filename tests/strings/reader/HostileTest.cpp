@@ -1,0 +1,100 @@
+#include <chrono>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <tests/support/BinaryList.h>
+
+#include "TableReading.h"
+
+namespace orvanta::strings {
+namespace {
+
+// So many bytes that a reader whose time grows with their square would take minutes for any row.
+constexpr std::size_t kSize = 2'000'000;
+
+std::string repeated(const std::string& piece) {
+  std::string all;
+  while (all.size() < kSize) {
+    all += piece;
+  }
+  return all;
+}
+
+const std::string kXml = "<plist><dict><key>good</key><string>G</string>";
+
+void checkInTime(const std::string& bytes) {
+  const auto start = std::chrono::steady_clock::now();
+  const TableReading reading = readTable(bytes);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  ASSERT_NE(reading.table, nullptr);
+  EXPECT_EQ(reading.table->textForKey(HashedKey("good")), "G");
+}
+
+TEST(HostileTable, TakesLinearTimeWhateverComes) {
+  struct Row {
+    const char* name;
+    std::string head;
+    std::string unit;
+    std::string tail;
+  };
+  const Row rows[] = {
+      {"opening quotes", "", "\"", ""},
+      {"open strings", "", "k = \"x\n", ""},
+      {"open strings of both kinds", "", "k = \"x\nk = 'x\n", ""},
+      {"open strings with escapes", "", "k = \"\\\"\nk=\"\\", ""},
+      {"an open string before many statements", "\"k\" = \"x\n", "k = v;\n", ""},
+      {"escapes", "k = \"", "\\\"", ""},
+      {"open comments", "", "/*", ""},
+      {"open comments behind values", "", "k = v /*\n", ""},
+      {"a comment that ends far away", "", "k = v /*\n", "*/ !"},
+      {"chains of comments", "", "'k' /*\n'k' /*x*/ ", ""},
+      {"comments behind escaped quotes", "k = \"", "/*\\\";\n/**/", ""},
+      {"line comments", "", ";a=//", ""},
+      {"line comments and statements", "a'>", "k=v;\"//", "\"k\""},
+      {"line comments within lines", "", "k=v;(k='//", ""},
+      {"brackets", "k = ", "(", ""},
+      {"brackets on lines", "", "k = (\n", ""},
+      {"braces on lines", "", "k = {\n", ""},
+      {"braces with statements", "", "k = {k = v; ", ""},
+      {"data without end", "", "k = <00\n", ""},
+      {"semicolons", "", ";", ""},
+      {"statements by halves in a line", "", ";a=b!", ""},
+      {"open strings in a line", "", ";a='\\';", ""},
+      {"bare quotes", "k = \"", "\"x", "\";"},
+      {"bare quotes and semicolons", "k = \"", "\"; x", "\";\n"},
+      {"blank lines", "k = \"x", "\n", "!"},
+      {"spaces", "", " =", ""},
+      {"wide spaces", "", "\u00A0\u00E9", ""},
+      {"control characters", "", "\x01\x02=", ""},
+      {"marks of UTF-16", "", "\uFEFF\xFF", ""},
+      {"XML: nested dictionaries", kXml + "<key>a</key>", "<dict>", ""},
+      {"XML: crossed ends", kXml + "<key>a</key>" + repeated("<dict>"), "</array>", ""},
+      {"XML: comments without end", kXml, "<!--", ""},
+      {"XML: literal sections without end", kXml, "<![CDATA[", ""},
+      {"XML: instructions without end", kXml, "<?", ""},
+      {"XML: open quotes", kXml, "<a b='", ""},
+      {"XML: keys and blemishes", kXml, "<key>a</key>?", ""},
+      {"XML: references", kXml + "<key>", "&#x;", "</key><string>"},
+      {"XML: ampersands", kXml + "<key>a</key><string>", "&", ""},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    const std::string good = row.head.starts_with(kXml) ? "" : "good = G;\n";
+    checkInTime(good + row.head + repeated(row.unit) + row.tail);
+  }
+}
+
+// Decoding the long text for every pair that is lost would take minutes.
+TEST(HostileTable, TakesLinearTimeWhereNoPairOfABinaryListIsSound) {
+  test::BinaryList list{3, 4};
+  list.pair(test::asciiObject("good"), test::asciiObject("G"));
+  const auto huge = list.object(test::utf16Object(std::u16string(std::size_t{1} << 20, 0x4E2D)));
+  const auto flag = list.object("\x09");
+  for (int i = 0; i < 200000; ++i) {
+    list.pair(huge, flag);
+  }
+  checkInTime(list.bytes());
+}
+
+}  // namespace
+}  // namespace orvanta::strings

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/strings/reader/StringTableReader.h>
+
+namespace orvanta::strings {
+
+/// What came of reading a file, as texts for a row to hold.
+struct TableReading {
+  std::shared_ptr<const StringTable> table;
+  std::string pairs;   ///< "key=value", by key, with "|" between them; or `kNoTable`.
+  std::string places;  ///< "line:column" of every problem, with blanks between them.
+};
+
+inline constexpr const char* kNoTable = "no table";
+
+inline TableReading readTable(std::string_view bytes) {
+  TableReading reading;
+  reading.table = readStringTable(bytes, [&](const TableProblem& problem) {
+    EXPECT_FALSE(problem.message.empty());
+    reading.places += (reading.places.empty() ? "" : " ") + std::to_string(problem.line) + ":" +
+                      std::to_string(problem.column);
+  });
+  if (reading.table == nullptr) {
+    EXPECT_FALSE(reading.places.empty()) << "a refusal says why";
+    reading.pairs = kNoTable;
+    return reading;
+  }
+  std::map<std::string_view, std::string_view> sorted;
+  for (const StringTable::Entry& entry : reading.table->entries()) {
+    EXPECT_TRUE(sorted.emplace(entry.key, entry.value).second) << "twice: " << entry.key;
+  }
+  for (const auto& [key, value] : sorted) {
+    reading.pairs.append(reading.pairs.empty() ? "" : "|").append(key).append("=").append(value);
+  }
+  return reading;
+}
+
+struct TableRow {
+  const char* name;
+  std::string bytes;
+  std::string pairs;
+  std::string places{};  // None: nothing to complain of.
+};
+
+inline void checkTables(const std::vector<TableRow>& rows) {
+  for (const TableRow& row : rows) {
+    SCOPED_TRACE(row.name);
+    const TableReading reading = readTable(row.bytes);
+    EXPECT_EQ(reading.pairs, row.pairs);
+    EXPECT_EQ(reading.places, row.places);
+  }
+}
+
+}  // namespace orvanta::strings

@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include <orvanta/text/PathString.h>
+
+namespace orvanta {
+namespace {
+
+struct PathRow {
+  const char* text;
+  const char* last;
+  const char* parent;
+  const char* withoutExtension;
+};
+
+const PathRow kPathRows[] = {
+    {"/a/fr-CA.lproj", "fr-CA.lproj", "/a", "/a/fr-CA"},
+    {"/a/zh-Hant.lproj/", "zh-Hant.lproj", "/a", "/a/zh-Hant"},
+    {"/a/b.d/plain", "plain", "/a/b.d", "/a/b.d/plain"},
+    {"/a/.hidden", ".hidden", "/a", "/a/.hidden"},
+    {"/a/x..strings", "x..strings", "/a", "/a/x."},
+    {"/top", "top", "/", "/top"},
+    {"/", "/", "/", "/"},
+    {"plain", "plain", "", "plain"},
+    {"", "", "", ""},
+    {"file:///a/b%20c/T.strings", "T.strings", "file:///a/b%20c", "file:///a/b%20c/T"},
+    {"file:///top", "top", "file:///", "file:///top"},
+};
+
+TEST(PathString, TakesTextsApart) {
+  for (const PathRow& row : kPathRows) {
+    SCOPED_TRACE(row.text);
+    EXPECT_EQ(path::lastPathComponent(row.text), row.last);
+    EXPECT_EQ(path::stringByDeletingLastPathComponent(row.text), row.parent);
+    EXPECT_EQ(path::stringByDeletingPathExtension(row.text), row.withoutExtension);
+  }
+  EXPECT_TRUE(path::lastPathComponent({}).isAbsent());
+  EXPECT_TRUE(path::stringByDeletingLastPathComponent({}).isAbsent());
+  EXPECT_TRUE(path::stringByDeletingPathExtension({}).isAbsent());
+}
+
+}  // namespace
+}  // namespace orvanta
