@@ -1,20 +1,48 @@
-# What ./run, ./test and bench/run share: packages on demand, quiet builds. To be sourced from the
-# project's folder.
+# shellcheck shell=bash disable=SC2034  # What is set here is used by the scripts that source it.
+# What ./run, ./test and bench/run share: installing missing packages, quiet builds. Source it from
+# the project's root folder.
 
-# need PACKAGE... installs those Debian packages that are missing.
+# need PACKAGE... installs the Debian packages that are missing. When it cannot, it prints one line
+# and returns 1.
 need() {
-  local missing=()
+  if ! command -v dpkg-query >/dev/null; then
+    echo "not a Debian system: what these packages hold must be there already: $*" >&2
+    return 0
+  fi
+  local missing=() root=() package log
   for package in "$@"; do
     dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
       missing+=("$package")
   done
   ((${#missing[@]})) || return 0
-  local root=()
-  ((EUID == 0)) || root=(sudo)
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      echo "FAILED: run as root, install sudo, or install by hand: ${missing[*]}" >&2
+      return 1
+    fi
+    root=(sudo)
+  fi
   echo "installing: ${missing[*]}"
-  quietly "installing packages" "${root[@]}" apt-get update &&
-    quietly "installing packages" "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
-      apt-get install -y --no-install-recommends "${missing[@]}"
+  log=$(mktemp)
+  # A repository that cannot be reached matters only when a package is missing from the others.
+  "${root[@]}" apt-get update >"$log" 2>&1 || true
+  if "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1 </dev/null; then
+    rm -f "$log"
+    packages_installed=1
+    return 0
+  fi
+  echo "FAILED: cannot install packages: $(reason_in "$log") (whole output: $log)" >&2
+  return 1
+}
+
+# reason_in LOG prints the line of apt's output that tells best why it failed.
+reason_in() {
+  if grep -qE 'Temporary failure resolving|Could not (connect|resolve)|Cannot initiate the connection|Failed to fetch' "$1"; then
+    echo "the package servers cannot be reached; is there a network?"
+  else
+    grep -m 1 '^E: ' "$1" || tail -n 1 "$1"
+  fi
 }
 
 # quietly WHAT COMMAND... runs the command and shows its output only when it fails.
@@ -31,13 +59,26 @@ quietly() {
   return 1
 }
 
+# folder_of PRESET prints the build folder of a preset. The presets `release` and `run` share one.
+folder_of() {
+  case $1 in
+    release | run) echo build ;;
+    *) echo "build/$1" ;;
+  esac
+}
+
 # build PRESET [TARGET...] configures (where needed) and builds a preset.
 build() {
-  local preset=$1 folder=build
+  local preset=$1 folder configured
   shift
-  [[ $preset == release ]] || folder=build/$preset
-  [[ -f $folder/build.ninja && $folder/build.ninja -nt CMakePresets.json ]] ||
+  folder=$(folder_of "$preset")
+  configured=$folder/configured-preset
+  if [[ ${packages_installed:-} || ! -f $folder/build.ninja || CMakePresets.json -nt $configured ||
+    $(cat "$configured" 2>/dev/null) != "$preset" ]]; then
+    rm -f "$configured"
     quietly "configuring $preset" cmake --preset "$preset" || return
+    echo "$preset" >"$configured"
+  fi
   quietly "building $preset" cmake --build "$folder" -j "$(nproc)" ${1:+--target "$@"}
 }
 
