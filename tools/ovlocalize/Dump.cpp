@@ -1,12 +1,14 @@
 #include <iostream>
+#include <sstream>
 #include <vector>
 
 #include <orvanta/strings/reader/StringTableReader.h>
 
-#include "Answering.h"
 #include "Commands.h"
+#include "Escaping.h"
 #include "FileContents.h"
 #include "Json.h"
+#include "LanguageRequest.h"
 
 namespace ovlocalize {
 
@@ -30,32 +32,36 @@ std::string fileOf(const Settings& settings, const Source& source) {
   return path.str();
 }
 
-// On one line whatever it holds, in the escapes of the format.
-std::string quoted(std::string_view text) {
-  std::string line = "\"";
-  for (const char character : text) {
-    switch (character) {
-      case '\n':
-        line += "\\n";
-        break;
-      case '\r':
-        line += "\\r";
-        break;
-      case '\t':
-        line += "\\t";
-        break;
-      case '"':
-      case '\\':
-        line += '\\';
-        [[fallthrough]];
-      default:
-        line += character;
+// The problems of a table as they are reported, of which only the first are kept.
+class Problems {
+ public:
+  void add(const TableProblem& problem) {
+    ++count_;
+    if (first_.size() < kShown) {
+      first_.push_back(problem);
     }
   }
-  return line + '"';
-}
 
-void printForMachines(const StringTable& table) {
+  void print(const std::string& file) const {
+    std::ostringstream lines;
+    for (const TableProblem& problem : first_) {
+      lines << escaped(file) << ':' << problem.line << ':' << problem.column << ": "
+            << escaped(problem.message) << '\n';
+    }
+    if (count_ > first_.size()) {
+      lines << escaped(file) << ": " << count_ - first_.size() << " further problems\n";
+    }
+    std::cerr << lines.str();
+  }
+
+ private:
+  static constexpr std::size_t kShown = 1000;
+
+  std::vector<TableProblem> first_;
+  std::size_t count_ = 0;
+};
+
+void printJson(const StringTable& table) {
   Json object = Json::object();
   // Not through the object's operator[], which looks for the key among all that came before.
   auto& entries = object.get_ref<Json::object_t&>();
@@ -65,7 +71,7 @@ void printForMachines(const StringTable& table) {
   std::cout << printed(object) << '\n';
 }
 
-void printForPeople(const StringTable& table) {
+void printLines(const StringTable& table) {
   for (const auto& [key, value] : table.entries()) {
     std::cout << quoted(key) << " = " << quoted(value) << '\n';
   }
@@ -75,17 +81,14 @@ void printForPeople(const StringTable& table) {
 
 int dump(const Settings& settings, const Source& source) {
   const std::string file = fileOf(settings, source);
-  std::vector<TableProblem> problems;
+  Problems problems;
   const auto table = orvanta::strings::readStringTable(
-      contentsOf(file), [&](const TableProblem& problem) { problems.push_back(problem); });
+      contentsOf(file), [&](const TableProblem& problem) { problems.add(problem); });
   if (table == nullptr) {
-    throw Failure(nameOf(file) + " holds nothing like a table of strings");
+    throw Failure(nameOf(file) + " is not a strings file");
   }
-  for (const TableProblem& problem : problems) {
-    std::cerr << file << ':' << problem.line << ':' << problem.column << ": " << problem.message
-              << '\n';
-  }
-  settings.json ? printForMachines(*table) : printForPeople(*table);
+  problems.print(nameOf(file));
+  settings.json ? printJson(*table) : printLines(*table);
   return 0;
 }
 

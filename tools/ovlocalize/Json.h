@@ -5,9 +5,11 @@
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
 
+#include "Escaping.h"
+
 namespace ovlocalize {
 
-// Keys stay in the order in which a person reads them.
+// Keeps the order in which keys are added. A look-up by key is linear.
 using Json = nlohmann::ordered_json;
 
 /// Text, or null when absent.
@@ -27,9 +29,9 @@ using Json = nlohmann::ordered_json;
   return array;
 }
 
-/// As text for a file or a pipe; bytes that are not UTF-8 come out as U+FFFD.
+/// As text for a file, a pipe or a terminal; bytes that are not UTF-8 come out as U+FFFD.
 [[nodiscard]] inline std::string printed(const Json& json) {
-  return json.dump(2, ' ', false, Json::error_handler_t::replace);
+  return escapedJson(json.dump(2, ' ', false, Json::error_handler_t::replace));
 }
 
 }  // namespace ovlocalize

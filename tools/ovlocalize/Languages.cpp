@@ -3,8 +3,9 @@
 #include <string_view>
 #include <vector>
 
-#include "Answering.h"
+#include "Escaping.h"
 #include "Json.h"
+#include "LanguageRequest.h"
 
 namespace ovlocalize {
 
@@ -35,7 +36,7 @@ std::vector<Row> catalogue() {
   return rows;
 }
 
-void printForMachines(const std::vector<Row>& rows) {
+void printJson(const std::vector<Row>& rows) {
   Json array = Json::array();
   for (const Row& row : rows) {
     array.push_back({{"key", toJson(row.key)},
@@ -49,14 +50,15 @@ void printForMachines(const std::vector<Row>& rows) {
   std::cout << printed(array) << '\n';
 }
 
-void printForPeople(const std::vector<Row>& rows) {
+void printLines(const std::vector<Row>& rows) {
   for (const Row& row : rows) {
-    std::cout << row.key << '\t' << row.source << '\t' << row.path();
+    std::cout << oneLine(row.key) << '\t' << row.source << '\t' << oneLine(row.path());
     if (row.locale->version() != orvanta::OVOrvantaLanguageVersionKey) {
-      std::cout << "\tversion " << row.locale->version();
+      std::cout << "\tversion " << oneLine(row.locale->version());
     }
     if (row.locale->fallbackLocales().isPresent()) {
-      std::cout << "\talso " << orvanta::componentsJoinedBy(',', row.locale->fallbackLocales());
+      std::cout << "\talso "
+                << oneLine(orvanta::componentsJoinedBy(',', row.locale->fallbackLocales()));
     }
     std::cout << '\n';
   }
@@ -67,7 +69,7 @@ void printForPeople(const std::vector<Row>& rows) {
 int languages(const Settings& settings) {
   installPlatform(settings);
   const std::vector<Row> rows = catalogue();
-  settings.json ? printForMachines(rows) : printForPeople(rows);
+  settings.json ? printJson(rows) : printLines(rows);
   return 0;
 }
 

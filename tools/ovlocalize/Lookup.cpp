@@ -1,7 +1,8 @@
 #include <iostream>
 
-#include "Answering.h"
+#include "Escaping.h"
 #include "Json.h"
+#include "LanguageRequest.h"
 
 namespace ovlocalize {
 
@@ -15,7 +16,7 @@ int lookup(const Settings& settings, const Request& request, const std::vector<s
     if (settings.json) {
       array.push_back({{"key", key}, {"text", toJson(text)}});
     } else {
-      std::cout << text << '\n';
+      std::cout << forOutput(text.str()) << '\n';
     }
   }
   if (settings.json) {

@@ -1,7 +1,8 @@
 #include <iostream>
 
-#include "Answering.h"
+#include "Escaping.h"
 #include "Json.h"
+#include "LanguageRequest.h"
 
 namespace ovlocalize {
 
@@ -18,9 +19,9 @@ int match(const Settings& settings, const Request& request) {
               << '\n';
     return 0;
   }
-  std::cout << "requested   " << requested << '\n'
-            << "matched     " << matched << '\n'
-            << "in use      " << localizer.preferredLocales() << '\n'
+  std::cout << "requested   " << oneLine(requested) << '\n'
+            << "matched     " << oneLine(matched) << '\n'
+            << "in use      " << oneLine(localizer.preferredLocales()) << '\n'
             << "direction   "
             << (localizer.rightToLeftOrientation() ? "right to left" : "left to right") << '\n';
   return 0;

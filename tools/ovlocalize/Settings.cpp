@@ -1,8 +1,11 @@
 #include "Settings.h"
 
 #include <filesystem>
+#include <iostream>
 
 #include <orvanta/standard/StandardPlatform.h>
+
+#include "Escaping.h"
 
 namespace ovlocalize {
 
@@ -16,6 +19,9 @@ void installPlatform(const Settings& settings) {
   options.cachesPath = settings.cache;
   options.deviceLanguages = settings.devices;
   options.logSink = settings.logSink;
+  if (!options.logSink) {
+    options.logSink = [](std::string_view line) { std::cerr << escaped(line) << '\n'; };
+  }
   orvanta::platform::Platform::install(orvanta::standard::makeStandardPlatform(options));
 }
 

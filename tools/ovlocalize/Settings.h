@@ -9,13 +9,13 @@
 
 namespace ovlocalize {
 
-/// What the options before the command say.
+/// The options that every command takes.
 struct Settings {
   std::string bundle;  ///< The main bundle's folder; empty: none given.
   std::string cache;   ///< The caches directory; empty: the user's.
   std::optional<std::vector<std::string>> devices;  ///< The device's languages.
   bool json = false;
-  std::function<void(std::string_view)> logSink;  ///< Absent: standard error.
+  std::function<void(std::string_view)> logSink;  ///< Absent: standard error, a line each.
 };
 
 /// Why a command could not answer: one line for standard error.

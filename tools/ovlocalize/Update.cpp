@@ -3,37 +3,16 @@
 #include <orvanta/cache/OVStringCache.h>
 
 #include "Commands.h"
+#include "Escaping.h"
 #include "FileContents.h"
-#include "PayloadFromJson.h"
+#include "Json.h"
+#include "JsonPayload.h"
 
 namespace ovlocalize {
 
 namespace {
 
 using orvanta::StringsUpdate;
-
-// Without the library's own "[json.exception.parse_error.101] ".
-std::string_view reasonOf(const Json::exception& error) {
-  constexpr std::string_view kEndOfNumber = "] ";
-  const std::string_view message = error.what();
-  const std::size_t end = message.find(kEndOfNumber);
-  return message.starts_with('[') && end != std::string_view::npos
-             ? message.substr(end + kEndOfNumber.size())
-             : message;
-}
-
-Json parse(const std::string& file) {
-  Json json;
-  try {
-    json = Json::parse(contentsOf(file));
-  } catch (const Json::exception& error) {
-    throw Failure(nameOf(file) + " is no JSON: " + std::string(reasonOf(error)));
-  }
-  if (!json.is_object()) {
-    throw Failure(nameOf(file) + " is no JSON object from language to payload");
-  }
-  return json;
-}
 
 std::string_view nameOf(StringsUpdate::Result result) {
   switch (result) {
@@ -54,9 +33,9 @@ Json toJson(const StringsUpdate& update) {
           {"reason", ovlocalize::toJson(update.reason)}};
 }
 
-void printForPeople(const StringsUpdate& update) {
-  std::cout << update.language << '\t' << nameOf(update.result) << '\t'
-            << (update.reason.isPresent() ? update.reason : update.file.path()) << '\n';
+void printLine(const StringsUpdate& update) {
+  std::cout << oneLine(update.language) << '\t' << nameOf(update.result) << '\t'
+            << oneLine(update.reason.isPresent() ? update.reason : update.file.path()) << '\n';
 }
 
 }  // namespace
@@ -66,18 +45,20 @@ int update(const Settings& settings, const Download& download) {
   // The report below says all that the log would, and more.
   quiet.logSink = [](std::string_view) {};
   installPlatform(quiet);
-  const orvanta::StringsPayload strings = payloadFromJson(parse(download.file));
+  const orvanta::StringsPayload strings =
+      payloadFromJson(contentsOf(download.file), nameOf(download.file));
   Json array = Json::array();
   bool failed = false;
+  const auto report = [&](const StringsUpdate& update) {
+    failed |= update.result == StringsUpdate::Result::failed;
+    if (settings.json) {
+      array.push_back(toJson(update));
+    } else {
+      printLine(update);
+    }
+  };
   orvanta::OVStringCache().updateStrings(strings, download.namespaceName, download.bundleName,
-                                         [&](const StringsUpdate& update) {
-                                           failed |= update.result == StringsUpdate::Result::failed;
-                                           if (settings.json) {
-                                             array.push_back(toJson(update));
-                                           } else {
-                                             printForPeople(update);
-                                           }
-                                         });
+                                         report);
   if (settings.json) {
     std::cout << printed(array) << '\n';
   }

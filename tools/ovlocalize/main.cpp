@@ -1,15 +1,13 @@
-// ovlocalize: what the library knows about a folder of languages, from a shell.
+// ovlocalize: asks the library about a folder of languages from a shell.
 #include <functional>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
+#include "Escaping.h"
 
 namespace {
-
-using ovlocalize::Request;
-using ovlocalize::Settings;
 
 constexpr const char* kDescription =
     "Asks the localization library about an application's languages: the .lproj folders in its\n"
@@ -20,138 +18,185 @@ constexpr const char* kFooter =
     "  ovlocalize --bundle demo/bundle match --country CA fr en\n"
     "  ovlocalize --bundle demo/bundle --device ar lookup signin.title\n"
     "\n"
-    "Ends with 0 when the question was answered, whatever the answer; with 1 and one line on\n"
-    "standard error when it could not be; with 2 and such a line when it was not understood.";
+    "Exit status: 0 when the command did its work, whatever the answer; 1 with one line on "
+    "standard\n"
+    "error when it could not; 2 with one line when the arguments are wrong.";
 
-// What an unset shell variable gives must not stand for the default: that may be another cache.
+// An empty word, such as an unset shell variable gives, must not mean the default: that may be the
+// cache of another application.
 std::string refuseEmpty(const std::string& word) {
   return word.empty() ? "must not be empty" : "";
 }
 
-void addRequestCountry(CLI::App& command, Request& request) {
-  command
-      .add_option_function<std::string>(
-          "--country", [&request](const std::string& country) { request.country = country; },
-          "A country: each two-letter language is first tried with it (fr: fr-CA, then fr)")
-      ->type_name("CC");
-}
+/// The command's arguments. Each command has a function of its own, which adds its options and what
+/// to run.
+class CommandLine {
+ public:
+  CommandLine() : app_(kDescription, "ovlocalize") {
+    app_.footer(kFooter);
+    app_.require_subcommand(1);
+    app_.fallthrough();
+    addSettings();
+    addLanguages();
+    addMatch();
+    addLookup();
+    addDump();
+    addUpdate();
+    addClear();
+  }
 
-// Ends in the status of the command that was chosen.
-int run(int argc, char** argv) {
-  CLI::App app(kDescription, "ovlocalize");
-  app.footer(kFooter);
-  app.require_subcommand(1);
-  app.fallthrough();
-
-  Settings settings;
-  std::vector<std::string> devices;
-  app.add_option("--bundle", settings.bundle,
-                 "The application's main bundle: the folder that holds its .lproj folders\n"
-                 "(default: the folder of this command)")
-      ->check(refuseEmpty)
-      ->type_name("DIR");
-  app.add_option("--cache", settings.cache,
-                 "The caches directory that holds, or will hold, OrvantaLocalizations\n"
-                 "(default: this command's own folder in $XDG_CACHE_HOME or ~/.cache)")
-      ->check(refuseEmpty)
-      ->type_name("DIR");
-  const CLI::Option* device =
-      app.add_option("--device", devices,
-                     "The device's languages, best first (default: LANGUAGE, LC_ALL,\n"
-                     "LC_MESSAGES and LANG)")
-          ->delimiter(',')
-          ->allow_extra_args(false)
-          ->type_name("a,b");
-  app.add_flag("--json", settings.json, "Answer in JSON, for machines");
-
-  Request request;
-  std::vector<std::string> keys;
-  std::function<int()> chosen;
-
-  app.add_subcommand("languages", "List the languages that exist, shipped and downloaded")
-      ->callback([&] { chosen = [&] { return ovlocalize::languages(settings); }; });
-
-  CLI::App* match = app.add_subcommand("match", "Show what a request for languages comes to");
-  match
-      ->add_option("locales", request.locales,
-                   "What is asked for, best first (default: the device's languages)")
-      ->type_name("LOCALE");
-  addRequestCountry(*match, request);
-  match->callback([&] { chosen = [&] { return ovlocalize::match(settings, request); }; });
-
-  CLI::App* lookup = app.add_subcommand("lookup", "Print the texts of keys, one a line");
-  lookup
-      ->add_option("--locales", request.locales,
-                   "The languages to look in, best first (default: the device's languages)")
-      ->delimiter(',')
-      ->allow_extra_args(false)
-      ->type_name("a,b");
-  addRequestCountry(*lookup, request);
-  lookup->add_option("keys", keys, "The keys to look up")->required()->type_name("KEY");
-  lookup->callback([&] { chosen = [&] { return ovlocalize::lookup(settings, request, keys); }; });
-
-  ovlocalize::Source source;
-  CLI::App* dump = app.add_subcommand(
-      "dump",
-      "Print what a strings file holds, whichever of its forms it is in; what is wrong with\n"
-      "it goes to standard error as FILE:LINE:COLUMN: message");
-  CLI::Option* file = dump->add_option("file", source.file, "The strings file")->type_name("FILE");
-  dump->add_option("--language", source.language, "Instead of a file: the table of this language")
-      ->type_name("ID")
-      ->excludes(file);
-  dump->callback([&] {
-    if (source.file.empty() && source.language.empty()) {
-      throw CLI::ValidationError("dump", "a FILE or --language ID is required");
+  // Returns the exit status.
+  int run(int argc, char** argv) {
+    const int status = parseAndRun(argc, argv);
+    if (!std::cout.flush()) {
+      throw ovlocalize::Failure("the answer could not be written");
     }
-    chosen = [&] { return ovlocalize::dump(settings, source); };
-  });
-
-  ovlocalize::Download download;
-  CLI::App* update = app.add_subcommand(
-      "update",
-      "Write downloaded tables into the cache: an object from language to payload, as the\n"
-      "network gave it; the table of a payload is found under B.N.zantorData");
-  update->add_option("--bundle-name", download.bundleName, "B, the first level of a payload")
-      ->required()
-      ->type_name("B");
-  update->add_option("--namespace", download.namespaceName, "N, the second level of a payload")
-      ->required()
-      ->type_name("N");
-  update->add_option("file", download.file, "The JSON file, or - for standard input")
-      ->required()
-      ->type_name("FILE.json");
-  update->callback([&] { chosen = [&] { return ovlocalize::update(settings, download); }; });
-
-  app.add_subcommand("clear", "Delete every downloaded table")->callback([&] {
-    chosen = [&] { return ovlocalize::clear(settings); };
-  });
-
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::CallForHelp& help) {
-    return app.exit(help);
-  } catch (const CLI::ParseError& error) {
-    std::cerr << "ovlocalize: " << error.what() << " (see ovlocalize --help)\n";
-    return 2;
+    return status;
   }
-  if (device->count() > 0) {
-    std::erase(devices, "");
-    settings.devices = devices;
+
+ private:
+  int parseAndRun(int argc, char** argv) {
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::CallForHelp& help) {
+      return app_.exit(help);
+    } catch (const CLI::ParseError& error) {
+      std::cerr << "ovlocalize: " << ovlocalize::escaped(error.what())
+                << " (see ovlocalize --help)\n";
+      return 2;
+    }
+    if (app_.count("--device") > 0) {
+      std::erase(devices_, "");
+      settings_.devices = devices_;
+    }
+    return chosen_();
   }
-  const int status = chosen();
-  if (!std::cout.flush()) {
-    throw ovlocalize::Failure("the answer could not be written");
+
+  CLI::App* addCommand(const char* name, const char* help, std::function<int()> command) {
+    CLI::App* added = app_.add_subcommand(name, help);
+    added->callback([this, command = std::move(command)] { chosen_ = command; });
+    return added;
   }
-  return status;
-}
+
+  void addSettings() {
+    app_.add_option("--bundle", settings_.bundle,
+                    "The application's main bundle: the folder that holds its .lproj folders\n"
+                    "(default: the folder of this command)")
+        ->check(refuseEmpty)
+        ->type_name("DIR");
+    app_.add_option("--cache", settings_.cache,
+                    "The caches directory that holds, or will hold, OrvantaLocalizations\n"
+                    "(default: this command's own folder in $XDG_CACHE_HOME or ~/.cache)")
+        ->check(refuseEmpty)
+        ->type_name("DIR");
+    app_.add_option("--device", devices_,
+                    "The device's languages, best first (default: LANGUAGE, LC_ALL,\n"
+                    "LC_MESSAGES and LANG)")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->type_name("a,b");
+    app_.add_flag("--json", settings_.json, "Print JSON");
+  }
+
+  void addCountry(CLI::App& command) {
+    command
+        .add_option_function<std::string>(
+            "--country", [this](const std::string& country) { request_.country = country; },
+            "A country: each two-letter language is first tried with it (fr: fr-CA, then fr)")
+        ->type_name("CC");
+  }
+
+  void addLanguages() {
+    addCommand("languages", "List the languages that exist, shipped and downloaded",
+               [this] { return ovlocalize::languages(settings_); });
+  }
+
+  void addMatch() {
+    CLI::App* match = addCommand("match", "Show which languages a request is matched with",
+                                 [this] { return ovlocalize::match(settings_, request_); });
+    match
+        ->add_option("locales", request_.locales,
+                     "The languages asked for, best first (default: the device's languages)")
+        ->type_name("LOCALE");
+    addCountry(*match);
+  }
+
+  void addLookup() {
+    CLI::App* lookup = addCommand("lookup", "Print the texts of keys, one a line", [this] {
+      return ovlocalize::lookup(settings_, request_, keys_);
+    });
+    lookup
+        ->add_option("--locales", request_.locales,
+                     "The languages to look in, best first (default: the device's languages)")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->type_name("a,b");
+    addCountry(*lookup);
+    lookup->add_option("keys", keys_, "The keys to look up")->required()->type_name("KEY");
+  }
+
+  void addDump() {
+    CLI::App* dump =
+        addCommand("dump",
+                   "Print the entries of a strings file in any of its forms; problems in it\n"
+                   "go to standard error as FILE:LINE:COLUMN: message",
+                   [this] { return ovlocalize::dump(settings_, source_); });
+    CLI::Option* file =
+        dump->add_option("file", source_.file, "The strings file, or - for standard input")
+            ->check(refuseEmpty)
+            ->type_name("FILE");
+    CLI::Option* language = dump->add_option("--language", source_.language,
+                                             "Instead of a file: the table of this language")
+                                ->check(refuseEmpty)
+                                ->type_name("ID")
+                                ->excludes(file);
+    dump->parse_complete_callback([file, language] {
+      if (file->count() + language->count() == 0) {
+        throw CLI::ValidationError("dump", "a FILE or --language ID is required");
+      }
+    });
+  }
+
+  void addUpdate() {
+    CLI::App* update =
+        addCommand("update",
+                   "Write downloaded tables into the cache. The file holds an object from\n"
+                   "language to payload; the table of a payload is under B.N.zantorData",
+                   [this] { return ovlocalize::update(settings_, download_); });
+    update->add_option("--bundle-name", download_.bundleName, "B, the first level of a payload")
+        ->required()
+        ->type_name("B");
+    update->add_option("--namespace", download_.namespaceName, "N, the second level of a payload")
+        ->required()
+        ->type_name("N");
+    update->add_option("file", download_.file, "The JSON file, or - for standard input")
+        ->required()
+        ->check(refuseEmpty)
+        ->type_name("FILE.json");
+  }
+
+  void addClear() {
+    addCommand("clear", "Delete every downloaded table",
+               [this] { return ovlocalize::clear(settings_); });
+  }
+
+  CLI::App app_;
+  ovlocalize::Settings settings_;
+  std::vector<std::string> devices_;
+  ovlocalize::Request request_;
+  std::vector<std::string> keys_;
+  ovlocalize::Source source_;
+  ovlocalize::Download download_;
+  std::function<int()> chosen_;
+};
 
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    return run(argc, argv);
+    return CommandLine().run(argc, argv);
   } catch (const std::exception& error) {
-    std::cerr << "ovlocalize: " << error.what() << '\n';
+    std::cerr << "ovlocalize: " << ovlocalize::escaped(error.what()) << '\n';
     return 1;
   }
 }

@@ -1,4 +1,4 @@
-#include "Answering.h"
+#include "LanguageRequest.h"
 
 namespace ovlocalize {
 
@@ -6,16 +6,12 @@ using orvanta::Localizer;
 using orvanta::String;
 using orvanta::StringList;
 
-StringList listOf(const std::vector<std::string>& words) {
-  return words.empty() ? StringList() : StringList(std::vector<String>(words.begin(), words.end()));
-}
-
 StringList adopt(const Request& request) {
   Localizer& localizer = Localizer::sharedLocalizer();
-  StringList requested = listOf(request.locales);
-  if (requested.isAbsent()) {
-    requested = localizer.devicePreferredLocales();
-  }
+  const std::vector<std::string>& locales = request.locales;
+  const StringList requested =
+      locales.empty() ? localizer.devicePreferredLocales()
+                      : StringList(std::vector<String>(locales.begin(), locales.end()));
   localizer.updatePreferredLocales(requested,
                                    request.country ? String(*request.country) : String());
   return localizer.originalLocales();

@@ -1,0 +1,136 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+class Command : public testing::Test {
+ public:
+  Command() {
+    std::string name = (fs::temp_directory_path() / "ovlocalize-XXXXXX").string();
+    folder_ = ::mkdtemp(name.data());
+  }
+  ~Command() override { fs::remove_all(folder_); }
+  Command(const Command&) = delete;
+  Command& operator=(const Command&) = delete;
+
+ protected:
+  // Runs a shell command in which $OV is the program, in a folder of the test's own.
+  void run(const std::string& command) {
+    const std::string line = "cd " + folder_.string() +
+                             " && OV='" OVLOCALIZE " --bundle " BUNDLE " --cache '$PWD; { " +
+                             command + "\n} >out 2>err </dev/null";
+    const int result = std::system(line.c_str());
+    status_ = WIFEXITED(result) ? WEXITSTATUS(result) : -1;
+    out_ = contents("out");
+    err_ = contents("err");
+  }
+
+  void write(const std::string& name, const std::string& text) const {
+    std::ofstream(folder_ / name, std::ios::binary) << text;
+  }
+
+  [[nodiscard]] std::string contents(const std::string& name) const {
+    std::ostringstream text;
+    text << std::ifstream(folder_ / name, std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  fs::path folder_;
+  int status_ = 0;
+  std::string out_;
+  std::string err_;
+};
+
+TEST_F(Command, RefusesInOneLine) {
+  write("bad.json", "{\"fr\": ");
+  const struct {
+    const char* name;
+    const char* command;
+    int status;
+    const char* message;
+  } rows[] = {
+      {"nothing", "$OV", 2, "A subcommand is required"},
+      {"unknown command", "$OV no", 2, "A subcommand is required"},
+      {"unknown option", "$OV languages --no", 2, "not expected: --no"},
+      {"too many arguments", "$OV clear a", 2, "not expected: a"},
+      {"option without value", "$OV match --country", 2, "--country"},
+      {"empty folder", "$OV --cache '' languages", 2, "must not be empty"},
+      {"no such bundle", "${OV%% *} --bundle no languages", 1, "no such bundle folder: no"},
+      {"dump of nothing", "$OV dump", 2, "a FILE or --language ID is required"},
+      {"dump of two", "$OV dump --language fr x", 2, "excludes"},
+      {"dump of no language", "$OV dump --language xx", 1, "no table for the language xx"},
+      {"missing file", "$OV dump no", 1, "cannot read no: No such file"},
+      {"folder", "$OV dump .", 1, "not a regular file"},
+      {"pipe without writer", "mkfifo pipe; timeout 9 $OV dump pipe", 1, "not a regular file"},
+      {"endless device", "timeout 9 $OV dump /dev/zero", 1, "not a regular file"},
+      {"no JSON", "$OV update --bundle-name a --namespace b bad.json", 1, "bad.json is no JSON"},
+      {"JSON array", "echo [] | $OV update --bundle-name a --namespace b -", 1, "no JSON object"},
+      {"full disk", "$OV languages >/dev/full", 1, "could not be written"},
+      {"help on a full disk", "$OV --help >/dev/full", 1, "could not be written"},
+      {"line feed and escape in a name", "$OV dump \"$(printf 'a\\nb\\033[31m')\"", 1,
+       "cannot read a\\nb\\U001B[31m: "},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    run(row.command);
+    EXPECT_EQ(status_, row.status);
+    EXPECT_EQ(out_, "");
+    EXPECT_THAT(err_, testing::StartsWith("ovlocalize: "));
+    EXPECT_THAT(err_, HasSubstr(row.message));
+    EXPECT_EQ(err_.find('\n'), err_.size() - 1) << err_;
+  }
+}
+
+TEST_F(Command, UpdatesOnlyWhatHasTexts) {
+  write("good.json", R"({"fr": {"a": {"b": {"zantorData": {"k": "1", "k": "2"}}}}})");
+  run("$OV update --bundle-name a --namespace b good.json");
+  ASSERT_EQ(out_, "fr\twritten\t" + folder_.string() +
+                      "/OrvantaLocalizations/fr.lproj/Localizable.strings\n");
+  const std::string nested(100'000, '[');
+  for (const std::string& table :
+       {std::string(R"({"k": 1})"), std::string(R"({"k": [{"k": "v"}]})"),
+        R"({"k": )" + nested + std::string(nested.size(), ']') + "}"}) {
+    SCOPED_TRACE(table.substr(0, 40));
+    write("empty.json", R"({"es": 5, "fr": {"a": {"b": {"zantorData": )" + table + "}}}}");
+    run("$OV update --bundle-name a --namespace b empty.json");
+    EXPECT_EQ(status_, 0) << err_;
+    EXPECT_THAT(out_, testing::StartsWith("fr\tskipped\t"));
+    run("$OV dump --language fr");
+    EXPECT_EQ(out_, "\"k\" = \"2\"\n");
+  }
+}
+
+TEST_F(Command, ForgesNoLineAndSendsNoEscapeToATerminal) {
+  write("evil.json", R"({"x\nfr\twritten": {"a": {"b": {"zantorData": {"k": "v"}}}},
+                        "fr": {"a": {"b": {"zantorData": {"k": "\\U001B[31mred\\U009B"}}}}})");
+  run("$OV update --bundle-name a --namespace b evil.json");
+  EXPECT_THAT(out_, testing::StartsWith("x\\nfr\\twritten\tfailed\t"));
+  run("$OV dump --language fr");
+  EXPECT_EQ(out_, "\"k\" = \"\\U001B[31mred\\U009B\"\n");
+  run("$OV lookup --locales fr k");
+  EXPECT_EQ(out_, "\x1B[31mred\xC2\x9B\n") << "to a file the text goes as it is";
+  run("$OV --json lookup --locales fr k");
+  EXPECT_THAT(out_, HasSubstr(R"("text": "\u001b[31mred\u009B")"));
+  run("script -qec \"$OV lookup --locales fr k\" /dev/null");
+  EXPECT_EQ(out_, "\\U001B[31mred\\U009B\r\n") << "on a terminal";
+}
+
+TEST_F(Command, ListsTheFirstOfManyProblems) {
+  write("many", "<plist><dict>" + std::string(1'000'000, '<'));
+  run("timeout 20 $OV dump many");
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(std::count(err_.begin(), err_.end(), '\n'), 1001);
+  EXPECT_THAT(err_, HasSubstr("many: 999001 further problems\n"));
+}
+
+}  // namespace
