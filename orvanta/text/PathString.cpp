@@ -7,9 +7,18 @@ namespace orvanta::path {
 
 namespace {
 
-constexpr std::string_view kFileScheme = "file://";
+// The part of a "file:" URL before its path: the scheme and, behind "//", the authority. Empty for
+// other text.
+std::string_view beforePath(std::string_view text) {
+  constexpr std::string_view kScheme = "file:";
+  if (!text.starts_with(kScheme)) {
+    return {};
+  }
+  const bool hasAuthority = text.substr(kScheme.size()).starts_with("//");
+  return text.substr(0, hasAuthority ? text.find('/', kScheme.size() + 2) : kScheme.size());
+}
 
-// The text without the "/" that end it; of "/" and "//" one is left.
+// The text without its trailing "/"; "/" stays of a text that holds nothing else.
 std::string_view withoutTrailingSlashes(std::string_view text) {
   while (text.size() > 1 && text.ends_with('/')) {
     text.remove_suffix(1);
@@ -33,11 +42,10 @@ String stringByDeletingLastPathComponent(const String& text) {
   if (text.isAbsent()) {
     return {};
   }
-  const std::string_view scheme =
-      text.view().starts_with(kFileScheme) ? kFileScheme : std::string_view();
-  const std::string_view whole = withoutTrailingSlashes(text.view().substr(scheme.size()));
+  const std::string_view prefix = beforePath(text.view());
+  const std::string_view whole = withoutTrailingSlashes(text.view().substr(prefix.size()));
   const std::size_t slash = whole.rfind('/');
-  std::string parent(scheme);
+  std::string parent(prefix);
   if (slash == 0) {
     parent += '/';
   } else if (slash != std::string_view::npos) {

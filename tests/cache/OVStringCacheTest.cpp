@@ -140,8 +140,12 @@ TEST(CacheStorage, FormsTheURLOfATable) {
         URL::URLWithString(row.folder), row.language);
     EXPECT_EQ(url.absoluteString(), row.url) << row.language;
   }
-  const URL file = URL::URLWithString("file:///c/a%20b/x.strings");
-  EXPECT_EQ(OVStringCacheUtilities::directoryFromFileURL(file).absoluteString(), "file:///c/a%20b");
+  const std::pair<const char*, const char*> parents[] = {
+      {"file:///c/a%20b/x.strings", "/c/a b"}, {"file://localhost/x", "/"}, {"file:/x", "/"}};
+  for (const auto& [file, path] : parents) {
+    EXPECT_EQ(OVStringCacheUtilities::directoryFromFileURL(URL::URLWithString(file)).path(), path)
+        << file;
+  }
 }
 
 }  // namespace

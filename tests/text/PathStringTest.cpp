@@ -24,6 +24,11 @@ const PathRow kPathRows[] = {
     {"", "", "", ""},
     {"file:///a/b%20c/T.strings", "T.strings", "file:///a/b%20c", "file:///a/b%20c/T"},
     {"file:///top", "top", "file:///", "file:///top"},
+    {"file://localhost/a/b", "b", "file://localhost/a", "file://localhost/a/b"},
+    {"file://localhost/top", "top", "file://localhost/", "file://localhost/top"},
+    {"file:/top", "top", "file:/", "file:/top"},
+    {"file:/a/b.x/", "b.x", "file:/a", "file:/a/b"},
+    {"a/file:/b", "b", "a/file:", "a/file:/b"},
 };
 
 TEST(PathString, TakesTextsApart) {
