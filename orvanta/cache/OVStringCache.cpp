@@ -110,7 +110,8 @@ OVLocaleDictionary OVStringCache::availableLanguages() {
 
 const OVLocaleDictionary& OVStringCache::languages() {
   if (availableLanguages_.isAbsent()) {
-    OVLocaleDictionary::Map locales = mainBundleLocales().entries();
+    const OVLocaleDictionary shipped = mainBundleLocales();
+    OVLocaleDictionary::Map locales = shipped.entries();
     for (const auto& [key, locale] : cachedLanguages()) {
       locales.insert_or_assign(key, locale);
     }

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include <orvanta/locale/LanguagePart.h>
+#include <orvanta/text/Utf8.h>
 
 namespace orvanta {
 
@@ -22,7 +23,7 @@ bool isShort(std::string_view identifier) noexcept {
   const std::string_view first = identifier.substr(0, kShortestSplit);
   return !std::all_of(first.begin(), first.end(), isAscii) &&
          identifier.size() < kShortestSplit * kMostBytesPerUnit &&
-         String::fromStatic(identifier).utf16Length() < kShortestSplit;
+         utf8::utf16Length(identifier) < kShortestSplit;
 }
 
 }  // namespace
@@ -31,10 +32,6 @@ std::string_view languagePart(std::string_view identifier) noexcept {
   const std::size_t hyphen = identifier.find('-');
   return hyphen == std::string_view::npos || isShort(identifier) ? identifier
                                                                  : identifier.substr(0, hyphen);
-}
-
-String languagePart(const String& identifier) {
-  return identifier.part(languagePart(identifier.view()));
 }
 
 }  // namespace orvanta

@@ -15,8 +15,8 @@ namespace orvanta::platform {
 
 /// The one rule of string look-up: `text` when it was found, an empty text included; else `value`
 /// when it is not empty; else `key`, as the handle that was passed in.
-[[nodiscard]] inline const String& lookUpResult(const String& text, const String& key,
-                                                const String& value) noexcept {
+[[nodiscard]] inline String lookUpResult(const String& text, const String& key,
+                                         const String& value) noexcept {
   return text.isPresent() ? text : value.empty() ? key : value;
 }
 

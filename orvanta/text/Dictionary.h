@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bit>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -10,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include <orvanta/text/LifetimeBound.h>
+#include <orvanta/text/NoDestructor.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/TextHash.h>
 
@@ -17,51 +20,75 @@ namespace orvanta {
 
 /// An immutable dictionary from text to `Value` behind a shared handle, or absent.
 ///
-/// An absent dictionary and an empty one are different values. The order of entries is the
-/// dictionary's own. Copying a handle shares the dictionary; it may be read from any thread.
+/// An absent dictionary and an empty one are different values. The order of entries is unspecified.
+/// Copying a handle shares the dictionary. Nothing changes a dictionary once it is made, so
+/// different threads may read it through handles of their own.
+///
+/// What leads into the dictionary (`entries`, `find`, iterators) cannot be asked of a temporary
+/// handle: it would dangle. A range-based `for` over a temporary is fine.
 template <typename Value>
 class Dictionary {
  public:
-  /// What a dictionary is built in before it is handed out.
+  /// The mutable form, in which the entries are collected.
   using Map = std::unordered_map<String, Value, TextHash, TextEqual>;
 
   /// Absent.
   Dictionary() noexcept = default;
+  /// Throws `std::bad_alloc`.
   explicit Dictionary(Map entries)
       : entries_(std::make_shared<const Indexed>(std::move(entries))) {}
+  /// Of several entries with one key the first counts. Throws `std::bad_alloc`.
   Dictionary(std::initializer_list<std::pair<const String, Value>> entries)
       : Dictionary(Map(entries)) {}
 
   [[nodiscard]] bool isAbsent() const noexcept { return entries_ == nullptr; }
   [[nodiscard]] bool isPresent() const noexcept { return entries_ != nullptr; }
+  /// No entries: true for the empty dictionary and for absent.
   [[nodiscard]] bool empty() const noexcept { return size() == 0; }
-  [[nodiscard]] std::size_t size() const noexcept { return entries().size(); }
+  [[nodiscard]] std::size_t size() const noexcept { return isAbsent() ? 0 : entries_->map.size(); }
 
-  /// The value under exactly this key, or null. Valid as long as a handle to this dictionary lives.
-  [[nodiscard]] const Value* find(const HashedKey& key) const noexcept {
+  /// The value under exactly this key, or null. Valid as long as some handle to this dictionary
+  /// lives.
+  [[nodiscard]] const Value* find(const HashedKey& key) const& noexcept ORVANTA_LIFETIME_BOUND {
     return isAbsent() ? nullptr : entries_->find(key);
   }
-  [[nodiscard]] const Value* find(std::string_view key) const noexcept {
+  [[nodiscard]] const Value* find(std::string_view key) const& noexcept ORVANTA_LIFETIME_BOUND {
     return find(HashedKey(key));
   }
+  /// Null for an absent key.
+  template <std::same_as<String> Key>
+  [[nodiscard]] const Value* find(const Key& key) const& noexcept ORVANTA_LIFETIME_BOUND {
+    return key.isAbsent() ? nullptr : find(HashedKey(key.view()));
+  }
+  template <typename Key>
+  const Value* find(const Key& key) const&& = delete;
 
-  [[nodiscard]] auto begin() const noexcept { return entries().begin(); }
-  [[nodiscard]] auto end() const noexcept { return entries().end(); }
-
-  /// The entries themselves; none when absent.
-  [[nodiscard]] const Map& entries() const noexcept {
-    static const Map none;
-    return isAbsent() ? none : entries_->map;
+  /// Whether there is an entry under exactly this key; false for an absent key.
+  template <typename Key>
+  [[nodiscard]] bool contains(const Key& key) const noexcept {
+    return find(key) != nullptr;
   }
 
-  /// Both handles lead to the same dictionary. Absent is the same object as absent.
+  [[nodiscard]] auto begin() const& noexcept ORVANTA_LIFETIME_BOUND { return entries().begin(); }
+  [[nodiscard]] auto end() const& noexcept ORVANTA_LIFETIME_BOUND { return entries().end(); }
+  void begin() const&& = delete;
+  void end() const&& = delete;
+
+  /// The entries, none when absent. Valid as long as some handle to this dictionary lives.
+  [[nodiscard]] const Map& entries() const& noexcept ORVANTA_LIFETIME_BOUND {
+    static NoDestructor<const Map> none;
+    return isAbsent() ? *none : entries_->map;
+  }
+  const Map& entries() const&& = delete;
+
+  /// Identity: both handles refer to the same dictionary. Absent is the same object as absent.
   [[nodiscard]] bool isSameObject(const Dictionary& other) const noexcept {
     return entries_ == other.entries_;
   }
 
  private:
-  // The map, and an index that is asked with a hash that was computed before: slots by the hash's
-  // lower bits, at most half of them used, probed one after the other.
+  // The map, and an index that is searched with a hash computed before. Open addressing: a slot by
+  // the hash's lower bits, linear probing, at most half of the slots used.
   struct Indexed {
     struct Slot {
       std::uint64_t hash = 0;
@@ -72,18 +99,23 @@ class Dictionary {
         : map(std::move(entries)), index(std::bit_ceil(2 * map.size() + 1)) {
       for (const auto& entry : map) {
         const std::uint64_t hash = textHash(entry.first.view());
-        std::size_t at = hash & mask();
+        std::size_t at = firstSlot(hash);
         while (index[at].entry != nullptr) {
-          at = (at + 1) & mask();
+          at = slotBehind(at);
         }
         index[at] = {hash, &entry};
       }
     }
 
-    [[nodiscard]] std::size_t mask() const noexcept { return index.size() - 1; }
+    [[nodiscard]] std::size_t firstSlot(std::uint64_t hash) const noexcept {
+      return static_cast<std::size_t>(hash) & (index.size() - 1);
+    }
+    [[nodiscard]] std::size_t slotBehind(std::size_t at) const noexcept {
+      return (at + 1) & (index.size() - 1);
+    }
 
     [[nodiscard]] const Value* find(const HashedKey& key) const noexcept {
-      for (std::size_t at = key.hash & mask(); index[at].entry != nullptr; at = (at + 1) & mask()) {
+      for (std::size_t at = firstSlot(key.hash); index[at].entry != nullptr; at = slotBehind(at)) {
         if (index[at].hash == key.hash && index[at].entry->first == key.text) {
           return &index[at].entry->second;
         }

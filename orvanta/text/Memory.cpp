@@ -11,13 +11,14 @@ namespace orvanta {
 namespace {
 
 constexpr std::size_t kCacheLine = 64;
-constexpr std::size_t kLargePage = std::size_t{2} * 1024 * 1024;  // As most systems have them.
-// Less is not worth what is left over of a large page, though the owner may give that back.
-constexpr std::size_t kMany = std::size_t{1024} * 1024;
-// Clearing a large page takes as long as handing out so many bytes in small ones, about.
-constexpr std::size_t kWorthAnotherPage = std::size_t{256} * 1024;
+constexpr std::size_t kHugePage = std::size_t{2} * 1024 * 1024;  // The size on most systems.
+// Smaller blocks would waste most of a huge page.
+constexpr std::size_t kHugePageThreshold = std::size_t{1024} * 1024;
+// A remainder below this stands in small pages: clearing a huge page takes about as long as
+// clearing so many bytes page by page.
+constexpr std::size_t kRemainderWorthHugePage = std::size_t{256} * 1024;
 
-// Not by `std::aligned_alloc`, which may refuse sizes that are no multiple of the alignment.
+// `std::aligned_alloc` may refuse sizes that are no multiple of the alignment.
 char* allocateAligned(std::size_t alignment, std::size_t size) noexcept {
   void* bytes = nullptr;
   return posix_memalign(&bytes, alignment, std::max<std::size_t>(size, 1)) == 0
@@ -28,19 +29,20 @@ char* allocateAligned(std::size_t alignment, std::size_t size) noexcept {
 }  // namespace
 
 char* allocateBytes(std::size_t size) noexcept {
-  if (size > static_cast<std::size_t>(PTRDIFF_MAX) - kLargePage) {
+  if (size > static_cast<std::size_t>(PTRDIFF_MAX) - kHugePage) {
     return nullptr;
   }
-  if (size < kMany) {
+  if (size < kHugePageThreshold) {
     return allocateAligned(kCacheLine, size);
   }
-  const std::size_t rest = size % kLargePage;
-  const std::size_t inLargePages = size - rest + (rest > kWorthAnotherPage ? kLargePage : 0);
-  char* const bytes = allocateAligned(kLargePage, std::max(inLargePages, size));
+  const std::size_t remainder = size % kHugePage;
+  const std::size_t inHugePages =
+      size - remainder + (remainder > kRemainderWorthHugePage ? kHugePage : 0);
+  char* const bytes = allocateAligned(kHugePage, std::max(inHugePages, size));
 #ifdef MADV_HUGEPAGE
   if (bytes != nullptr) {
-    // A wish: where it is refused the pages are small ones.
-    static_cast<void>(madvise(bytes, inLargePages, MADV_HUGEPAGE));
+    // Advice only: when it is refused, the pages are small.
+    static_cast<void>(madvise(bytes, inHugePages, MADV_HUGEPAGE));
   }
 #endif
   return bytes;

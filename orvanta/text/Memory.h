@@ -8,17 +8,19 @@
 
 namespace orvanta {
 
-/// Bytes of the C heap, for `std::realloc` and `std::free`, not initialized; null when there are
-/// not so many. They begin on a line of the cache: systems copy files faster to there.
+/// `size` bytes of the C heap, not initialised, to be released with `std::free` or resized with
+/// `std::realloc`; null when memory is short. They begin at a cache line: systems copy files faster
+/// to such addresses. Thread-safe.
 ///
-/// Where they are many, the system is asked to give them in large pages, if it has such. New memory
-/// is handed out, cleared, page by page as it is first touched: reading a table took longer for
-/// that than for all else.
+/// For large sizes the system is asked for huge pages. New memory is cleared page by page as it is
+/// first touched, which with small pages took more time than all the rest of reading a table.
 [[nodiscard]] ORVANTA_EXPORT char* allocateBytes(std::size_t size) noexcept;
 
+/// The deleter of `Bytes`.
 struct FreeBytes {
   void operator()(char* bytes) const noexcept { std::free(bytes); }
 };
+/// An owner of such bytes.
 using Bytes = std::unique_ptr<char[], FreeBytes>;
 
 }  // namespace orvanta

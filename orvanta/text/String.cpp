@@ -1,15 +1,18 @@
 #include <algorithm>
 #include <cstdlib>
 #include <new>
+#include <ostream>
 
 #include <orvanta/text/String.h>
+#include <orvanta/text/TextHash.h>
 #include <orvanta/text/Utf8.h>
 
 namespace orvanta {
 
 namespace {
 
-// A text in one block with its count. Of size 1 at least, so that the empty text is an object.
+// One block holds the reference count and the characters behind it. At least one byte of
+// characters, so that each copy of the empty text has an address of its own.
 class CopiedText final : public TextStorage {
  public:
   static CopiedText* make(std::string_view text) {
@@ -40,30 +43,17 @@ class TakenOverText final : public TextStorage {
 
 }  // namespace
 
-String::String(std::string_view text) : size_(text.size()) {
+String String::copyOf(std::string_view text) {
   auto* copy = CopiedText::make(text);
-  text_ = copy->characters();
-  storage_ = copy;
+  return {copy->characters(), text.size(), copy};
 }
 
 String String::takingOver(char* block, std::size_t size) {
   return {block, size, new TakenOverText(block)};
 }
 
-String::String(const char* text) {
-  if (text != nullptr) {
-    *this = String(std::string_view(text));
-  }
-}
-
 std::size_t String::utf16Length() const noexcept {
-  std::size_t units = 0;
-  for (std::string_view rest = view(); !rest.empty();) {
-    const utf8::Decoded next = utf8::decode(rest);
-    units += next.codePoint > 0xFFFF ? 2U : 1U;
-    rest.remove_prefix(next.length);
-  }
-  return units;
+  return utf8::utf16Length(view());
 }
 
 std::ostream& operator<<(std::ostream& out, const String& text) {
@@ -71,3 +61,7 @@ std::ostream& operator<<(std::ostream& out, const String& text) {
 }
 
 }  // namespace orvanta
+
+std::size_t std::hash<orvanta::String>::operator()(const orvanta::String& text) const noexcept {
+  return orvanta::TextHash()(text);
+}

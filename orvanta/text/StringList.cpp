@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <ostream>
 #include <string>
 
 #include <orvanta/text/StringList.h>

@@ -8,7 +8,7 @@ namespace orvanta::hashing {
 
 namespace {
 
-// The step of the generator SplitMix64.
+// One step of the generator SplitMix64.
 std::uint64_t nextWord(std::uint64_t& state) noexcept {
   state += 0x9E3779B97F4A7C15;
   std::uint64_t word = state;
@@ -24,7 +24,7 @@ bool fillSecrets() noexcept {
     std::random_device device;
     state ^= (static_cast<std::uint64_t>(device()) << 32) ^ device();
   } catch (const std::exception&) {
-    // No source of randomness: the clock alone still differs between runs.
+    // No source of randomness: the clock alone, which still differs between runs.
   }
   for (std::uint64_t& word : secrets.words) {
     word = nextWord(state);
@@ -35,19 +35,19 @@ bool fillSecrets() noexcept {
 
 }  // namespace
 
-// Needs no code to be made: hashes may be wanted while static objects are.
+// Constant-initialised, because static initialisers may already compute hashes.
 constinit Secrets secrets;
 
 void drawSecrets() noexcept {
   [[maybe_unused]] static const bool areDrawn = fillSecrets();
 }
 
-std::uint64_t ofLong(const char* bytes, std::size_t size, const std::uint64_t* words) noexcept {
+std::uint64_t hashLong(const char* bytes, std::size_t size, const std::uint64_t* words) noexcept {
   std::uint64_t hash = size;
   for (; size > 64; size -= 16, bytes += 16) {
     hash = fold(load(bytes) ^ words[0], load(bytes + 8) ^ words[1] ^ hash);
   }
-  return fold(ofUsual(bytes, size, words) ^ words[2], hash ^ words[3]);
+  return fold(hashMedium(bytes, size, words) ^ words[2], hash ^ words[3]);
 }
 
 }  // namespace orvanta::hashing

@@ -5,21 +5,24 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include <orvanta/Export.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 
 namespace orvanta {
 
 namespace hashing {
 
-/// What sets the hashes of this process apart from those of any other: random, one for each word
-/// that is hashed, so that nobody can choose text for which hashing goes wrong.
+/// Random numbers of this process, drawn before the first hash: nobody can choose texts whose
+/// hashes collide.
 struct Secrets {
   std::atomic<bool> areDrawn{false};
   std::uint64_t words[8] = {};
 };
 extern ORVANTA_EXPORT Secrets secrets;
+/// Fills `secrets`. Thread-safe; later calls do nothing.
 ORVANTA_EXPORT void drawSecrets() noexcept;
 
 template <typename Word = std::uint64_t>
@@ -29,22 +32,40 @@ std::uint64_t load(const char* bytes) noexcept {
   return word;
 }
 
-// The full product folded on itself: every bit of both factors reaches every bit of the result.
-inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) noexcept {
+/// The high and the low half of the 128-bit product, from four products of 32-bit halves.
+constexpr std::pair<std::uint64_t, std::uint64_t> multiplyByHalves(std::uint64_t a,
+                                                                   std::uint64_t b) noexcept {
+  constexpr std::uint64_t kLowHalf = 0xFFFFFFFF;
+  const std::uint64_t low = (a & kLowHalf) * (b & kLowHalf);
+  // Neither sum overflows: each adds two 32-bit numbers to a product of 32-bit factors.
+  const std::uint64_t middle = (a >> 32) * (b & kLowHalf) + (low >> 32);
+  const std::uint64_t otherMiddle = (a & kLowHalf) * (b >> 32) + (middle & kLowHalf);
+  return {(a >> 32) * (b >> 32) + (middle >> 32) + (otherMiddle >> 32),
+          (otherMiddle << 32) | (low & kLowHalf)};
+}
+
+// The 128-bit product, its halves combined by exclusive or: each bit of both factors affects every
+// bit of the result.
+constexpr std::uint64_t fold(std::uint64_t a, std::uint64_t b) noexcept {
+#ifdef __SIZEOF_INT128__
   __extension__ using Wide = unsigned __int128;
   const Wide product = static_cast<Wide>(a) * b;
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+#else
+  const auto [high, low] = multiplyByHalves(a, b);
+  return high ^ low;
+#endif
 }
 
 inline std::uint64_t foldBlock(const char* block, const std::uint64_t* words) noexcept {
   return fold(load(block) ^ words[0], load(block + 8) ^ words[1]);
 }
 
-// 17 to 64 bytes, the length of most keys: four blocks of 16 that overlap as the length wants it.
-// The same steps for every such length, because a branch on the length of a key is one that the
-// processor cannot foresee; and no step but the last waits for another.
-inline std::uint64_t ofUsual(const char* bytes, std::size_t size,
-                             const std::uint64_t* words) noexcept {
+// 17 to 64 bytes, the length of most keys: four blocks of 16 bytes, overlapping as the length
+// requires. Every such length takes the same steps, because a branch on a key's length is
+// mispredicted. No step but the last depends on another.
+inline std::uint64_t hashMedium(const char* bytes, std::size_t size,
+                                const std::uint64_t* words) noexcept {
   const char* const last = bytes + size - 16;
   const std::size_t inner = size < 32 ? size - 16 : 16;
   return fold(foldBlock(bytes, words) + foldBlock(bytes + inner, words + 2) + size,
@@ -52,8 +73,8 @@ inline std::uint64_t ofUsual(const char* bytes, std::size_t size,
 }
 
 // At most 16 bytes, as two words that may overlap: no loop over single bytes.
-inline std::uint64_t ofShort(const char* bytes, std::size_t size,
-                             const std::uint64_t* words) noexcept {
+inline std::uint64_t hashShort(const char* bytes, std::size_t size,
+                               const std::uint64_t* words) noexcept {
   std::uint64_t low = 0;
   std::uint64_t high = 0;
   if (size >= 8) {
@@ -70,13 +91,13 @@ inline std::uint64_t ofShort(const char* bytes, std::size_t size,
 }
 
 /// More than 64 bytes.
-ORVANTA_EXPORT std::uint64_t ofLong(const char* bytes, std::size_t size,
-                                    const std::uint64_t* words) noexcept;
+ORVANTA_EXPORT std::uint64_t hashLong(const char* bytes, std::size_t size,
+                                      const std::uint64_t* words) noexcept;
 
 }  // namespace hashing
 
-/// Hashes text for the tables of this process. The values differ from run to run, so that a
-/// downloaded table cannot be crafted to make its keys collide; never store one.
+/// The hash of a text in this process. It differs from run to run, so that a downloaded table
+/// cannot be crafted to make its keys collide; never store one. Thread-safe.
 [[nodiscard]] inline std::uint64_t textHash(std::string_view text) noexcept {
   if (!hashing::secrets.areDrawn.load(std::memory_order_acquire)) [[unlikely]] {
     hashing::drawSecrets();
@@ -84,34 +105,37 @@ ORVANTA_EXPORT std::uint64_t ofLong(const char* bytes, std::size_t size,
   const std::uint64_t* const words = hashing::secrets.words;
   const std::size_t size = text.size();
   if (size > 16 && size <= 64) [[likely]] {
-    return hashing::ofUsual(text.data(), size, words);
+    return hashing::hashMedium(text.data(), size, words);
   }
-  return size <= 16 ? hashing::ofShort(text.data(), size, words)
-                    : hashing::ofLong(text.data(), size, words);
+  return size <= 16 ? hashing::hashShort(text.data(), size, words)
+                    : hashing::hashLong(text.data(), size, words);
 }
 
-/// A key with its hash, computed once however many tables are asked. A view: the text must outlive
-/// it. An absent key is found nowhere.
+/// A key with its hash, computed once for look-ups in several tables. A view: the text must outlive
+/// it. It cannot be absent: a view with null data is the empty key.
 struct HashedKey {
-  explicit HashedKey(std::string_view key) noexcept
+  explicit HashedKey(std::string_view key ORVANTA_LIFETIME_BOUND) noexcept
       : text(key.empty() ? std::string_view("") : key), hash(textHash(key)) {}
 
   std::string_view text;  ///< Its data is never null.
   std::uint64_t hash;
 };
 
-/// The hash and the equality that let a dictionary be asked with a view of the key.
+/// Hash and equality for a dictionary that is searched with a view of the key. An absent key and an
+/// empty one are different keys with the same hash.
 struct TextHash {
   using is_transparent = void;
-  std::size_t operator()(std::string_view text) const noexcept { return textHash(text); }
-  std::size_t operator()(const String& text) const noexcept { return textHash(text.view()); }
+  std::size_t operator()(std::string_view text) const noexcept {
+    return static_cast<std::size_t>(textHash(text));
+  }
+  std::size_t operator()(const String& text) const noexcept { return (*this)(text.view()); }
 };
 
 struct TextEqual {
   using is_transparent = void;
   bool operator()(const String& a, const String& b) const noexcept { return a == b; }
   bool operator()(const String& a, std::string_view b) const noexcept { return a == b; }
-  bool operator()(std::string_view a, const String& b) const noexcept { return b == a; }
+  bool operator()(std::string_view a, const String& b) const noexcept { return a == b; }
 };
 
 }  // namespace orvanta

@@ -11,12 +11,12 @@
 
 namespace orvanta {
 
-/// The memory that handles to text share, and the count of those handles: the last one to let go
-/// deletes it.
+/// The memory that handles to text share, with the count of those handles. The last handle to be
+/// released deletes it. Thread-safe.
 ///
-/// A count of our own, because every look-up takes and drops a handle. A `std::shared_ptr` checks
-/// in each drop whether weak pointers are left, by a read wider than the write before it, which
-/// makes the processor wait for that write.
+/// An intrusive count, because every look-up takes and drops a handle. Releasing a
+/// `std::shared_ptr` also checks for weak pointers, by a read that is wider than the write before
+/// it and so waits for that write (a failed store-to-load forwarding).
 class ORVANTA_EXPORT TextStorage {
  public:
   virtual ~TextStorage();
@@ -44,11 +44,11 @@ class ORVANTA_EXPORT TextStorage {
   }
 
  protected:
-  /// Counts the handle of its maker.
+  /// With a count of one, for the handle that is being made.
   TextStorage() noexcept = default;
 
  private:
-  // Counting without atomic instructions, where the C library can tell that nobody could see it.
+  // While the C library knows of one thread only, the count needs no atomic read-modify-write.
   static bool processHasOneThread() noexcept {
 #if __has_include(<sys/single_threaded.h>)
     return __libc_single_threaded != 0;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <optional>
+#include <ostream>
 #include <string>
 
 #include <orvanta/text/URL.h>
@@ -121,6 +122,10 @@ String URL::path() const {
     decoded.pop_back();
   }
   return decoded;
+}
+
+std::ostream& operator<<(std::ostream& out, const URL& url) {
+  return out << url.text_;
 }
 
 }  // namespace orvanta

@@ -90,4 +90,14 @@ bool isValid(std::string_view text) noexcept {
   return true;
 }
 
+std::size_t utf16Length(std::string_view text) noexcept {
+  std::size_t units = 0;
+  while (!text.empty()) {
+    const Decoded next = decode(text);
+    units += next.codePoint > 0xFFFF ? 2U : 1U;
+    text.remove_prefix(next.length);
+  }
+  return units;
+}
+
 }  // namespace orvanta::utf8

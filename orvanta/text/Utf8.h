@@ -6,8 +6,8 @@
 
 #include <orvanta/Export.h>
 
-/// UTF-8 as the Unicode Standard defines it (section 3.9, table 3-7): no overlong forms, no
-/// surrogates, nothing above U+10FFFF.
+/// UTF-8 as the Unicode Standard defines it (section 3.9, table 3-7): overlong forms, surrogates
+/// and values above U+10FFFF are invalid. Thread-safe.
 namespace orvanta::utf8 {
 
 inline constexpr char32_t kReplacement = 0xFFFD;
@@ -15,18 +15,22 @@ inline constexpr char32_t kReplacement = 0xFFFD;
 struct Decoded {
   char32_t codePoint;  ///< U+FFFD where the bytes are not valid.
   std::size_t length;  ///< Bytes taken; 0 only for an empty text.
-  bool valid;
+  bool valid;          ///< False for invalid bytes and for an empty text.
 };
 
-/// The first character of `text`. An invalid sequence gives U+FFFD and takes its maximal subpart,
-/// so that n stray bytes never turn into fewer than one replacement.
+/// The first character of `text`. An invalid sequence gives U+FFFD and takes its maximal subpart:
+/// the longest start of a valid sequence, and one byte if it is none.
 [[nodiscard]] ORVANTA_EXPORT Decoded decode(std::string_view text) noexcept;
 
-/// Appends one character; what is no Unicode scalar value is written as U+FFFD.
+/// Appends one character. A surrogate or a value above U+10FFFF is written as U+FFFD.
 ORVANTA_EXPORT void append(std::string& out, char32_t codePoint);
 
-/// True when every byte belongs to a valid sequence; looks at one character at a time, and is what
-/// faster answers are held against.
+/// True when every byte belongs to a valid sequence. Scalar reference implementation; the tests'
+/// oracle for the faster ones.
 [[nodiscard]] ORVANTA_EXPORT bool isValid(std::string_view text) noexcept;
+
+/// The number of UTF-16 code units that `text` has once it is decoded; a maximal subpart of an
+/// invalid sequence counts as one.
+[[nodiscard]] ORVANTA_EXPORT std::size_t utf16Length(std::string_view text) noexcept;
 
 }  // namespace orvanta::utf8

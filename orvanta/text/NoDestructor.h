@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <new>
+#include <utility>
+
+namespace orvanta {
+
+/// A process-wide object that is never destroyed: threads, and the destructors of static objects,
+/// may use it until the process ends. For function-local statics:
+///
+///     static NoDestructor<Registry> registry(arguments);
+///     return *registry;
+template <typename T>
+class NoDestructor {
+ public:
+  template <typename... Arguments>
+  explicit NoDestructor(Arguments&&... arguments) {
+    ::new (static_cast<void*>(storage_)) T(std::forward<Arguments>(arguments)...);
+  }
+  NoDestructor(const NoDestructor&) = delete;
+  NoDestructor& operator=(const NoDestructor&) = delete;
+  ~NoDestructor() = default;
+
+  [[nodiscard]] T& operator*() noexcept { return *get(); }
+  [[nodiscard]] T* operator->() noexcept { return get(); }
+
+ private:
+  [[nodiscard]] T* get() noexcept { return std::launder(reinterpret_cast<T*>(storage_)); }
+
+  alignas(T) std::byte storage_[sizeof(T)];
+};
+
+}  // namespace orvanta

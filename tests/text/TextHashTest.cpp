@@ -1,0 +1,64 @@
+#include <cstdint>
+#include <random>
+#include <string>
+#include <unordered_set>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/text/TextHash.h>
+
+namespace orvanta {
+namespace {
+
+#ifdef __SIZEOF_INT128__
+TEST(TextHash, MultipliesAlikeWithAndWithout128Bits) {
+  __extension__ using Wide = unsigned __int128;
+  const auto agree = [](std::uint64_t a, std::uint64_t b) {
+    const auto [high, low] = hashing::multiplyByHalves(a, b);
+    return ((static_cast<Wide>(high) << 64) | low) == static_cast<Wide>(a) * b;
+  };
+  const std::uint64_t edges[] = {0,
+                                 1,
+                                 0x7FFFFFFF,
+                                 0x80000000,
+                                 0xFFFFFFFF,
+                                 0x100000000,
+                                 0x100000001,
+                                 0x7FFFFFFFFFFFFFFF,
+                                 0x8000000000000000,
+                                 0xFFFFFFFF00000000,
+                                 0xFFFFFFFFFFFFFFFF};
+  for (const std::uint64_t a : edges) {
+    for (const std::uint64_t b : edges) {
+      EXPECT_TRUE(agree(a, b)) << a << " * " << b;
+    }
+  }
+  std::mt19937_64 random(3);
+  for (int round = 0; round < 100'000; ++round) {
+    const std::uint64_t a = random() >> random() % 64;
+    const std::uint64_t b = random() >> random() % 64;
+    ASSERT_TRUE(agree(a, b)) << a << " * " << b;
+  }
+}
+#endif
+
+// Texts of each length that differ in one byte, wherever it stands, or in their length alone.
+TEST(TextHash, DependsOnEveryByteAndTheLength) {
+  std::unordered_set<std::uint64_t> hashes;
+  std::size_t texts = 0;
+  for (std::size_t length = 0; length <= 200; ++length) {
+    std::string text(length, '\0');
+    hashes.insert(textHash(text));
+    ++texts;
+    for (char& byte : text) {
+      byte = 'x';
+      hashes.insert(textHash(text));
+      ++texts;
+      byte = '\0';
+    }
+  }
+  EXPECT_EQ(hashes.size(), texts);
+}
+
+}  // namespace
+}  // namespace orvanta
