@@ -1,4 +1,4 @@
-# Makes the library's resources, the two Arabic font files and their licence, and installs them.
+# Makes the library's resources, the two Arabic font files and their licence.
 #
 # In the build tree they stand where an installed tree has them, so that the library finds its
 # resources by one rule in both.
@@ -11,8 +11,9 @@ set(kufi_bold ${ORVANTA_KUFI_SOURCE_DIR}/NotoKufiArabic-Bold.ttf)
 foreach(face IN ITEMS ${kufi_regular} ${kufi_bold})
   if(NOT EXISTS ${face})
     message(FATAL_ERROR
-      "The Arabic faces are made from ${face}, which is not there. Install the package "
-      "fonts-noto-core, or name the folder of that family in ORVANTA_KUFI_SOURCE_DIR.")
+      "The Arabic fonts are made from ${face}, which is missing. Install the package "
+      "fonts-noto-core, name the folder of that family in ORVANTA_KUFI_SOURCE_DIR, or do without "
+      "them with -DORVANTA_BUILD_FONTS=OFF.")
   endif()
 endforeach()
 
@@ -28,8 +29,9 @@ find_program(ORVANTA_FONTTOOLS_PYTHON NAMES python3 HINTS /usr/bin
              VALIDATOR orvanta_has_fonttools DOC "A python3 that has the module fontTools")
 if(NOT ORVANTA_FONTTOOLS_PYTHON)
   message(FATAL_ERROR
-    "The Arabic faces are made with the Python module fontTools, which no python3 here has. "
-    "Install the package python3-fonttools, or name an interpreter in ORVANTA_FONTTOOLS_PYTHON.")
+    "The Arabic fonts are made with the Python module fontTools, which no python3 here has. Install "
+    "the package python3-fonttools, name an interpreter in ORVANTA_FONTTOOLS_PYTHON, or do without "
+    "them with -DORVANTA_BUILD_FONTS=OFF.")
 endif()
 
 set(resources_dir share/orvanta/resources)
@@ -51,7 +53,5 @@ add_custom_command(
   VERBATIM)
 add_custom_target(orvanta_resources ALL DEPENDS ${resource_files})
 
-# Whoever builds anything that holds the library wants its resources beside it.
+# Everything that holds the library needs its resources beside it.
 add_dependencies(orvanta_core_objects orvanta_resources)
-
-install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)

@@ -1,12 +1,30 @@
+# What is installed, in the components of which packages are made: Core and Qt are what a program
+# needs to run, Development and QtDevelopment what is needed to build one, Command is ovlocalize.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvantaLocalizer)
 
-install(TARGETS orvanta EXPORT OrvantaLocalizerCore COMPONENT Core)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/orvanta/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orvanta
-        COMPONENT Core FILES_MATCHING PATTERN "*.h" PATTERN "qt" EXCLUDE)
-install(EXPORT OrvantaLocalizerCore NAMESPACE OrvantaLocalizer:: DESTINATION ${package_dir}
-        COMPONENT Core)
+# Installs a library and the file of targets that find_package reads for a component.
+function(orvanta_install_library target component development)
+  install(TARGETS ${target} EXPORT OrvantaLocalizer${component}
+    RUNTIME COMPONENT ${component}
+    LIBRARY COMPONENT ${component} NAMELINK_COMPONENT ${development}
+    ARCHIVE COMPONENT ${development}
+    FILE_SET HEADERS COMPONENT ${development})
+  install(EXPORT OrvantaLocalizer${component} NAMESPACE OrvantaLocalizer::
+    DESTINATION ${package_dir} COMPONENT ${development})
+endfunction()
+
+orvanta_install_library(orvanta Core Development)
+if(TARGET orvanta_qt)
+  orvanta_install_library(orvanta_qt Qt QtDevelopment)
+endif()
+if(TARGET orvanta_resources)
+  install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)
+endif()
+if(TARGET ovlocalize)
+  install(TARGETS ovlocalize COMPONENT Command)
+endif()
 
 configure_package_config_file(
   ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerConfig.cmake.in
@@ -17,4 +35,11 @@ write_basic_package_version_file(
 install(FILES
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfig.cmake
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfigVersion.cmake
-  DESTINATION ${package_dir} COMPONENT Core)
+  DESTINATION ${package_dir} COMPONENT Development)
+
+# Relative to the file's own folder, so that the tree may be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+           BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pc)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/orvanta.pc.in ${PROJECT_BINARY_DIR}/orvanta.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/orvanta.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)

@@ -9,7 +9,9 @@ function(must_run)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK_DIR})
-must_run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component Core --prefix ${WORK_DIR}/first)
+foreach(component IN ITEMS Core Development)
+  must_run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component ${component} --prefix ${WORK_DIR}/first)
+endforeach()
 file(RENAME ${WORK_DIR}/first ${WORK_DIR}/prefix)
 must_run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
          -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
