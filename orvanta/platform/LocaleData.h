@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include <orvanta/Export.h>
 #include <orvanta/platform/Calendar.h>
@@ -27,6 +29,12 @@ class ORVANTA_EXPORT LocaleData {
 
   /// `text` in lower case whatever the device's language is; absent for absent.
   [[nodiscard]] virtual String lowercaseString(const String& text) = 0;
+
+  /// A number as a person who reads the locale's language writes it. `plainDigits` are ASCII digits
+  /// with an optional "-" in front and an optional "." in between; the result shows as many digits
+  /// behind the point. Unless overridden, the plain digits themselves.
+  [[nodiscard]] virtual std::string localizedNumber(std::string_view plainDigits,
+                                                    const String& locale);
 
   /// A new object at every call, which the caller may change.
   [[nodiscard]] virtual std::shared_ptr<Calendar> currentCalendar() = 0;

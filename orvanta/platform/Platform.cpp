@@ -7,7 +7,6 @@
 
 namespace orvanta::platform {
 
-LocaleData::~LocaleData() = default;
 Log::~Log() = default;
 MainQueue::~MainQueue() = default;
 NotificationCenter::~NotificationCenter() = default;
