@@ -2,6 +2,7 @@
 
 #include <orvanta/controls/DeferredConfiguration.h>
 #include <orvanta/controls/UILocalizedButton.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta {
 
@@ -11,11 +12,12 @@ constexpr std::string_view kDefaultTitle = "Button";
 
 // One list for all buttons; its order is the order in which titles are set.
 const UILocalizedButton::ControlStates& defaultStates() {
-  static const auto states = std::make_shared<const std::vector<platform::ControlState>>(
-      std::vector{platform::kControlStateNormal, platform::kControlStateDisabled,
-                  platform::kControlStateFocused, platform::kControlStateHighlighted,
-                  platform::kControlStateSelected});
-  return states;
+  static NoDestructor<const UILocalizedButton::ControlStates> states(
+      std::make_shared<const std::vector<platform::ControlState>>(
+          std::vector{platform::kControlStateNormal, platform::kControlStateDisabled,
+                      platform::kControlStateFocused, platform::kControlStateHighlighted,
+                      platform::kControlStateSelected}));
+  return *states;
 }
 
 }  // namespace

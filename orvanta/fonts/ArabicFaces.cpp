@@ -1,20 +1,21 @@
 #include <orvanta/fonts/ResourceFace.h>
 #include <orvanta/fonts/localizationUtilities.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta::localizationUtilities {
 
 namespace {
 
-// Never freed: the faces serve until the process ends, also while static objects are destroyed.
 ResourceFace& regularFace() {
-  static auto& face = *new ResourceFace("CorbetSansKufiArabic-Regular"_s, "CorbetSansKufiArabic"_s);
-  return face;
+  static NoDestructor<ResourceFace> face("CorbetSansKufiArabic-Regular"_s,
+                                         "CorbetSansKufiArabic"_s);
+  return *face;
 }
 
 ResourceFace& boldFace() {
-  static auto& face =
-      *new ResourceFace("CorbetSansKufiArabic-Bold"_s, "CorbetSansKufiArabic-Bold"_s);
-  return face;
+  static NoDestructor<ResourceFace> face("CorbetSansKufiArabic-Bold"_s,
+                                         "CorbetSansKufiArabic-Bold"_s);
+  return *face;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta {
 
@@ -23,8 +24,8 @@ String Localizer::stringWithLocalizedPunctuation(const String& text) const {
 }
 
 const String& Localizer::arabicComma() {
-  static const String comma = "\u060C"_s;
-  return comma;
+  static NoDestructor<const String> comma("\u060C"_s);
+  return *comma;
 }
 
 platform::AffineTransform Localizer::transformForRightToLeft(bool mirrored) noexcept {

@@ -4,6 +4,7 @@
 
 #include <orvanta/platform/DefaultPlatform.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta::platform {
 
@@ -17,11 +18,10 @@ namespace {
 std::atomic<const Platform*> installed{nullptr};
 std::mutex installing;
 
-// Platforms are never freed: bundles and memos made from one may be in use until the process ends.
-// Those that were replaced stay reachable, so that leak checkers do not report them. Needs the
-// lock.
+// Keeps every platform for the life of the process, replaced ones too: bundles and memos made from
+// them may still be in use. Call with `installing` locked.
 const Platform* keep(Platform platform) {
-  static auto* const kept = new std::deque<Platform>;
+  static NoDestructor<std::deque<Platform>> kept;
   return &kept->emplace_back(std::move(platform));
 }
 
