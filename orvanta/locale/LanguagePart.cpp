@@ -7,10 +7,9 @@ namespace orvanta {
 
 namespace {
 
-// No shorter identifier is taken apart. In UTF-16 code units: what takes 3 bytes or more in UTF-8
-// may still be shorter than that.
+// No shorter identifier is split. In UTF-16 code units, each of which takes up to 3 bytes of UTF-8.
 constexpr std::size_t kShortestSplit = 3;
-constexpr std::size_t kMostBytesPerUnit = 3;
+constexpr std::size_t kLongestUnit = 3;
 
 bool isAscii(char byte) noexcept {
   return static_cast<unsigned char>(byte) < 0x80;
@@ -21,8 +20,8 @@ bool isShort(std::string_view identifier) noexcept {
     return true;
   }
   const std::string_view first = identifier.substr(0, kShortestSplit);
-  return !std::all_of(first.begin(), first.end(), isAscii) &&
-         identifier.size() < kShortestSplit * kMostBytesPerUnit &&
+  return identifier.size() <= (kShortestSplit - 1) * kLongestUnit &&
+         !std::all_of(first.begin(), first.end(), isAscii) &&
          utf8::utf16Length(identifier) < kShortestSplit;
 }
 

@@ -1,5 +1,8 @@
 #include <array>
+#include <typeinfo>
 #include <utility>
+
+#include <cxxabi.h>
 
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/text/PathString.h>
@@ -8,13 +11,19 @@ namespace orvanta {
 
 namespace {
 
-// Makes the constructor reachable for make_shared inside this file.
-class MakeableLocale final : public OVLocale {
- public:
-  template <typename... Arguments>
-  explicit MakeableLocale(Arguments&&... arguments)
-      : OVLocale(std::forward<Arguments>(arguments)...) {}
-};
+// Whether `other` is an instance of the class of `self`, or of a subclass: a `dynamic_cast` to a
+// class that only the run time knows. The ABI has that operation, the language has not.
+bool isOfClassOf(const OVLocale& self, const OVLocale& other) noexcept {
+  const std::type_info& base = typeid(OVLocale);
+  const std::type_info& wanted = typeid(self);
+  if (wanted == base) {
+    return true;
+  }
+  constexpr std::ptrdiff_t kNoHint = -1;
+  return abi::__dynamic_cast(&other, dynamic_cast<const abi::__class_type_info*>(&base),
+                             dynamic_cast<const abi::__class_type_info*>(&wanted),
+                             kNoHint) != nullptr;
+}
 
 }  // namespace
 
@@ -32,9 +41,9 @@ std::shared_ptr<OVLocale> OVLocale::initWithOrvantaName(String orvantaName, Stri
                                                         String version,
                                                         std::shared_ptr<platform::Bundle> bundle,
                                                         StringList locales) {
-  return std::make_shared<MakeableLocale>(std::move(orvantaName), std::move(appleName),
-                                          std::move(version), std::move(bundle),
-                                          std::move(locales));
+  return std::shared_ptr<OVLocale>(new OVLocale(std::move(orvantaName), std::move(appleName),
+                                                std::move(version), std::move(bundle),
+                                                std::move(locales)));
 }
 
 std::shared_ptr<OVLocale> OVLocale::initWithBundle(
@@ -65,7 +74,8 @@ std::shared_ptr<OVLocale> OVLocale::initWithBundle(
 }
 
 bool OVLocale::isEqual(const OVLocale* other) const noexcept {
-  return other != nullptr && appleLocaleName_.isSameObject(other->appleLocaleName_);
+  return other != nullptr && isOfClassOf(*this, *other) &&
+         appleLocaleName_.isSameObject(other->appleLocaleName_);
 }
 
 std::size_t OVLocale::hash() const noexcept {

@@ -71,8 +71,9 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] const StringList& fallbackLocales() const noexcept { return fallbackLocales_; }
   void setFallbackLocales(StringList locales) noexcept { fallbackLocales_ = std::move(locales); }
 
-  /// Whether both records hold the very same `appleLocaleName` object. Equal characters in two
-  /// objects are not enough; two absent names are. False for an absent `other`.
+  /// Whether `other` is of this record's class or of a subclass, and both hold the very same
+  /// `appleLocaleName` object. Equal characters in two objects are not enough; two absent names
+  /// are. False for a null `other`.
   [[nodiscard]] bool isEqual(const OVLocale* other) const noexcept;
 
   /// The record's address. Two records that are equal still have different hashes: in a hashed

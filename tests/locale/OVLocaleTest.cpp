@@ -46,6 +46,29 @@ TEST(OVLocale, SplitsEquivalentsAsTheyAreWritten) {
   }
 }
 
+class Derived : public OVLocale {
+ public:
+  explicit Derived(String appleName) : OVLocale({}, std::move(appleName), {}, nullptr, {}) {}
+};
+class FurtherDerived final : public Derived {
+ public:
+  using Derived::Derived;
+};
+
+TEST(OVLocale, EqualsOnlyRecordsOfItsOwnClassAndSubclasses) {
+  const String name = "fr";
+  const auto plain = OVLocale::initWithOrvantaName({}, name, {}, nullptr, {});
+  const auto base = std::make_shared<Derived>(name);
+  const auto derived = std::make_shared<FurtherDerived>(name);
+  const std::shared_ptr<OVLocale> byDepth[] = {plain, base, derived};
+  for (std::size_t self = 0; self < 3; ++self) {
+    for (std::size_t other = 0; other < 3; ++other) {
+      EXPECT_EQ(byDepth[self]->isEqual(byDepth[other].get()), other >= self)
+          << self << " and " << other;
+    }
+  }
+}
+
 TEST(OVLocale, ComparesNamesByIdentityAndHashesItself) {
   const String name = "fr";
   const auto make = [](const String& appleName) {
