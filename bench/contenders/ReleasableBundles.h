@@ -19,13 +19,14 @@ class ReleasableBundles final : public platform::BundleRegistry {
   /// After this nothing may be asked any more.
   void release() noexcept { bundles_ = nullptr; }
 
-  std::shared_ptr<platform::Bundle> mainBundle() override { return bundles_->mainBundle(); }
+  std::shared_ptr<platform::Bundle> mainBundle() const override { return bundles_->mainBundle(); }
   std::shared_ptr<platform::Bundle> bundleForLibrary() override {
     return bundles_->bundleForLibrary();
   }
   std::shared_ptr<platform::Bundle> bundleWithPath(const String& path) override {
     return bundles_->bundleWithPath(path);
   }
+  void refreshTables() override { bundles_->refreshTables(); }
 
  private:
   std::shared_ptr<platform::BundleRegistry> bundles_;

@@ -107,11 +107,11 @@ class ORVANTA_EXPORT Localizer {
   /// language part has a bundle; else its language part through the table likewise. Order and
   /// duplicates stay. ["en"], unchecked, for an absent or empty request; absent when nothing is
   /// available.
-  [[nodiscard]] StringList availableLocalesFromArray(const StringList& requested);
+  [[nodiscard]] StringList availableLocalesFromArray(const StringList& requested) const;
 
   /// The identifier without blanks at its ends, or what the table has in its place. Absent for
   /// absent.
-  [[nodiscard]] String localeWithFallbacksApplied(const String& identifier);
+  [[nodiscard]] String localeWithFallbacksApplied(const String& identifier) const;
 
   /// The part before the first "-"; see `languagePart`.
   [[nodiscard]] static String languageOnlyFromString(const String& identifier);
@@ -123,7 +123,8 @@ class ORVANTA_EXPORT Localizer {
 
   /// The main bundle for an absent or empty identifier; else the bundle of the identifier or of
   /// its language part; else absent.
-  [[nodiscard]] std::shared_ptr<platform::Bundle> languageBundleForLocale(const String& identifier);
+  [[nodiscard]] std::shared_ptr<platform::Bundle> languageBundleForLocale(
+      const String& identifier) const;
 
   /// Whether the identifier's first piece is "ar", "he" or "ur", exactly.
   [[nodiscard]] bool rightToLeftOrientationForLocale(const String& identifier) const;
@@ -165,48 +166,50 @@ class ORVANTA_EXPORT Localizer {
   }
   void setMainBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
-  /// The English bundle, remembered once it was found and from then on never looked for again.
-  /// Not owned: the bundle registry keeps its bundles for the life of the process; one that comes
-  /// from elsewhere must live as long as this localizer. Null while there is none.
-  [[nodiscard]] platform::Bundle* defaultLocaleBundle();
+  /// The English bundle, memoized once it was found: later downloads do not replace it. Null while
+  /// there is none. A bundle that is set is not owned and must outlive this localizer, or the next
+  /// call of the setter.
+  [[nodiscard]] platform::Bundle* defaultLocaleBundle() const;
   void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
 
   /// The regional fallbacks; an absent table makes the next read build the built-in one.
-  [[nodiscard]] const FallbackTable& fallbackTable();
+  [[nodiscard]] const FallbackTable& fallbackTable() const;
   void setFallbackTable(FallbackTable table) noexcept;
 
   /// The catalogue and its cache, made at the first read.
-  [[nodiscard]] OVStringCache& stringCache();
+  [[nodiscard]] OVStringCache& stringCache() const;
   void setStringCache(std::shared_ptr<OVStringCache> cache) noexcept;
 
  private:
-  // Stores what was matched and posts it later with what was asked for. `matched` is not empty.
-  // By value, because the caller's list may be `preferredLocales_` itself.
-  void adopt(const StringList& matched, StringList raw);
+  // Stores the matched identifiers, of which there is one at least, and queues the notification
+  // with them and the requested ones. `raw` may be `preferredLocales_` itself.
+  void adopt(const StringList& matched, const StringList& raw);
   // What `localeWithFallbacksApplied` gives, and its text with its hash.
   struct Resolved {
     String locale;
     HashedKey key;
   };
-  [[nodiscard]] Resolved resolve(const String& identifier);
+  [[nodiscard]] Resolved resolve(const String& identifier) const;
   // Whether `languageBundleForLocale` would give one.
-  [[nodiscard]] bool hasBundleFor(const Resolved& resolved);
+  [[nodiscard]] bool hasBundleFor(const Resolved& resolved) const;
   // Goes back to the device's choice when there is no current bundle; false when that has none.
   [[nodiscard]] bool hasBundleForLookUp();
   // There must be a current bundle. `key` is what becomes the result when no language has a text.
   template <typename Key>
   [[nodiscard]] String textOrKey(std::string_view characters, const Key& key);
   template <typename Key>
-  [[nodiscard]] String textElsewhereOrKey(HashedKey hashed, const Key& key);
+  [[nodiscard]] String textOfBundlesOrKey(HashedKey hashed, const Key& key);
 
   bool rightToLeftOrientation_ = false;
   StringList originalLocales_;
   StringList preferredLocales_;
-  FallbackTable fallbackTable_;
   std::shared_ptr<platform::Bundle> currentLanguageBundle_;
   std::shared_ptr<platform::Bundle> mainBundle_;
-  platform::Bundle* defaultLocaleBundle_ = nullptr;
-  std::shared_ptr<OVStringCache> stringCache_;
+  // Made or looked for by the first read. The memo owns a bundle that was looked for, since an
+  // application may have put it into the catalogue and take it out again.
+  mutable FallbackTable fallbackTable_;
+  mutable std::shared_ptr<platform::Bundle> defaultLocaleBundle_;
+  mutable std::shared_ptr<OVStringCache> stringCache_;
 };
 
 }  // namespace orvanta

@@ -9,18 +9,18 @@
 
 namespace orvanta {
 
-const FallbackTable& Localizer::fallbackTable() {
+const FallbackTable& Localizer::fallbackTable() const {
   if (fallbackTable_.isAbsent()) {
     fallbackTable_ = makeFallbackTable();
   }
   return fallbackTable_;
 }
 
-String Localizer::localeWithFallbacksApplied(const String& identifier) {
+String Localizer::localeWithFallbacksApplied(const String& identifier) const {
   return resolve(identifier).locale;
 }
 
-Localizer::Resolved Localizer::resolve(const String& identifier) {
+Localizer::Resolved Localizer::resolve(const String& identifier) const {
   String trimmed = stringByTrimming(identifier, CharacterSet::whitespace);
   const HashedKey key(trimmed.view());
   const String* instead = trimmed.isAbsent() ? nullptr : fallbackTable().find(key);
@@ -32,7 +32,7 @@ String Localizer::languageOnlyFromString(const String& identifier) {
   return languagePart(identifier);
 }
 
-StringList Localizer::availableLocalesFromArray(const StringList& requested) {
+StringList Localizer::availableLocalesFromArray(const StringList& requested) const {
   if (requested.empty()) {
     return {String::fromStatic(lastResortLocale)};
   }
@@ -43,8 +43,8 @@ StringList Localizer::availableLocalesFromArray(const StringList& requested) {
       available.add(std::move(resolved.locale));
       continue;
     }
-    // From the request as it came, not from what the table made of it: a request for Traditional
-    // Chinese may end in Simplified.
+    // The language part of the request itself, not of what the table gave for it: "zh-TW" may
+    // so end in "zh-Hans".
     resolved = resolve(languagePart(request));
     if (resolved.locale != request && hasBundleFor(resolved)) {
       available.add(std::move(resolved.locale));
@@ -53,7 +53,7 @@ StringList Localizer::availableLocalesFromArray(const StringList& requested) {
   return std::move(available).build();
 }
 
-bool Localizer::hasBundleFor(const Resolved& resolved) {
+bool Localizer::hasBundleFor(const Resolved& resolved) const {
   return resolved.locale.empty() ? mainBundle_ != nullptr
                                  : stringCache().hasBundleForLanguage(resolved.key);
 }
@@ -72,15 +72,16 @@ StringList Localizer::localesFromLanguages(const StringList& languages, const St
   return StringList(locales);
 }
 
-std::shared_ptr<platform::Bundle> Localizer::languageBundleForLocale(const String& identifier) {
+std::shared_ptr<platform::Bundle> Localizer::languageBundleForLocale(
+    const String& identifier) const {
   return identifier.empty() ? mainBundle_ : stringCache().bundleForLanguage(identifier);
 }
 
-platform::Bundle* Localizer::defaultLocaleBundle() {
+platform::Bundle* Localizer::defaultLocaleBundle() const {
   if (defaultLocaleBundle_ == nullptr) {
-    defaultLocaleBundle_ = languageBundleForLocale(String::fromStatic(lastResortLocale)).get();
+    defaultLocaleBundle_ = languageBundleForLocale(String::fromStatic(lastResortLocale));
   }
-  return defaultLocaleBundle_;
+  return defaultLocaleBundle_.get();
 }
 
 bool Localizer::rightToLeftOrientationForLocale(const String& identifier) const {

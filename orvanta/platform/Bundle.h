@@ -23,7 +23,8 @@ namespace orvanta::platform {
 /// A folder of resources: the application's main bundle, or one language's ".lproj" folder.
 ///
 /// A bundle is a shared object with identity, owned by its registry for the life of the process.
-/// It is used from one thread at a time, normally the main thread.
+/// It is used from one thread at a time, normally the main thread. A look-up that has to read a
+/// table may throw `std::bad_alloc`; the next one tries again.
 class ORVANTA_EXPORT Bundle {
  public:
   virtual ~Bundle();
@@ -48,34 +49,35 @@ class ORVANTA_EXPORT Bundle {
                                              const String& table = {}) const;
 
   /// The text found under `key`, absent when the table has no such entry; the table "Localizable"
-  /// when `table` is absent or empty. What `localizedStringForKey` is made of, for callers who ask
-  /// several tables for one key.
+  /// when `table` is absent or empty. Answers from the table in memory until
+  /// `BundleRegistry::refreshTables`, whatever happens to its file.
   [[nodiscard]] virtual String textForKey(const HashedKey& key, const String& table) const = 0;
 
-  /// The table "Localizable" where the bundle has it in memory, which then answers as `textForKey`
-  /// would, without a virtual call; null otherwise.
-  [[nodiscard]] const strings::StringTable* loadedDefaultTable() const noexcept {
-    return loadedDefaultTable_;
-  }
-
-  /// The same for several keys of the table "Localizable" at once, one result for each. Worth its
-  /// own operation because a bundle may answer that none of them is there without building a table.
+  /// The texts under several keys of the table "Localizable" as its file was when the bundle was
+  /// last opened: what a new record of the language is built from. One result for each key. A
+  /// bundle may find out that none of them is there without reading the table.
   [[nodiscard]] virtual std::vector<String> textsForKeys(std::span<const HashedKey> keys) const;
+
+  /// The table "Localizable" once it is in memory: asking it gives what `textForKey` gives, without
+  /// a virtual call. Null before, and for a bundle that keeps its texts elsewhere.
+  [[nodiscard]] const strings::StringTable* loadedDefaultTable() const noexcept {
+    return defaultTable_.get();
+  }
 
  protected:
   Bundle() = default;
 
-  /// `table` must stay until something else is set.
-  void setLoadedDefaultTable(const strings::StringTable* table) const noexcept {
-    loadedDefaultTable_ = table;
+  /// Where an implementation keeps that table. Look-ups fill it in, hence also of a const bundle.
+  [[nodiscard]] std::shared_ptr<const strings::StringTable>& defaultTable() const noexcept {
+    return defaultTable_;
   }
 
  private:
-  // What the bundle found out already; part of no answer.
-  mutable const strings::StringTable* loadedDefaultTable_ = nullptr;
+  mutable std::shared_ptr<const strings::StringTable> defaultTable_;
 };
 
-/// Opens bundles and keeps them: one object for each path, never freed.
+/// Opens bundles and keeps them: one object for each path, never freed. Used, with its bundles,
+/// from one thread at a time.
 class ORVANTA_EXPORT BundleRegistry {
  public:
   virtual ~BundleRegistry();
@@ -83,18 +85,24 @@ class ORVANTA_EXPORT BundleRegistry {
   BundleRegistry& operator=(const BundleRegistry&) = delete;
 
   /// The application's own bundle; always present, also when its folder holds nothing.
-  [[nodiscard]] virtual std::shared_ptr<Bundle> mainBundle() = 0;
+  [[nodiscard]] virtual std::shared_ptr<Bundle> mainBundle() const = 0;
 
   /// The folder of the library's own resources, which stands apart from the application's; absent
   /// when the library was installed without one.
   [[nodiscard]] virtual std::shared_ptr<Bundle> bundleForLibrary() = 0;
 
-  /// The bundle of a folder, absent when there is no folder there (any more). Opening one again
-  /// gives the same object; it reads its tables afresh if their files have changed meanwhile.
+  /// The bundle of a folder; absent when there is no folder, or no longer one. Opening one again
+  /// gives the same object, and leaves its tables in memory as they are.
   [[nodiscard]] virtual std::shared_ptr<Bundle> bundleWithPath(const String& path) = 0;
   [[nodiscard]] std::shared_ptr<Bundle> bundleWithURL(const URL& url) {
     return bundleWithPath(url.path());
   }
+
+  /// To be called when the language changes. From then on look-ups answer from the files as they
+  /// were when their bundles were last opened. Tables of bundles that were not opened since the
+  /// call before are dropped if their files have changed or gone. Does nothing if no bundle was
+  /// opened since then.
+  virtual void refreshTables() = 0;
 
  protected:
   BundleRegistry() = default;

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -16,7 +18,7 @@ namespace orvanta::standard {
 namespace {
 
 constexpr std::string_view kLanguageFolderExtension = ".lproj";
-const String kDefaultTable = "Localizable"_s;
+constexpr std::string_view kDefaultTable = "Localizable";
 
 // True for a link to a folder, too: a "." behind it asks what it leads to.
 bool isFolder(platform::FileManager& files, const String& path) {
@@ -25,7 +27,7 @@ bool isFolder(platform::FileManager& files, const String& path) {
 }
 
 // What all bundles of a registry share.
-struct Surroundings {
+struct Services {
   std::shared_ptr<platform::FileManager> files;
   std::shared_ptr<platform::LocaleData> locales;
   std::shared_ptr<strings::PrefixProbe> probe;
@@ -35,24 +37,23 @@ class StandardBundle final : public platform::Bundle {
  public:
   enum class Role { main, plain };
 
-  StandardBundle(Surroundings surroundings, String path, Role role)
-      : files_(std::move(surroundings.files)),
-        locales_(std::move(surroundings.locales)),
-        probe_(std::move(surroundings.probe)),
+  StandardBundle(const Services& services, String path, Role role)
+      : services_(services),
         path_(std::move(path)),
         role_(role),
-        defaultTable_(files_, probe_) {}
+        defaultFile_(services.files, services.probe) {}
 
   String bundlePath() const override { return path_; }
 
   StringList localizations() const override {
     std::vector<String> names;
-    for (const URL& entry : files_->contentsOfDirectoryAtURL(URL::fileURLWithPath(path_, true))) {
+    for (const URL& entry :
+         services_.files->contentsOfDirectoryAtURL(URL::fileURLWithPath(path_, true))) {
       const String path = entry.path();
       const String folder = path::lastPathComponent(path);
       std::string_view name = folder.view();
       if (name.ends_with(kLanguageFolderExtension) && !name.starts_with('.') &&
-          isFolder(*files_, path)) {
+          isFolder(*services_.files, path)) {
         name.remove_suffix(kLanguageFolderExtension.size());
         names.emplace_back(name);
       }
@@ -63,7 +64,7 @@ class StandardBundle final : public platform::Bundle {
   }
 
   StringList preferredLocalizations() const override {
-    return rankLocalizations(localizations(), locales_->preferredLanguages());
+    return rankLocalizations(localizations(), services_.locales->preferredLanguages());
   }
 
   String pathForResource(const String& name, const String& type) const override {
@@ -78,29 +79,92 @@ class StandardBundle final : public platform::Bundle {
       return {};
     }
     String path = path::stringByAppendingPathComponent(path_, resource);
-    if (files_->fileExistsAtPath(path)) {
+    if (services_.files->fileExistsAtPath(path)) {
       return path;
     }
     return role_ == Role::main ? pathInPreferredLocalization(resource) : String();
   }
 
   String textForKey(const HashedKey& key, const String& table) const override {
-    return tableNamed(table).textForKey(key);
+    if (table.empty() || table == kDefaultTable) {
+      return loadedTable(defaultFile_, defaultTable(), kDefaultTable).textForKey(key);
+    }
+    const auto other = otherTables_.try_emplace(table, services_).first;
+    return loadedTable(other->second.file, other->second.table, table).textForKey(key);
   }
 
   std::vector<String> textsForKeys(std::span<const HashedKey> keys) const override {
-    return lacksAll(keys) ? std::vector<String>(keys.size()) : platform::Bundle::textsForKeys(keys);
+    TableFile& file = changed_ ? changed_->file : defaultFile_;
+    std::shared_ptr<const strings::StringTable>& table =
+        changed_ ? changed_->table : defaultTable();
+    std::vector<String> texts(keys.size());
+    if (table == nullptr) {
+      const std::string_view prefix = strings::prefixToProbeFor(keys);
+      if (!prefix.empty() && file.lacksPrefix(prefix, pathOfTable(kDefaultTable))) {
+        return texts;
+      }
+    }
+    const strings::StringTable& loaded = loadedTable(file, table, kDefaultTable);
+    std::transform(keys.begin(), keys.end(), texts.begin(),
+                   [&](const HashedKey& key) { return loaded.textForKey(key); });
+    return texts;
   }
 
+  // To be called when the bundle is opened again. A table in memory stays as it is.
   void openAgain() {
-    checkAgain(defaultTable_, kDefaultTable);
-    setLoadedDefaultTable(defaultTable_.loaded());
-    for (auto& [name, table] : otherTables_) {
-      checkAgain(table, name);
+    TableFile& file = changed_ ? changed_->file : defaultFile_;
+    if (!hasChanged(file, kDefaultTable)) {
+      return;
+    }
+    if (defaultTable() == nullptr) {
+      file.reset();
+    } else {
+      changed_.emplace(services_);
     }
   }
 
+  // Takes over what opening the bundle again has found.
+  void takeOverChanges() {
+    if (changed_) {
+      defaultFile_ = std::move(changed_->file);
+      defaultTable() = std::move(changed_->table);
+      changed_.reset();
+    }
+    dropChangedOtherTables();
+  }
+
+  // Drops every table whose file has changed or gone.
+  void dropChangedTables() {
+    dropIfChanged(defaultFile_, defaultTable(), kDefaultTable);
+    dropChangedOtherTables();
+  }
+
  private:
+  // A table and the state of its file. The table is null until a look-up has read it.
+  struct Table {
+    explicit Table(const Services& services) : file(services.files, services.probe) {}
+    TableFile file;
+    std::shared_ptr<const strings::StringTable> table;
+  };
+
+  bool hasChanged(TableFile& file, const String& name) const {
+    return file.wasRead() && file.hasChanged(pathOfTable(name));
+  }
+
+  void dropIfChanged(TableFile& file, std::shared_ptr<const strings::StringTable>& table,
+                     const String& name) const {
+    if (hasChanged(file, name)) {
+      file.reset();
+      table.reset();
+    }
+  }
+
+  void dropChangedOtherTables() {
+    for (auto& [name, other] : otherTables_) {
+      dropIfChanged(other.file, other.table, name);
+    }
+  }
+
   String pathOfTable(const String& name) const { return pathForResource(name, "strings"); }
 
   String pathInPreferredLocalization(std::string_view resource) const {
@@ -111,48 +175,26 @@ class StandardBundle final : public platform::Bundle {
     const String folder = path::stringByAppendingPathComponent(
         path_, preferred.front().str().append(kLanguageFolderExtension));
     String path = path::stringByAppendingPathComponent(folder, resource);
-    return files_->fileExistsAtPath(path) ? path : String();
+    return services_.files->fileExistsAtPath(path) ? path : String();
   }
 
-  // True when the default table need not be read in order to know that it has none of `keys`.
-  bool lacksAll(std::span<const HashedKey> keys) const {
-    if (defaultTable_.loaded() != nullptr) {
-      return false;
+  const strings::StringTable& loadedTable(TableFile& file,
+                                          std::shared_ptr<const strings::StringTable>& table,
+                                          const String& name) const {
+    if (table == nullptr) {
+      table = file.read(pathOfTable(name));
     }
-    const std::string_view prefix = strings::prefixToProbeFor(keys);
-    return !prefix.empty() &&
-           (defaultTable_.isKnownToLack(prefix) ||
-            defaultTable_.findOutWhetherItLacks(prefix, pathOfTable(kDefaultTable)));
+    return *table;
   }
 
-  const strings::StringTable& tableNamed(const String& name) const {
-    if (name.empty() || name == kDefaultTable) {
-      const strings::StringTable& table = loadedTable(defaultTable_, kDefaultTable);
-      setLoadedDefaultTable(&table);
-      return table;
-    }
-    return loadedTable(otherTables_.try_emplace(name, files_, probe_).first->second, name);
-  }
-
-  const strings::StringTable& loadedTable(TableFile& table, const String& name) const {
-    const strings::StringTable* loaded = table.loaded();
-    return loaded != nullptr ? *loaded : table.load(pathOfTable(name));
-  }
-
-  void checkAgain(TableFile& table, const String& name) const {
-    if (!table.isUntouched()) {
-      table.checkAgain(pathOfTable(name));
-    }
-  }
-
-  std::shared_ptr<platform::FileManager> files_;
-  std::shared_ptr<platform::LocaleData> locales_;
-  std::shared_ptr<strings::PrefixProbe> probe_;
-  String path_;
-  Role role_;
-  // Filled by look-ups, which change nothing that a caller could see.
-  mutable TableFile defaultTable_;
-  mutable std::unordered_map<String, TableFile, TextHash, TextEqual> otherTables_;
+  const Services services_;
+  const String path_;
+  const Role role_;
+  // Memoized by look-ups. The default table itself stands in the base class.
+  mutable TableFile defaultFile_;
+  // What opening the bundle again has found of the default table, until the language changes.
+  mutable std::optional<Table> changed_;
+  mutable std::unordered_map<String, Table, TextHash, TextEqual> otherTables_;
 };
 
 class StandardBundleRegistry final : public platform::BundleRegistry {
@@ -160,15 +202,14 @@ class StandardBundleRegistry final : public platform::BundleRegistry {
   StandardBundleRegistry(std::shared_ptr<platform::FileManager> files,
                          std::shared_ptr<platform::LocaleData> locales,
                          const String& mainBundlePath, String libraryPath)
-      : surroundings_{std::move(files), std::move(locales),
-                      std::make_shared<strings::PrefixProbe>()},
-        libraryPath_(std::move(libraryPath)) {
-    String path = normalizedBundlePath(mainBundlePath);
-    main_ = std::make_shared<StandardBundle>(surroundings_, path, StandardBundle::Role::main);
-    bundles_.emplace(std::move(path), main_);
+      : services_{std::move(files), std::move(locales), std::make_shared<strings::PrefixProbe>()},
+        libraryPath_(std::move(libraryPath)),
+        main_(std::make_shared<StandardBundle>(services_, normalizedBundlePath(mainBundlePath),
+                                               StandardBundle::Role::main)) {
+    bundles_.emplace(main_->bundlePath(), Opened{main_, 0});
   }
 
-  std::shared_ptr<platform::Bundle> mainBundle() override { return main_; }
+  std::shared_ptr<platform::Bundle> mainBundle() const override { return main_; }
 
   std::shared_ptr<platform::Bundle> bundleForLibrary() override {
     return bundleWithPath(libraryPath_);
@@ -176,24 +217,49 @@ class StandardBundleRegistry final : public platform::BundleRegistry {
 
   std::shared_ptr<platform::Bundle> bundleWithPath(const String& path) override {
     const String normalized = normalizedBundlePath(path);
-    if (normalized.isAbsent() || !isFolder(*surroundings_.files, normalized)) {
+    wasAsked_ = true;
+    if (normalized.isAbsent() || !isFolder(*services_.files, normalized)) {
       return nullptr;
     }
-    const auto [entry, isNew] = bundles_.try_emplace(normalized, nullptr);
-    if (isNew) {
-      entry->second =
-          std::make_shared<StandardBundle>(surroundings_, normalized, StandardBundle::Role::plain);
-    } else {
-      entry->second->openAgain();
+    const auto known = bundles_.find(normalized);
+    if (known == bundles_.end()) {
+      auto bundle =
+          std::make_shared<StandardBundle>(services_, normalized, StandardBundle::Role::plain);
+      bundles_.emplace(normalized, Opened{bundle, refreshes_});
+      return bundle;
     }
-    return entry->second;
+    known->second.bundle->openAgain();
+    known->second.when = refreshes_;
+    return known->second.bundle;
+  }
+
+  void refreshTables() override {
+    if (!wasAsked_) {
+      return;
+    }
+    for (const auto& [path, opened] : bundles_) {
+      if (opened.when == refreshes_) {
+        opened.bundle->takeOverChanges();
+      } else {
+        opened.bundle->dropChangedTables();
+      }
+    }
+    wasAsked_ = false;
+    ++refreshes_;
   }
 
  private:
-  Surroundings surroundings_;
-  String libraryPath_;
-  std::shared_ptr<StandardBundle> main_;
-  std::unordered_map<String, std::shared_ptr<StandardBundle>, TextHash, TextEqual> bundles_;
+  struct Opened {
+    std::shared_ptr<StandardBundle> bundle;
+    std::uint64_t when;  // The number of refreshes before it was last opened.
+  };
+
+  const Services services_;
+  const String libraryPath_;
+  const std::shared_ptr<StandardBundle> main_;
+  std::unordered_map<String, Opened, TextHash, TextEqual> bundles_;
+  bool wasAsked_ = false;  // For a bundle, since the last refresh.
+  std::uint64_t refreshes_ = 1;
 };
 
 }  // namespace

@@ -3,87 +3,94 @@
 
 #include <orvanta/standard/FileBytes.h>
 #include <orvanta/standard/TableFile.h>
-#include <orvanta/strings/probe/PrefixProbe.h>
 #include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/text/NoDestructor.h>
 #include <orvanta/text/TextHash.h>
 
 namespace orvanta::standard {
 
 namespace {
 
-// Systems note the time of a write in steps of up to 10 ms, some file systems in whole seconds or
-// two; until the step is over, another write of the same length leaves the stamp as it is.
-bool isSettledAt(std::chrono::nanoseconds now, std::chrono::nanoseconds modification) {
+// Kernels round modification times to up to 10 ms, some file systems to one or two seconds. Within
+// that time another write of the same length leaves the stamp as it is.
+bool isRacyAt(std::chrono::nanoseconds now, std::chrono::nanoseconds modification) {
   using std::chrono_literals::operator""s;
   using std::chrono_literals::operator""ms;
-  const std::chrono::nanoseconds step = modification % 1s == 0s ? 2s : 20ms;
-  return modification + step < now;
+  const std::chrono::nanoseconds granularity = modification % 1s == 0s ? 2s : 20ms;
+  return modification + granularity >= now;
 }
 
-std::optional<FileBytes> readSighted(platform::FileManager& files, const FileSighting& sighting) {
-  return sighting.stamp ? readWholeFile(files, sighting.path, sighting.stamp->size) : std::nullopt;
+std::optional<FileBytes> contentOf(platform::FileManager& files, const FileState& state) {
+  return state.stamp ? readWholeFile(files, state.path, state.stamp->size) : std::nullopt;
 }
 
-std::shared_ptr<const strings::StringTable> tableOf(const std::optional<FileBytes>& bytes) {
-  static const auto empty = std::make_shared<const strings::StringTable>();
-  auto table = bytes ? strings::readStringTable(bytes->view()) : nullptr;
-  return table == nullptr ? empty : table;
+std::shared_ptr<const strings::StringTable> emptyTable() {
+  static NoDestructor<const std::shared_ptr<const strings::StringTable>> empty(
+      std::make_shared<const strings::StringTable>());
+  return *empty;
 }
 
 }  // namespace
 
-FileSighting FileSighting::of(platform::FileManager& files, String path) {
+FileState FileState::of(platform::FileManager& files, String path) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
-  FileSighting sighting{std::move(path), std::nullopt};
-  sighting.stamp = files.stampOfFileAtPath(sighting.path);
-  sighting.isSettled =
-      !sighting.stamp ||
-      isSettledAt(now, std::chrono::nanoseconds(sighting.stamp->modificationNanoseconds));
-  return sighting;
+  FileState state{std::move(path), std::nullopt};
+  state.stamp = files.stampOfFileAtPath(state.path);
+  state.isRacy =
+      state.stamp && isRacyAt(now, std::chrono::nanoseconds(state.stamp->modificationNanoseconds));
+  return state;
 }
 
-const strings::StringTable& TableFile::load(const String& path) {
-  forget();
-  sighting_ = FileSighting::of(*files_, path);
-  const std::optional<FileBytes> bytes = readSighted(*files_, sighting_);
-  // What could not be read today may be readable tomorrow without having changed.
-  sighting_.isSettled = sighting_.isSettled && (bytes || !sighting_.stamp);
-  contentHash_ = bytes && !sighting_.isSettled ? textHash(bytes->view()) : 0;
-  table_ = tableOf(bytes);
-  return *table_;
+std::shared_ptr<const strings::StringTable> TableFile::read(const String& path) {
+  FileState state = FileState::of(*files_, path);
+  const std::optional<FileBytes> bytes = contentOf(*files_, state);
+  auto table = bytes ? strings::readStringTable(bytes->view()) : nullptr;
+  if (table == nullptr) {
+    table = emptyTable();
+  }
+  // A file that cannot be read now may become readable without another stamp.
+  state.isRacy = state.isRacy || (state.stamp && !bytes);
+  reset();
+  if (bytes && state.isRacy) {
+    contentHash_ = textHash(bytes->view());
+  }
+  state_ = std::move(state);
+  return table;
 }
 
-bool TableFile::findOutWhetherItLacks(std::string_view prefix, const String& path) {
-  forget();
-  sighting_ = FileSighting::of(*files_, path);
+bool TableFile::lacksPrefix(std::string_view prefix, const String& path) {
+  if (!prefix.empty() && lackedPrefix_ == prefix) {
+    return true;
+  }
+  FileState state = FileState::of(*files_, path);
   const auto file = files_->openFileForReading(path);
   if (file == nullptr || probe_->mayHoldKeysWithPrefix(*file, prefix)) {
     return false;
   }
+  reset();
   lackedPrefix_ = prefix;
+  state_ = std::move(state);
   return true;
 }
 
-void TableFile::checkAgain(const String& path) {
-  FileSighting now = FileSighting::of(*files_, path);
-  if (stillHolds(now)) {
-    sighting_ = std::move(now);
-  } else {
-    forget();
+bool TableFile::hasChanged(const String& path) {
+  FileState now = FileState::of(*files_, path);
+  if (now != *state_ || (state_->isRacy && !isSameContent(now))) {
+    return true;
   }
+  state_ = std::move(now);
+  return false;
 }
 
-void TableFile::forget() noexcept {
-  table_.reset();
+void TableFile::reset() noexcept {
+  state_.reset();
+  contentHash_.reset();
   lackedPrefix_.clear();
 }
 
-bool TableFile::stillHolds(const FileSighting& now) const {
-  if (now != sighting_ || sighting_.isSettled) {
-    return now == sighting_;
-  }
-  const auto bytes = table_ == nullptr ? std::nullopt : readSighted(*files_, now);
-  return bytes && textHash(bytes->view()) == contentHash_;
+bool TableFile::isSameContent(const FileState& now) const {
+  const auto bytes = contentHash_ ? contentOf(*files_, now) : std::nullopt;
+  return bytes && textHash(bytes->view()) == *contentHash_;
 }
 
 }  // namespace orvanta::standard

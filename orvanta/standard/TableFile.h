@@ -13,57 +13,52 @@
 
 namespace orvanta::standard {
 
-/// What a file looked like when it was read.
-struct FileSighting {
+/// Which file a table was read from, and its stamp then.
+struct FileState {
   String path;                               ///< Absent where there was no file.
   std::optional<platform::FileStamp> stamp;  ///< Absent where there was no regular file.
-  /// Nobody can have written to the file after this sighting without changing its stamp.
-  bool isSettled = true;
+  /// The modification time is so recent that another write may leave the same stamp.
+  bool isRacy = false;
 
-  [[nodiscard]] static FileSighting of(platform::FileManager& files, String path);
+  [[nodiscard]] static FileState of(platform::FileManager& files, String path);
 
-  friend bool operator==(const FileSighting& a, const FileSighting& b) noexcept {
+  friend bool operator==(const FileState& a, const FileState& b) noexcept {
     return a.path == b.path && a.stamp == b.stamp;
   }
 };
 
-/// One string table of a bundle, read from its file when it is first asked for.
+/// Reads one string table of a bundle, and can tell later whether the file has changed since.
 class TableFile {
  public:
   TableFile(std::shared_ptr<platform::FileManager> files,
             std::shared_ptr<strings::PrefixProbe> probe)
       : files_(std::move(files)), probe_(std::move(probe)) {}
 
-  /// The table, null as long as it was not read.
-  [[nodiscard]] const strings::StringTable* loaded() const noexcept { return table_.get(); }
+  /// Reads the table from `path`, absent for no file. What is missing, unreadable or no table gives
+  /// an empty table; never null. Throws `std::bad_alloc`, and is then as if it had not been called.
+  [[nodiscard]] std::shared_ptr<const strings::StringTable> read(const String& path);
 
-  /// Reads the table from `path`, absent for no file. What is missing or unreadable is empty.
-  const strings::StringTable& load(const String& path);
+  /// Whether no key in the file at `path` begins with `prefix`, which `prefixToProbeFor` gave.
+  /// Finds out without reading the table, and remembers a yes. A no is no promise.
+  [[nodiscard]] bool lacksPrefix(std::string_view prefix, const String& path);
 
-  /// True when it was found out, without reading the table, that no key of it begins with `prefix`
-  /// (see PrefixProbe.h).
-  [[nodiscard]] bool isKnownToLack(std::string_view prefix) const noexcept {
-    return !prefix.empty() && lackedPrefix_ == prefix;
-  }
-  /// Tries to find that out for the file at `path`.
-  bool findOutWhetherItLacks(std::string_view prefix, const String& path);
+  /// Whether anything is known of the file.
+  [[nodiscard]] bool wasRead() const noexcept { return state_.has_value(); }
 
-  /// Nothing is known of the file: there is nothing to check again.
-  [[nodiscard]] bool isUntouched() const noexcept {
-    return table_ == nullptr && lackedPrefix_.empty();
-  }
-  /// Forgets what is known unless a reading of `path` would give the same now.
-  void checkAgain(const String& path);
+  /// Whether reading from `path` might give something else now than it gave last. Something must
+  /// have been read.
+  [[nodiscard]] bool hasChanged(const String& path);
+
+  /// Forgets what is known of the file.
+  void reset() noexcept;
 
  private:
-  [[nodiscard]] bool stillHolds(const FileSighting& now) const;
-  void forget() noexcept;
+  [[nodiscard]] bool isSameContent(const FileState& now) const;
 
   std::shared_ptr<platform::FileManager> files_;
   std::shared_ptr<strings::PrefixProbe> probe_;
-  std::shared_ptr<const strings::StringTable> table_;
-  FileSighting sighting_;
-  std::uint64_t contentHash_ = 0;
+  std::optional<FileState> state_;            // At the last reading; absent before the first.
+  std::optional<std::uint64_t> contentHash_;  // Where the stamp alone does not do.
   std::string lackedPrefix_;
 };
 

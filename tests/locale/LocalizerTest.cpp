@@ -1,3 +1,4 @@
+#include <functional>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -171,6 +172,91 @@ TEST(Localizer, KeepsTheEnglishBundleThatItFoundFirst) {
   EXPECT_EQ(app.localizer.localizedStringForKey("a"), "shipped");
   app.localizer.changeOrvantaLanguageToPreferredLocales({"en"});
   EXPECT_EQ(app.localizer.localizedStringForKey("a"), "downloaded");
+}
+
+// The record that a catalogue listing builds is of the new file; look-ups wait for a change.
+TEST(Localizer, AnswersFromMemoryUntilTheNextChange) {
+  const std::string version(OVOrvantaLanguageVersionKey);
+  SpeakingApplication app({{"en", {{"e", "english"}}}}, {"fr"});
+  app.download("en", {{"e", "old english"}, {version, "1"}});
+  app.download("fr", {{"k", "old"}, {version, "1"}});
+  Localizer localizer;
+  OVStringCache& cache = localizer.stringCache();
+  const auto texts = [&] {
+    return localizer.localizedStringForKey("k").str() + ", " +
+           localizer.localizedStringForKey("e").str();
+  };
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  EXPECT_EQ(texts(), "old, old english");
+  app.download("en", {{"e", "new english"}, {version, "2"}});
+  app.download("fr", {{"k", "new"}, {version, "2"}});
+  cache.refreshCache();
+  const OVLocaleDictionary languages = cache.availableLanguages();
+  EXPECT_EQ((*languages.find("fr"))->version(), "2");
+  EXPECT_EQ(texts(), "old, old english");
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  EXPECT_EQ(texts(), "new, new english");
+}
+
+TEST(Localizer, AnswersAlikeFromClearedTablesAskedBeforeOrNot) {
+  for (const bool wasAsked : {true, false}) {
+    SpeakingApplication app({{"en", {{"e", "shipped"}}}, {"fr", {}}}, {"fr"});
+    app.download("en", {{"e", "downloaded"}});
+    Localizer localizer;
+    EXPECT_TRUE(localizer.defaultLocaleBundle()->bundlePath().view().find("Caches") !=
+                std::string_view::npos);
+    if (wasAsked) {
+      EXPECT_EQ(localizer.localizedStringForKey("e"), "downloaded");
+    }
+    localizer.stringCache().clearCache();
+    localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+    EXPECT_EQ(localizer.localizedStringForKey("e"), "e") << wasAsked;
+    localizer.changeOrvantaLanguageToPreferredLocales({"en"});
+    EXPECT_EQ(localizer.localizedStringForKey("e"), "shipped") << wasAsked;
+  }
+}
+
+// A bundle of the application's own, without a folder.
+class OwnBundle final : public platform::Bundle {
+ public:
+  explicit OwnBundle(std::function<String(std::string_view key)> texts)
+      : texts_(std::move(texts)) {}
+  [[nodiscard]] String bundlePath() const override { return "/own/en.lproj"; }
+  [[nodiscard]] StringList localizations() const override { return {}; }
+  [[nodiscard]] StringList preferredLocalizations() const override { return {}; }
+  [[nodiscard]] String pathForResource(const String& /*name*/,
+                                       const String& /*type*/) const override {
+    return {};
+  }
+  [[nodiscard]] String textForKey(const HashedKey& key, const String& /*table*/) const override {
+    return texts_(key.text);
+  }
+
+ private:
+  std::function<String(std::string_view key)> texts_;
+};
+
+TEST(Localizer, KeepsTheEnglishBundleThatAnApplicationTakesBack) {
+  SpeakingApplication app({{"fr", {{"k", "français"}}}}, {"fr"});
+  app.localizer.stringCache().setAvailableLanguages(
+      {{"en", OVLocale::initWithBundle(std::make_shared<OwnBundle>(
+                  [](std::string_view key) { return key == "e" ? "own"_s : String(); }))}});
+  EXPECT_EQ(app.localizer.localizedStringForKey("e"), "own");
+  app.localizer.stringCache().refreshCache();
+  EXPECT_EQ(app.localizer.localizedStringForKey("e"), "own");
+  EXPECT_EQ(app.localizer.localizedStringForKey("k"), "français");
+}
+
+TEST(Localizer, AnswersFromTheBundleThatIsSet) {
+  SpeakingApplication app({{"en", {}}, {"fr", {{"k", "français"}}}}, {"fr"});
+  Localizer& localizer = app.localizer;
+  localizer.setCurrentLanguageBundle(std::make_shared<OwnBundle>([&](std::string_view key) {
+    localizer.setCurrentLanguageBundle(nullptr);  // While it is being asked.
+    return String(key) == "k" ? "own"_s : String();
+  }));
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "own");
+  EXPECT_EQ(localizer.currentLanguageBundle(), nullptr);
+  EXPECT_EQ(localizer.localizedStringForKey("k"), "français") << "the device's choice again";
 }
 
 TEST(Localizer, NamesItsLocales) {

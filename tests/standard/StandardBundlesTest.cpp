@@ -70,7 +70,7 @@ TEST_F(StandardBundles, AreAbsentWithoutAFolder) {
   }
 }
 
-TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
+TEST_F(StandardBundles, ReadChangedTablesOnceTheyAreRefreshed) {
   const std::string file = write("fr.lproj/Localizable.strings", R"("k" = "one";)");
   write("fr.lproj/Other.strings", R"("k" = "other";)");
   const auto registry = registryFor();
@@ -80,21 +80,65 @@ TEST_F(StandardBundles, ReadTablesAfreshWhenTheirFilesChanged) {
   EXPECT_EQ(bundle->localizedStringForKey("k", {}, "Other"), "other");
   EXPECT_TRUE(bundle->localizedStringForKey("k", {}, "Localizable").isSameObject(one));
 
-  const auto again = [&] {
+  const std::vector<HashedKey> keys = {HashedKey("k")};
+  const auto openedAgain = [&] {
     EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle);
+    return bundle->textsForKeys(keys).front();
+  };
+  const auto again = [&] {
+    static_cast<void>(openedAgain());
+    registry->refreshTables();
     return bundle->localizedStringForKey("k");
   };
   EXPECT_TRUE(again().isSameObject(one)) << "nothing had changed";
 
-  // Of the same length, in place, and at once: only the content tells.
+  // In place, of the same length and at once: the stamp may be the same.
   write("fr.lproj/Localizable.strings", R"("k" = "two";)");
-  EXPECT_EQ(bundle->localizedStringForKey("k"), "one") << "not opened again yet";
-  EXPECT_EQ(again(), "two");
+  write("fr.lproj/Other.strings", R"("k" = "owner";)");
+  registry->refreshTables();
+  EXPECT_EQ(bundle->localizedStringForKey("k"), "one") << "no bundle was opened";
+  EXPECT_EQ(openedAgain(), "two") << "a record is built from the file";
+  EXPECT_EQ(bundle->localizedStringForKey("k"), "one") << "look-ups wait for the refresh";
+  write("fr.lproj/Localizable.strings", R"("k" = "six";)");
+  EXPECT_EQ(openedAgain(), "six");
+  EXPECT_EQ(bundle->localizedStringForKey("k", {}, "Other"), "other");
+  EXPECT_EQ(again(), "six");
+  EXPECT_EQ(bundle->localizedStringForKey("k", {}, "Other"), "owner");
   std::filesystem::remove(file);
   EXPECT_EQ(again(), "k");
   write("fr.lproj/Localizable.strings", R"("k" = "back";)");
   EXPECT_EQ(again(), "back");
   EXPECT_EQ(one, "one") << "what was handed out stays";
+}
+
+// Whether or not their tables were asked before: refreshed, those of folders that have gone answer
+// alike, and hold no memory.
+TEST_F(StandardBundles, DropTablesOfFoldersThatHaveGone) {
+  const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
+                                       HashedKey("CONFIG-Language-B")};
+  const std::pair<const char*, std::function<void(platform::Bundle&)>> rows[] = {
+      {"unread", [](platform::Bundle&) {}},
+      {"probed", [&](platform::Bundle& bundle) { static_cast<void>(bundle.textsForKeys(keys)); }},
+      {"read", [](platform::Bundle& bundle) { EXPECT_EQ(bundle.localizedStringForKey("k"), "v"); }},
+  };
+  write("en.lproj/Localizable.strings", R"("k" = "english";)");
+  for (const auto& [name, ask] : rows) {
+    const auto registry = registryFor();
+    write("fr.lproj/Localizable.strings", R"("k" = "v";)");
+    const auto bundle = registry->bundleWithPath(path("fr.lproj"));
+    ask(*bundle);
+    registry->refreshTables();
+    std::filesystem::remove_all(path("fr.lproj"));
+    EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), nullptr) << name;
+    ask(*bundle);
+    registry->refreshTables();
+    EXPECT_EQ(bundle->loadedDefaultTable(), nullptr) << name;
+    EXPECT_EQ(bundle->localizedStringForKey("k"), "k") << name;
+    write("fr.lproj/Localizable.strings", R"("k" = "back";)");
+    EXPECT_EQ(registry->bundleWithPath(path("fr.lproj")), bundle) << name;
+    registry->refreshTables();
+    EXPECT_EQ(bundle->localizedStringForKey("k"), "back") << name;
+  }
 }
 
 TEST_F(StandardBundles, ListLanguageFolders) {
@@ -122,6 +166,7 @@ TEST_F(StandardBundles, MainBundleFallsBackOnItsPreferredLocalization) {
 
   write("Localizable.strings", R"("k" = "direct";)");
   EXPECT_EQ(registry->bundleWithPath(folder()), main);
+  registry->refreshTables();
   EXPECT_EQ(main->localizedStringForKey("k"), "direct");
 }
 
@@ -163,7 +208,9 @@ TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
   write("it.lproj/Localizable.strings", "\0\1\2 no table");
   const auto registry = registryFor();
   const auto look = [&](const char* folder) {
-    return registry->bundleWithPath(path(folder))->localizedStringForKey("k");
+    const auto bundle = registry->bundleWithPath(path(folder));
+    registry->refreshTables();
+    return bundle->localizedStringForKey("k");
   };
   failing_ = "read";
   EXPECT_EQ(look("fr.lproj"), "k");
