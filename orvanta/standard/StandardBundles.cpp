@@ -18,7 +18,7 @@ namespace orvanta::standard {
 namespace {
 
 constexpr std::string_view kLanguageFolderExtension = ".lproj";
-constexpr std::string_view kDefaultTable = "Localizable";
+constexpr String kDefaultTable = "Localizable";
 
 // True for a link to a folder, too: a "." behind it asks what it leads to.
 bool isFolder(platform::FileManager& files, const String& path) {
