@@ -10,8 +10,7 @@
 #include <string_view>
 
 #include <orvanta/strings/reader/StringTableReader.h>
-#include <orvanta/strings/writer/StringsFileText.h>
-#include <orvanta/strings/writer/Utf16Writer.h>
+#include <orvanta/strings/writer/StringsFile.h>
 #include <orvanta/text/StringsPayload.h>
 #include <orvanta/text/Utf8.h>
 
@@ -56,9 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     isValid = isValid && orvanta::utf8::isValid(key) && orvanta::utf8::isValid(value);
   }
   orvanta::test::MemoryFile file;
-  orvanta::Utf16Writer writer(file);
-  orvanta::forEachPieceOfStringsFile(table, [&](std::string_view piece) { writer.append(piece); });
-  expect(writer.finish().has_value() != isValid, "valid text is written, other text is not");
+  expect(orvanta::strings::writeStringsFile(table, file).ok() == isValid,
+         "valid text is written, other text is not");
   if (!isValid) {
     return 0;
   }

@@ -1,14 +1,18 @@
+#include <algorithm>
+#include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
+#include <orvanta/cache/CachePath.h>
+#include <orvanta/cache/CacheUpdate.h>
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
-#include <orvanta/cache/ReplacingWriter.h>
-#include <orvanta/cache/TableWriter.h>
+#include <orvanta/cache/StringsFileReplacement.h>
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/platform/Platform.h>
-#include <orvanta/strings/writer/StringsFileText.h>
+#include <orvanta/text/FormatArgument.h>
 
 namespace orvanta {
 
@@ -34,14 +38,41 @@ const OVLocale* localeUnder(const HashedKey& key, const OVLocaleDictionary& lang
   return locale == nullptr ? nullptr : locale->get();
 }
 
-std::string formatted(const String& text) {
-  return text.isAbsent() ? "(null)" : text.str();
-}
-
 std::shared_ptr<Bundle> bundleUnder(std::string_view key, const OVLocaleDictionary& languages) {
   const OVLocale* locale = localeUnder(HashedKey(key), languages);
   return locale == nullptr ? nullptr : locale->bundle();
 }
+
+// Only texts count: the cache cannot store a value of another kind.
+bool holdsTexts(const StringsPayload& table) {
+  return std::any_of(table.entries().begin(), table.entries().end(),
+                     [](const StringsPayload::Entry& entry) { return entry.second.isText(); });
+}
+
+StringsUpdate writeTable(CacheUpdate& update, const String& language, const StringsPayload& table) {
+  const URL file =
+      OVStringCacheUtilities::stringsFileURLForLanguage(update.cacheFolderURL(), language);
+  const CachePath path = cachePathOf(file, update.cacheFolderURL());
+  const Replacement replacement = update.writeStringsFile(table, path);
+  logReplacement(replacement, file);
+  if (!replacement.isInPlace) {
+    return {language, StringsUpdate::Result::failed, file,
+            replacement.status.localizedDescription()};
+  }
+  String reason;
+  if (!replacement.status.ok()) {
+    reason = "may not survive a loss of power: " + replacement.status.localizedDescription().str();
+  } else if (path.isHidden()) {
+    reason = "never listed, because a part of its name begins with \".\""_s;
+  }
+  return {language, StringsUpdate::Result::written, file, reason};
+}
+
+// Forgets the catalogue however an update ends.
+struct RefreshAtExit {
+  OVStringCache& cache;
+  ~RefreshAtExit() { cache.refreshCache(); }
+};
 
 }  // namespace
 
@@ -63,6 +94,9 @@ OVLocaleDictionary OVStringCache::mainBundleLocales() const {
   platform::BundleRegistry& bundles = *Platform::current().bundles;
   const std::shared_ptr<Bundle> mainBundle = bundles.mainBundle();
   const StringList names = mainBundle->localizations();
+  if (names.isAbsent()) {
+    return {};
+  }
   OVLocaleDictionary::Map locales;
   locales.reserve(names.size());
   for (const String& name : names) {
@@ -81,27 +115,37 @@ bool OVStringCache::stringsFileExistsForBundle(const Bundle& bundle) const {
 }
 
 OVLocaleDictionary OVStringCache::cachedLanguages() {
-  if (cachedLanguages_.isAbsent()) {
-    const Platform& platform = Platform::current();
-    OVLocaleDictionary::Map locales;
-    platform.files->enumerateDirectoryAtURL(
-        cacheDirectoryURL(), [&](const URL& entry, bool isDirectory) {
-          const auto bundle = isDirectory ? platform.bundles->bundleWithURL(entry) : nullptr;
-          if (bundle == nullptr || !stringsFileExistsForBundle(*bundle)) {
-            return;
-          }
-          if (auto locale = OVLocale::initWithBundle(bundle)) {
-            const String key = locale->appleLocaleName();
-            locales.insert_or_assign(key, std::move(locale));
-          }
-        });
-    cachedLanguages_ = OVLocaleDictionary(std::move(locales));
+  if (cachedLanguages_.isAbsent() || cachedLanguagesAreStale_) {
+    listCachedLanguages();
   }
   return cachedLanguages_;
 }
 
+void OVStringCache::listCachedLanguages() {
+  const Platform& platform = Platform::current();
+  OVLocaleDictionary::Map locales;
+  const Status status = platform.files->enumerateDirectoryAtURL(
+      cacheDirectoryURL(), [&](const URL& entry, bool isDirectory) {
+        const auto bundle = isDirectory ? platform.bundles->bundleWithURL(entry) : nullptr;
+        if (bundle == nullptr || !stringsFileExistsForBundle(*bundle)) {
+          return;
+        }
+        if (auto locale = OVLocale::initWithBundle(bundle)) {
+          const String key = locale->appleLocaleName();
+          locales.insert_or_assign(key, std::move(locale));
+        }
+      });
+  const bool isListed = status.ok() || status.is(std::errc::no_such_file_or_directory) ||
+                        status.is(std::errc::not_a_directory);
+  if (isListed || cachedLanguages_.isAbsent()) {
+    cachedLanguages_ = OVLocaleDictionary(std::move(locales));
+  }
+  cachedLanguagesAreStale_ = status.isShortage();
+}
+
 void OVStringCache::setCachedLanguages(OVLocaleDictionary languages) {
   cachedLanguages_ = std::move(languages);
+  cachedLanguagesAreStale_ = false;
 }
 
 OVLocaleDictionary OVStringCache::availableLanguages() {
@@ -109,19 +153,26 @@ OVLocaleDictionary OVStringCache::availableLanguages() {
 }
 
 const OVLocaleDictionary& OVStringCache::languages() {
-  if (availableLanguages_.isAbsent()) {
-    const OVLocaleDictionary shipped = mainBundleLocales();
+  if (availableLanguages_.isPresent() && !availableLanguagesAreStale_) {
+    return availableLanguages_;
+  }
+  const OVLocaleDictionary shipped = mainBundleLocales();
+  const OVLocaleDictionary cached = cachedLanguages();
+  const bool isComplete = shipped.isPresent() && !cachedLanguagesAreStale_;
+  if (isComplete || availableLanguages_.isAbsent()) {
     OVLocaleDictionary::Map locales = shipped.entries();
-    for (const auto& [key, locale] : cachedLanguages()) {
+    for (const auto& [key, locale] : cached) {
       locales.insert_or_assign(key, locale);
     }
     availableLanguages_ = OVLocaleDictionary(std::move(locales));
   }
+  availableLanguagesAreStale_ = !isComplete;
   return availableLanguages_;
 }
 
 void OVStringCache::setAvailableLanguages(OVLocaleDictionary languages) {
   availableLanguages_ = std::move(languages);
+  availableLanguagesAreStale_ = false;
 }
 
 StringList OVStringCache::availableLanguageCodes() {
@@ -179,46 +230,34 @@ String OVStringCache::localizedStringForKey(const String& key, const String& lan
 
 void OVStringCache::updateStrings(const StringsPayload& strings, const String& namespaceName,
                                   const String& bundleName, const UpdateReport& report) {
-  sweepAbandonedFiles(*Platform::current().files, cacheDirectoryURL());
-  const std::string tablePath =
-      formatted(bundleName) + '.' + formatted(namespaceName) + ".zantorData";
+  std::string tablePath(formatArgument(bundleName));
+  tablePath.append(1, '.').append(formatArgument(namespaceName)).append(".zantorData");
+  const RefreshAtExit refreshAtExit{*this};
+  std::optional<CacheUpdate> update;
   for (const auto& [language, payload] : strings.entries()) {
-    const StringsUpdate update = updateLanguage(language, payload.valueForKeyPath(tablePath));
+    const StringsPayload* table = payload.valueForKeyPath(tablePath);
+    StringsUpdate result{language, StringsUpdate::Result::skipped, {}, "no texts in the payload"_s};
+    if (table != nullptr && holdsTexts(*table)) {
+      if (!update) {
+        update.emplace(*Platform::current().files, cacheDirectoryURL());
+      }
+      result = writeTable(*update, language, *table);
+    }
     if (report) {
-      report(update);
+      report(result);
     }
   }
-  refreshCache();
 }
 
-StringsUpdate OVStringCache::updateLanguage(const String& language, const StringsPayload* table) {
-  if (table == nullptr || table->entries().empty()) {
-    return {language, StringsUpdate::Result::skipped, {}, "no strings for it in the payload"_s};
-  }
-  const URL folder = cacheDirectoryURL();
-  const URL file = OVStringCacheUtilities::stringsFileURLForLanguage(folder, language);
-  const auto error = writeTableInside(
-      folder,
-      [&](strings::Utf16Writer& writer) {
-        strings::forEachPieceOfStringsFile(*table,
-                                           [&](std::string_view piece) { writer.append(piece); });
-      },
-      file);
-  if (!error) {
-    return {language, StringsUpdate::Result::written, file, {}};
-  }
-  return {language, StringsUpdate::Result::failed, file,
-          folder.isAbsent() ? "there is no caches directory"_s : error->localizedDescription};
-}
-
-void OVStringCache::refreshCache() {
-  setCachedLanguages({});
-  setAvailableLanguages({});
+void OVStringCache::refreshCache() noexcept {
+  cachedLanguagesAreStale_ = true;
+  availableLanguagesAreStale_ = true;
 }
 
 void OVStringCache::clearCache() {
   OVStringCacheUtilities::clearFilesFromDirectory(OVStringCacheUtilities::cacheDirectoryURL());
-  refreshCache();
+  setCachedLanguages({});
+  setAvailableLanguages({});
 }
 
 }  // namespace orvanta

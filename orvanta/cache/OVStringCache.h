@@ -25,15 +25,17 @@ inline constexpr std::string_view defaultComment = "No comment provided by engin
 /// How one language fared in an update.
 struct StringsUpdate {
   enum class Result {
-    written,
-    skipped,  ///< The payload holds no table, or an empty one; what was cached stays.
+    written,  ///< The new table is in place.
+    skipped,  ///< The payload holds no table, or one without texts; what was cached stays.
     failed,   ///< What was cached stays.
   };
 
   String language;
   Result result;
-  URL file;       ///< Absent when skipped, or when the language's name fits in no URL.
-  String reason;  ///< For people; absent when written.
+  URL file;  ///< Absent when skipped, or when the language's name fits in no URL.
+  /// For people. Present when written only if the table may not survive a loss of power, or if the
+  /// catalogue passes over it because a part of the language's name begins with ".".
+  String reason;
 };
 
 /// The catalogue of the languages that the application can run in, and the cache of downloaded
@@ -43,8 +45,9 @@ struct StringsUpdate {
 ///
 /// A language is cached exactly when its folder holds that file. The catalogue is read from disk
 /// when it is first asked for and then kept until a reset (`refreshCache`, `clearCache`,
-/// `updateStrings`); nothing watches the disk. Used from one thread at a time, normally the main
-/// thread; no locks are taken.
+/// `updateStrings`); nothing watches the disk. When the disk cannot be read then, for want of
+/// descriptors or memory, the catalogue before the reset stands in, and the next read tries again.
+/// Used from one thread at a time, normally the main thread; no locks are taken.
 class ORVANTA_EXPORT OVStringCache {
  public:
   OVStringCache();
@@ -57,6 +60,7 @@ class ORVANTA_EXPORT OVStringCache {
   void setCacheDirectoryURL(URL url);
 
   /// The languages shipped in the main bundle, under their folders' names. Built at every call.
+  /// Absent when the bundle cannot be listed.
   [[nodiscard]] OVLocaleDictionary mainBundleLocales() const;
 
   /// Whether the bundle has a resource "Localizable" of type "strings".
@@ -103,10 +107,14 @@ class ORVANTA_EXPORT OVStringCache {
   /// tables in memory.
   ///
   /// `strings` is a dictionary from language to payload; a payload is a dictionary in which the
-  /// path "bundleName.namespaceName.zantorData", taken apart at every ".", leads to the table, a
-  /// dictionary from key to text. Each table replaces the one that was cached; a language without
-  /// one, or with an empty one, is passed over. A write that fails is logged, leaves what was
-  /// cached, and the update goes on. `report`, if given, is told of each language.
+  /// path "bundleName.namespaceName.zantorData", split at every ".", leads to the table, a
+  /// dictionary from key to text. Each table replaces the one that was cached. A language without
+  /// a table, or whose table holds no texts, is skipped. A write that fails is logged, leaves what
+  /// was cached, and the update goes on. The disk is touched only for a language with a table.
+  ///
+  /// `report`, if given, is called for each language once it is dealt with. An exception of it ends
+  /// the update there: what was written stays, the catalogue is forgotten as ever, and the
+  /// exception reaches the caller.
   ///
   /// Keys and values are source text of the strings format: they are written as they are, and
   /// escapes in them are resolved when the file is read.
@@ -114,21 +122,24 @@ class ORVANTA_EXPORT OVStringCache {
                      const String& bundleName, const UpdateReport& report = {});
 
   /// Forgets the catalogue, so that the next read sees what is on disk then.
-  void refreshCache();
+  void refreshCache() noexcept;
 
   /// Empties the platform's cache folder (making it if it had gone) and forgets the catalogue.
   void clearCache();
 
  private:
-  // `availableLanguages` itself.
+  // `availableLanguages` itself, valid until the catalogue changes.
   const OVLocaleDictionary& languages();
+  void listCachedLanguages();
   // Null when there is none; valid until the catalogue changes.
   const std::shared_ptr<platform::Bundle>* findBundle(const HashedKey& language);
-  StringsUpdate updateLanguage(const String& language, const StringsPayload* table);
 
   URL cacheDirectoryURL_;
   OVLocaleDictionary cachedLanguages_;
   OVLocaleDictionary availableLanguages_;
+  // A stale dictionary is built again by the next read, and stays if that fails.
+  bool cachedLanguagesAreStale_ = false;
+  bool availableLanguagesAreStale_ = false;
 };
 
 }  // namespace orvanta

@@ -1,9 +1,12 @@
+#include <cerrno>
 #include <string>
 
+#include <orvanta/cache/CachePath.h>
+#include <orvanta/cache/FolderMaker.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
-#include <orvanta/cache/TableWriter.h>
+#include <orvanta/cache/StringsFileReplacement.h>
 #include <orvanta/platform/Platform.h>
-#include <orvanta/strings/writer/StringsFileText.h>
+#include <orvanta/strings/writer/StringsFile.h>
 #include <orvanta/text/CharacterSet.h>
 #include <orvanta/text/PathString.h>
 
@@ -19,8 +22,9 @@ URL cacheDirectoryURL() {
 }
 
 void createDirectoryIfNeeded(const URL& directory) {
-  if (directory.isPresent()) {
-    static_cast<void>(Platform::current().files->createDirectoryAtURL(directory));
+  const String path = directory.path();
+  if (path.isPresent()) {
+    static_cast<void>(FolderMaker(*Platform::current().files).open(path));
   }
 }
 
@@ -34,17 +38,18 @@ URL directoryFromFileURL(const URL& file) {
 
 void clearFilesFromDirectory(const URL& directory) {
   const Platform& platform = Platform::current();
-  for (const URL& entry : platform.files->contentsOfDirectoryAtURL(directory)) {
-    if (const auto error = platform.files->removeItemAtURL(entry)) {
-      std::string message = "Error " + std::to_string(error->code) + " deleting file:";
-      message += error->localizedDescription.view();
+  for (const URL& entry : platform.files->contentsOfDirectoryAtURL(directory).entries) {
+    const Status status = platform.files->removeItemAtURL(entry);
+    if (!status.ok()) {
+      std::string message = "Error " + std::to_string(status.code()) + " deleting file:";
+      message += status.localizedDescription().view();
       platform.log->log(message);
     }
   }
 }
 
 URL stringsFileURLForLanguage(const URL& directory, const String& language) {
-  if (directory.isAbsent()) {
+  if (directory.isAbsent() || language.isAbsent()) {
     return {};
   }
   std::string text = directory.absoluteString().str();
@@ -52,23 +57,35 @@ URL stringsFileURLForLanguage(const URL& directory, const String& language) {
     text.pop_back();
   }
   text += '/';
-  text += language.isAbsent() ? std::string_view("(null)") : language.view();
+  text += language.view();
   text += ".lproj/Localizable.strings";
   return URL::URLWithString(text);
 }
 
 String localizableStringsFile(const StringsPayload& table) {
   std::string text;
-  strings::forEachPieceOfStringsFile(table, [&](std::string_view piece) { text += piece; });
+  strings::appendStringsFile(table, [&](std::string_view piece) { text += piece; });
   return text;
 }
 
 void saveLanguageStringForLanguage(const String& text, const String& /*language*/,
                                    const URL& file) {
-  if (text.isPresent()) {
-    static_cast<void>(
-        writeTable([&](strings::Utf16Writer& writer) { writer.append(text.view()); }, file));
+  if (text.isAbsent()) {
+    return;
   }
+  const String path = pathToWrite(file);
+  Replacement replacement{false, Status(EINVAL, "the URL names no file"_s)};
+  if (path.isPresent()) {
+    replacement = withOneRetry([&]() -> Replacement {
+      FolderMaker maker(*Platform::current().files);
+      const platform::Folder::Opening folder =
+          maker.open(path::stringByDeletingLastPathComponent(path));
+      return folder.status.ok()
+                 ? replaceStringsFile(*folder.folder, path::lastPathComponent(path), text.view())
+                 : Replacement{false, folder.status};
+    });
+  }
+  logReplacement(replacement, file);
 }
 
 String cleanedString(const String& text) {

@@ -34,21 +34,21 @@ ORVANTA_EXPORT void createDirectoryIfNeededForFile(const URL& file);
 /// cannot be deleted is logged and left.
 ORVANTA_EXPORT void clearFilesFromDirectory(const URL& directory);
 
-/// The URL of a language's table below the folder: the identifier goes into it as it stands, so
-/// that one with a character that no URL holds gives absent.
+/// The URL of a language's table below the folder, with the identifier copied into it as it is.
+/// Absent for an absent identifier, and for one with a character that no URL holds.
 [[nodiscard]] ORVANTA_EXPORT URL stringsFileURLForLanguage(const URL& directory,
                                                            const String& language);
 
-/// The text of a strings file with the table's pairs, one after the other in the table's order:
-/// an empty comment, the assignment, a blank line. Pairs with an empty key or value, and values
-/// that are no text, are left out. Keys and values go in as they are: what a service sends is
-/// source text of the format, whose escapes the reader resolves.
+/// The text of a strings file with the table's pairs in the table's order: for each an empty
+/// comment, the assignment and a blank line. Pairs with an empty key or value, and values that are
+/// no text, are left out. Nothing is escaped: what a service sends is source text of the format, in
+/// which the reader resolves the escapes.
 [[nodiscard]] ORVANTA_EXPORT String localizableStringsFile(const StringsPayload& table);
 
-/// Writes a table's text to `file` as UTF-16 with a byte-order mark, replacing an earlier table
-/// whole, and logs how that ended. Text that is not valid UTF-8 fails and touches nothing.
-/// `language` is not used: the URL alone names the file, wherever that is. Only
-/// `OVStringCache::updateStrings` holds it against the cache folder.
+/// Writes a strings file's text to `file` as UTF-16 with a byte-order mark, making its folder and
+/// replacing an earlier file, and logs how that ended. Text that is not valid UTF-8, and a URL with
+/// a query or a fragment, fail and leave the earlier file. `language` is not used. `file` may be
+/// anywhere; only `OVStringCache::updateStrings` keeps inside the cache folder.
 ORVANTA_EXPORT void saveLanguageStringForLanguage(const String& text, const String& language,
                                                   const URL& file);
 

@@ -6,6 +6,7 @@
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/text/CharacterSet.h>
+#include <orvanta/text/FormatArgument.h>
 
 namespace orvanta {
 
@@ -64,7 +65,7 @@ StringList Localizer::localesFromLanguages(const StringList& languages, const St
   for (const String& language : languages) {
     if (language.utf16Length() == 2) {
       std::string regional = language.str() + '-';
-      regional += country.isAbsent() ? std::string_view("(null)") : country.view();
+      regional += formatArgument(country);
       locales.emplace_back(regional);
     }
     locales.push_back(language);

@@ -34,7 +34,8 @@ class ORVANTA_EXPORT Bundle {
   /// The folder's absolute path, without a trailing "/".
   [[nodiscard]] virtual String bundlePath() const = 0;
 
-  /// The names, without ".lproj", of the language folders in the bundle.
+  /// The names, without ".lproj", of the language folders in the bundle; absent when they cannot be
+  /// listed.
   [[nodiscard]] virtual StringList localizations() const = 0;
 
   /// Those localizations that suit the device's languages, best first; possibly none.

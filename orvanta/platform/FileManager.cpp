@@ -4,6 +4,7 @@ namespace orvanta::platform {
 
 ReadableFile::~ReadableFile() = default;
 WritableFile::~WritableFile() = default;
+Folder::~Folder() = default;
 FileManager::~FileManager() = default;
 
 }  // namespace orvanta::platform

@@ -6,15 +6,12 @@
 
 namespace orvanta::standard {
 
-FileError systemError(int code) {
-  return {static_cast<std::uint64_t>(code), String(std::generic_category().message(code))};
+Status systemError(int code) {
+  return {code, String(std::generic_category().message(code))};
 }
 
-FileOutcome outcomeOfCall(int result) {
-  if (result == 0) {
-    return std::nullopt;
-  }
-  return systemError(errno);
+Status statusOfCall(int result) {
+  return result == 0 ? Status() : systemError(errno);
 }
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
@@ -29,7 +26,8 @@ int FileDescriptor::close() noexcept {
   if (!isOpen()) {
     return 0;
   }
-  // Never repeated after an interruption: the descriptor is gone by then and may be another's.
+  // Not repeated after an interruption: the descriptor is closed by then, and its number may
+  // already belong to another file.
   const int result = ::close(release());
   return result == -1 && errno == EINTR ? 0 : result;
 }

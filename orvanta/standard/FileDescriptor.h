@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <utility>
 
-#include <orvanta/platform/FileManager.h>
+#include <orvanta/text/Status.h>
 
 namespace orvanta::standard {
 
@@ -18,10 +18,10 @@ auto uninterrupted(Call call) {
 }
 
 /// The failure that `code`, a value of errno, stands for.
-[[nodiscard]] FileError systemError(int code);
+Status systemError(int code);
 
 /// Success for 0, else the failure that errno now tells.
-[[nodiscard]] FileOutcome outcomeOfCall(int result);
+Status statusOfCall(int result);
 
 /// Owns an open file; -1 for none.
 class FileDescriptor {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -38,7 +40,7 @@ class PosixWritableFile final : public platform::WritableFile {
  public:
   explicit PosixWritableFile(FileDescriptor file) : file_(std::move(file)) {}
 
-  FileOutcome write(std::string_view bytes) override {
+  Status write(std::string_view bytes) override {
     while (!bytes.empty()) {
       const ssize_t count =
           uninterrupted([&] { return ::write(file_.get(), bytes.data(), bytes.size()); });
@@ -49,18 +51,18 @@ class PosixWritableFile final : public platform::WritableFile {
       written_ += count;
     }
     startWriteBack();
-    return std::nullopt;
+    return {};
   }
 
-  FileOutcome sync() override {
-    return outcomeOfCall(uninterrupted([&] { return ::fsync(file_.get()); }));
+  Status sync() override {
+    return statusOfCall(uninterrupted([&] { return ::fsync(file_.get()); }));
   }
 
-  FileOutcome close() override { return outcomeOfCall(file_.close()); }
+  Status close() override { return statusOfCall(file_.close()); }
 
  private:
-  // Lets the disk begin while the caller makes what comes next, so that `sync` need not wait for
-  // all of it. A hint: what fails here fails again there.
+  // Starts writing to the disk while the caller makes the next bytes, so that `sync` has less to
+  // wait for (benchmark row "update"). A failure is ignored: `sync` meets it again.
   void startWriteBack() noexcept {
 #ifdef SYNC_FILE_RANGE_WRITE
     constexpr off_t kWorthACall = off_t{1024} * 1024;
@@ -78,9 +80,9 @@ class PosixWritableFile final : public platform::WritableFile {
 };
 
 // Closed when it cannot be opened or is no regular file; errno then says why.
-FileDescriptor openRegularFile(const std::string& path, int moreFlags) {
+FileDescriptor openRegularFile(int folder, const std::string& path, int moreFlags) {
   FileDescriptor file(uninterrupted([&] {
-    return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | moreFlags);
+    return ::openat(folder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | moreFlags);
   }));
   struct stat status {};
   if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
@@ -93,49 +95,68 @@ FileDescriptor openRegularFile(const std::string& path, int moreFlags) {
   return file;
 }
 
-bool isStillAt(const std::string& path, int file) {
+enum class Lock { taken, heldElsewhere, impossible };
+
+// Never waits: whoever holds the lock may hold it for ever.
+Lock lock(int file) {
+  if (uninterrupted([&] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0) {
+    return Lock::taken;
+  }
+  return errno == EWOULDBLOCK ? Lock::heldElsewhere : Lock::impossible;
+}
+
+bool isStillAt(int folder, const std::string& name, int file) {
   struct stat opened {};
   struct stat found {};
-  return ::fstat(file, &opened) == 0 && ::lstat(path.c_str(), &found) == 0 &&
+  return ::fstat(file, &opened) == 0 &&
+         ::fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 &&
          opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
 }
 
 }  // namespace
 
 std::unique_ptr<platform::ReadableFile> openForReading(const std::string& path) {
-  FileDescriptor file = openRegularFile(path, 0);
+  FileDescriptor file = openRegularFile(AT_FDCWD, path, 0);
   return file.isOpen() ? std::make_unique<PosixReadableFile>(std::move(file)) : nullptr;
 }
 
-platform::FileManager::Creation createForWriting(const std::string& path) {
-  constexpr mode_t kWhatTheUmaskLeaves = 0666;
-  for (;;) {
-    FileDescriptor file(uninterrupted([&] {
-      return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                    kWhatTheUmaskLeaves);
-    }));
-    if (!file.isOpen()) {
-      return {nullptr, systemError(errno)};
-    }
-    // A file system without locks makes files all the same.
-    static_cast<void>(uninterrupted([&] { return ::flock(file.get(), LOCK_EX); }));
-    // Somebody who looks for abandoned files may have come before the lock and removed it.
-    if (isStillAt(path, file.get())) {
-      return {std::make_unique<PosixWritableFile>(std::move(file)), std::nullopt};
-    }
+platform::Folder::Creation createLockedFile(int folder, const std::string& name) {
+  constexpr mode_t kModeBeforeUmask = 0666;
+  FileDescriptor file(uninterrupted([&] {
+    return ::openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                    kModeBeforeUmask);
+  }));
+  if (!file.isOpen()) {
+    return {nullptr, systemError(errno)};
   }
+  const bool isLockedElsewhere = lock(file.get()) == Lock::heldElsewhere;
+  // A process that looks for abandoned files may have locked it first, or removed it.
+  if (!isStillAt(folder, name, file.get())) {
+    return {nullptr, systemError(EAGAIN)};
+  }
+  if (isLockedElsewhere) {
+    static_cast<void>(::unlinkat(folder, name.c_str(), 0));
+    return {nullptr, systemError(EAGAIN)};
+  }
+  return {std::make_unique<PosixWritableFile>(std::move(file)), {}};
 }
 
-FileOutcome removeUnlessInUse(const std::string& path) {
-  const FileDescriptor file(openRegularFile(path, O_NOFOLLOW));
+Status removeUnlessLocked(int folder, const std::string& name) {
+  const FileDescriptor file(openRegularFile(folder, name, O_NOFOLLOW));
   if (!file.isOpen()) {
     return systemError(errno);
   }
-  if (uninterrupted([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0) {
-    return errno == EWOULDBLOCK ? std::nullopt : FileOutcome(systemError(errno));
+  switch (lock(file.get())) {
+    case Lock::heldElsewhere:
+      return {};
+    case Lock::impossible:
+      return systemError(errno);
+    case Lock::taken:
+      break;
   }
-  // Whoever had it open may have moved it meanwhile.
-  return isStillAt(path, file.get()) ? outcomeOfCall(::unlink(path.c_str())) : std::nullopt;
+  // The process that held the lock may have renamed the file meanwhile.
+  return isStillAt(folder, name, file.get()) ? statusOfCall(::unlinkat(folder, name.c_str(), 0))
+                                             : Status();
 }
 
 }  // namespace orvanta::standard

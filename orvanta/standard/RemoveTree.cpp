@@ -1,29 +1,27 @@
-#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <orvanta/standard/FileDescriptor.h>
-#include <orvanta/standard/Folders.h>
+#include <orvanta/standard/DirectoryStream.h>
+#include <orvanta/standard/RemoveTree.h>
 
 namespace orvanta::standard {
 
 namespace {
 
-struct CloseFolder {
-  void operator()(DIR* folder) const noexcept { ::closedir(folder); }
-};
-
-// Empties a folder, going down into sub-folders by name and up again by "..". Only the folder that
-// it stands in is open; that "..", reached after a rename by somebody else, is still the folder it
-// came from is checked by the folders' numbers.
+// Empties a folder without recursion. Goes down into a sub-folder by its name and back up by "..",
+// with one folder open at a time. When somebody moves a sub-folder meanwhile, its ".." is another
+// folder than the one it was entered from; device and inode numbers tell.
 class TreeRemover {
  public:
   // 0, or the errno of the first failure.
-  int empty(int root) {
-    int failure = enter(root);
+  int empty(FileDescriptor root) {
+    int failure = enter(std::move(root), {});
     while (failure == 0 && folder_ != nullptr) {
       failure = step();
     }
@@ -40,18 +38,16 @@ class TreeRemover {
 
   int descriptor() const { return ::dirfd(folder_.get()); }
 
-  int enter(int file, std::string name = {}) {
-    FileDescriptor owned(file);
+  int enter(FileDescriptor folder, std::string name) {
     struct stat status {};
-    if (!owned.isOpen() || ::fstat(file, &status) != 0) {
+    if (!folder.isOpen() || ::fstat(folder.get(), &status) != 0) {
       return errno;
     }
-    std::unique_ptr<DIR, CloseFolder> folder(::fdopendir(file));
-    if (folder == nullptr) {
+    DirectoryStream stream = openDirectoryStream(std::move(folder));
+    if (stream == nullptr) {
       return errno;
     }
-    static_cast<void>(owned.release());
-    folder_ = std::move(folder);
+    folder_ = std::move(stream);
     levels_.push_back({std::move(name), status.st_dev, status.st_ino, false});
     return 0;
   }
@@ -67,7 +63,7 @@ class TreeRemover {
       return errno;
     }
     if (std::exchange(levels_.back().removedSome, false)) {
-      // A listing during which entries go may pass others over.
+      // A listing may leave entries out when others are removed meanwhile.
       ::rewinddir(folder_.get());
       return 0;
     }
@@ -88,11 +84,7 @@ class TreeRemover {
         !S_ISDIR(status.st_mode)) {
       return failure;
     }
-    return enter(uninterrupted([&] {
-                   return ::openat(descriptor(), name.c_str(),
-                                   O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-                 }),
-                 name);
+    return enter(openDirectory(descriptor(), name, FinalLink::refuse), name);
   }
 
   int leave() {
@@ -104,10 +96,7 @@ class TreeRemover {
     }
     const Level expected = std::move(levels_.back());
     levels_.pop_back();
-    const int failure =
-        enter(uninterrupted(
-                  [&] { return ::openat(descriptor(), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }),
-              expected.name);
+    const int failure = enter(openDirectory(descriptor(), "..", FinalLink::refuse), expected.name);
     if (failure != 0) {
       return failure;
     }
@@ -115,34 +104,32 @@ class TreeRemover {
       return ENOENT;
     }
     levels_.back().removedSome = true;
-    return ::unlinkat(descriptor(), left.name.c_str(), AT_REMOVEDIR) == 0 ? 0 : errno;
+    const bool isGone =
+        ::unlinkat(descriptor(), left.name.c_str(), AT_REMOVEDIR) == 0 || errno == ENOENT;
+    return isGone ? 0 : errno;
   }
 
-  std::unique_ptr<DIR, CloseFolder> folder_;
+  DirectoryStream folder_;
   std::vector<Level> levels_;
 };
 
 }  // namespace
 
-FileOutcome removeTree(const std::string& path) {
+Status removeTree(const std::string& path) {
   if (::unlink(path.c_str()) == 0) {
-    return std::nullopt;
+    return {};
   }
   const int failure = errno;
   struct stat status {};
   if (::lstat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) {
     return systemError(failure);
   }
-  // An empty folder may go even where it may not be listed.
+  // An empty folder may be removable although it may not be listed.
   if (::rmdir(path.c_str()) == 0) {
-    return std::nullopt;
+    return {};
   }
-  const int emptied = TreeRemover().empty(uninterrupted(
-      [&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); }));
-  if (emptied != 0) {
-    return systemError(emptied);
-  }
-  return outcomeOfCall(::rmdir(path.c_str()));
+  const int emptied = TreeRemover().empty(openDirectory(AT_FDCWD, path, FinalLink::refuse));
+  return emptied == 0 ? statusOfCall(::rmdir(path.c_str())) : systemError(emptied);
 }
 
 }  // namespace orvanta::standard

@@ -46,9 +46,13 @@ class StandardBundle final : public platform::Bundle {
   String bundlePath() const override { return path_; }
 
   StringList localizations() const override {
+    const auto contents =
+        services_.files->contentsOfDirectoryAtURL(URL::fileURLWithPath(path_, true));
+    if (!contents.status.ok() && !contents.status.is(std::errc::no_such_file_or_directory)) {
+      return {};
+    }
     std::vector<String> names;
-    for (const URL& entry :
-         services_.files->contentsOfDirectoryAtURL(URL::fileURLWithPath(path_, true))) {
+    for (const URL& entry : contents.entries) {
       const String path = entry.path();
       const String folder = path::lastPathComponent(path);
       std::string_view name = folder.view();
@@ -79,10 +83,11 @@ class StandardBundle final : public platform::Bundle {
       return {};
     }
     String path = path::stringByAppendingPathComponent(path_, resource);
-    if (services_.files->fileExistsAtPath(path)) {
+    const bool mayBeFolder = type == kLanguageFolderExtension.substr(1);
+    if (isResource(path, mayBeFolder)) {
       return path;
     }
-    return role_ == Role::main ? pathInPreferredLocalization(resource) : String();
+    return role_ == Role::main ? pathInPreferredLocalization(resource, mayBeFolder) : String();
   }
 
   String textForKey(const HashedKey& key, const String& table) const override {
@@ -165,9 +170,15 @@ class StandardBundle final : public platform::Bundle {
     }
   }
 
+  // A resource other than a language's folder is a regular file.
+  bool isResource(const String& path, bool mayBeFolder) const {
+    return mayBeFolder ? services_.files->fileExistsAtPath(path)
+                       : services_.files->stampOfFileAtPath(path).has_value();
+  }
+
   String pathOfTable(const String& name) const { return pathForResource(name, "strings"); }
 
-  String pathInPreferredLocalization(std::string_view resource) const {
+  String pathInPreferredLocalization(std::string_view resource, bool mayBeFolder) const {
     const StringList preferred = preferredLocalizations();
     if (preferred.empty()) {
       return {};
@@ -175,7 +186,7 @@ class StandardBundle final : public platform::Bundle {
     const String folder = path::stringByAppendingPathComponent(
         path_, preferred.front().str().append(kLanguageFolderExtension));
     String path = path::stringByAppendingPathComponent(folder, resource);
-    return services_.files->fileExistsAtPath(path) ? path : String();
+    return isResource(path, mayBeFolder) ? path : String();
   }
 
   const strings::StringTable& loadedTable(TableFile& file,

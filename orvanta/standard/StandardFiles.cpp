@@ -1,16 +1,14 @@
-#include <cstdio>
-#include <filesystem>
 #include <string>
-#include <system_error>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <orvanta/standard/FileDescriptor.h>
-#include <orvanta/standard/Folders.h>
+#include <orvanta/standard/DirectoryStream.h>
 #include <orvanta/standard/OpenFiles.h>
+#include <orvanta/standard/PosixFolder.h>
+#include <orvanta/standard/RemoveTree.h>
 #include <orvanta/standard/StandardFiles.h>
 
 namespace orvanta::standard {
@@ -41,49 +39,52 @@ platform::FileStamp stampOf(const struct stat& status) {
           status.st_mtim.tv_sec * kNanosecondsInSecond + status.st_mtim.tv_nsec};
 }
 
-// Folders whose entries are still to be visited, the innermost last. Each is read as a whole
-// before any entry is visited, so that depth costs memory but no open files.
+// A folder of which some entries are still to be visited. It is listed as a whole before any entry
+// is visited, so that depth costs memory but no open files.
 struct PendingFolder {
   URL url;
   std::string path;
-  std::vector<FolderEntry> entries;
+  std::vector<platform::Folder::Entry> entries;
   std::size_t next = 0;
 };
 
-void walk(std::vector<PendingFolder>& pending, const platform::FileManager::EntryVisitor& visit) {
+platform::Folder::Listing listFolder(const std::string& path, FinalLink link) {
+  return listDirectory(openDirectory(AT_FDCWD, path, link));
+}
+
+// `pending` holds the folders on the way, the innermost last.
+Status walk(std::vector<PendingFolder> pending, const platform::FileManager::EntryVisitor& visit) {
+  Status result;
   while (!pending.empty()) {
     PendingFolder& folder = pending.back();
     if (folder.next == folder.entries.size()) {
       pending.pop_back();
       continue;
     }
-    const FolderEntry& entry = folder.entries[folder.next++];
-    if (entry.name.starts_with('.')) {
+    const platform::Folder::Entry& entry = folder.entries[folder.next++];
+    if (entry.name.view().starts_with('.')) {
       continue;
     }
-    const URL url = folder.url.URLByAppendingPathComponent(entry.name, entry.isDirectory);
+    const URL url = folder.url.URLByAppendingPathComponent(entry.name.view(), entry.isDirectory);
     visit(url, entry.isDirectory);
     if (entry.isDirectory) {
-      std::string path = folder.path + '/' + entry.name;
-      if (auto entries = listFolder(path, FinalLink::refuse)) {
-        pending.push_back({url, std::move(path), *std::move(entries)});
+      std::string path = folder.path + '/' + entry.name.str();
+      platform::Folder::Listing listing = listFolder(path, FinalLink::refuse);
+      if (listing.status.ok()) {
+        pending.push_back({url, std::move(path), std::move(listing.entries)});
+      } else if (result.ok() && listing.status.isShortage()) {
+        result = listing.status;
       }
     }
   }
+  return result;
 }
 
 class StandardFileManager final : public platform::FileManager {
  public:
   explicit StandardFileManager(String cachesPath) : cachesPath_(std::move(cachesPath)) {}
 
-  URL cachesDirectoryURL() override {
-    URL url = URL::fileURLWithPath(cachesPath_, true);
-    if (url.isPresent()) {
-      // Where it cannot be made, whoever writes into it is told why.
-      static_cast<void>(createDirectoryAtURL(url));
-    }
-    return url;
-  }
+  URL cachesDirectoryURL() override { return URL::fileURLWithPath(cachesPath_, true); }
 
   bool fileExistsAtPath(const String& path) override {
     struct stat status {};
@@ -104,61 +105,42 @@ class StandardFileManager final : public platform::FileManager {
     return stampOf(status);
   }
 
-  FileOutcome createDirectoryAtURL(const URL& url) override {
-    std::error_code error;
-    std::filesystem::create_directories(systemPath(url.path()), error);
-    if (error) {
-      return systemError(error.value());
-    }
-    return std::nullopt;
-  }
-
-  FileOutcome removeItemAtURL(const URL& url) override {
-    return removeTree(systemPath(url.path()));
-  }
-
-  std::vector<URL> contentsOfDirectoryAtURL(const URL& url) override {
-    std::vector<URL> contents;
-    if (const auto entries = listFolder(systemPath(url.path()), FinalLink::follow)) {
-      contents.reserve(entries->size());
-      for (const FolderEntry& entry : *entries) {
-        contents.push_back(url.URLByAppendingPathComponent(entry.name, entry.isDirectory));
-      }
-    }
-    return contents;
-  }
-
-  void enumerateDirectoryAtURL(const URL& url, const EntryVisitor& visit) override {
-    std::string path = systemPath(url.path());
-    if (auto entries = listFolder(path, FinalLink::follow)) {
-      std::vector<PendingFolder> pending;
-      pending.push_back({url, std::move(path), *std::move(entries)});
-      walk(pending, visit);
-    }
+  platform::Folder::Opening openFolder(const String& path) override {
+    return makeFolder(openDirectory(AT_FDCWD, systemPath(path), FinalLink::follow));
   }
 
   std::unique_ptr<platform::ReadableFile> openFileForReading(const String& path) override {
     return openForReading(systemPath(path));
   }
 
-  Creation createFile(const String& path) override { return createForWriting(systemPath(path)); }
-
-  FileOutcome removeFileUnlessInUse(const String& path) override {
-    return removeUnlessInUse(systemPath(path));
+  Status removeItemAtURL(const URL& url) override {
+    const String path = url.path();
+    const Status status = removeTree(systemPath(path));
+    return status.ok()
+               ? status
+               : Status(status.code(), path.str() + ": " + status.localizedDescription().str());
   }
 
-  FileOutcome moveItemReplacing(const String& from, const String& to) override {
-    return outcomeOfCall(std::rename(systemPath(from).c_str(), systemPath(to).c_str()));
-  }
-
-  FileOutcome syncDirectory(const String& path) override {
-    const std::string folder = systemPath(path);
-    const FileDescriptor file(
-        uninterrupted([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    if (!file.isOpen()) {
-      return systemError(errno);
+  Contents contentsOfDirectoryAtURL(const URL& url) override {
+    platform::Folder::Listing listing = listFolder(systemPath(url.path()), FinalLink::follow);
+    Contents contents{{}, std::move(listing.status)};
+    contents.entries.reserve(listing.entries.size());
+    for (const platform::Folder::Entry& entry : listing.entries) {
+      contents.entries.push_back(
+          url.URLByAppendingPathComponent(entry.name.view(), entry.isDirectory));
     }
-    return outcomeOfCall(uninterrupted([&] { return ::fsync(file.get()); }));
+    return contents;
+  }
+
+  Status enumerateDirectoryAtURL(const URL& url, const EntryVisitor& visit) override {
+    std::string path = systemPath(url.path());
+    platform::Folder::Listing listing = listFolder(path, FinalLink::follow);
+    if (!listing.status.ok()) {
+      return listing.status;
+    }
+    std::vector<PendingFolder> pending;
+    pending.push_back({url, std::move(path), std::move(listing.entries)});
+    return walk(std::move(pending), visit);
   }
 
  private:

@@ -6,8 +6,8 @@
 
 namespace orvanta::standard {
 
-/// The system's files. `cachesPath` is the absolute path of the application's caches folder, which
-/// is made when it is asked for; absent when the application has none.
+/// The system's files. `cachesPath` is the absolute path of the application's caches folder; absent
+/// when the application has none.
 [[nodiscard]] std::shared_ptr<platform::FileManager> makeFileManager(String cachesPath);
 
 }  // namespace orvanta::standard

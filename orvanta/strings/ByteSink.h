@@ -12,7 +12,7 @@ class ORVANTA_EXPORT ByteSink {
  public:
   virtual ~ByteSink();
   /// Appends all of `bytes`, or fails having appended any part of them.
-  [[nodiscard]] virtual FileOutcome write(std::string_view bytes) = 0;
+  virtual Status write(std::string_view bytes) = 0;
 
  protected:
   ByteSink() = default;

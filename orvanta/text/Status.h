@@ -1,19 +1,45 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <system_error>
+#include <utility>
 
 #include <orvanta/text/String.h>
 
 namespace orvanta {
 
-/// Why a file operation failed.
-struct FileError {
-  std::uint64_t code;           ///< The system's own number (errno where there is one).
-  String localizedDescription;  ///< For people.
-};
+/// Whether an operation succeeded, and if not, why.
+class [[nodiscard]] Status {
+ public:
+  /// Success.
+  Status() noexcept = default;
+  /// A failure: the system's error number (a value of errno), and what to tell people.
+  Status(int code, String localizedDescription) noexcept
+      : failed_(true), code_(code), localizedDescription_(std::move(localizedDescription)) {}
 
-/// The outcome of an operation that gives nothing back: absent when it succeeded.
-using FileOutcome = std::optional<FileError>;
+  [[nodiscard]] bool ok() const noexcept { return !failed_; }
+  /// Whether it failed with this error.
+  [[nodiscard]] bool is(std::errc error) const noexcept {
+    return failed_ && code_ == static_cast<int>(error);
+  }
+
+  /// Whether it failed for want of descriptors or memory, so that it may succeed at another time.
+  [[nodiscard]] bool isShortage() const noexcept {
+    return is(std::errc::too_many_files_open) || is(std::errc::too_many_files_open_in_system) ||
+           is(std::errc::not_enough_memory);
+  }
+
+  /// 0 on success.
+  [[nodiscard]] int code() const noexcept { return code_; }
+  /// Absent on success.
+  [[nodiscard]] const String& localizedDescription() const noexcept {
+    return localizedDescription_;
+  }
+
+ private:
+  bool failed_ = false;
+  int code_ = 0;
+  String localizedDescription_;
+};
 
 }  // namespace orvanta

@@ -1,4 +1,5 @@
-// Lets each single file operation of an update fail in turn, and looks at what is left on disk.
+// Lets each single file operation of an update fail in turn, or be the last before the power goes,
+// and looks at what is left on disk.
 #include <algorithm>
 #include <cerrno>
 #include <map>
@@ -8,29 +9,29 @@
 
 #include <orvanta/cache/OVStringCache.h>
 
-#include "../support/ForwardingFileManager.h"
-#include "../support/TestApplication.h"
-#include "../support/UpdateFixture.h"
+#include "../support/PowerLoss.h"
+#include "../support/WatchedApplication.h"
 
 namespace orvanta {
 namespace {
 
 using test::Fault;
-using test::ForwardingFileManager;
-using test::payloadOf;
 
 const test::Pairs kOld = {{"a", "old a"}, {"b", "old b"}};
 const test::Pairs kNew = {{"a", "new a"}, {"b", "new b"}, {"c", "new c"}};
 
-enum class Table { old, whole, torn };
+enum class Table { none, old, whole, torn };
 
-Table tableOnDisk(OVStringCache& cache) {
-  cache.refreshCache();
+Table tableOnDisk() {
+  OVStringCache cache;
   const auto holds = [&](const test::Pairs& pairs) {
     return std::all_of(pairs.begin(), pairs.end(), [&](const auto& pair) {
       return cache.localizedStringForKey(pair.first, "fr") == pair.second.c_str();
     });
   };
+  if (cache.cachedLanguages().empty()) {
+    return Table::none;
+  }
   if (holds(kNew)) {
     return Table::whole;
   }
@@ -44,48 +45,82 @@ using Walk = std::map<Table, int>;
 Walk walk(const Fault& fault) {
   Walk walked;
   for (int failing = 0;; ++failing) {
-    test::TestApplication app;
-    platform::Platform replacements = platform::Platform::current();
-    const auto files = std::make_shared<ForwardingFileManager>(replacements.files);
-    replacements.files = files;
-    replacements.bundles = nullptr;
-    platform::Platform::install(standard::makeStandardPlatform({}, replacements));
-
-    OVStringCache cache;
-    cache.updateStrings(payloadOf({{"fr", kOld}}), "main", "app");
+    SCOPED_TRACE(failing);
+    test::WatchedApplication app;
+    app.update("fr", kOld);
     int operation = 0;
-    files->setHook([&](std::string_view, std::string_view) {
+    const StringsUpdate update = app.update("fr", kNew, [&](std::string_view, std::string_view) {
       return operation++ == failing ? fault : Fault::none();
     });
-    cache.updateStrings(payloadOf({{"fr", kNew}}), "main", "app");
-    files->setHook({});
-
-    const Table left = tableOnDisk(cache);
+    const Table left = tableOnDisk();
     ++walked[left];
-    EXPECT_EQ(cache.cachedLanguages().size(), 1U) << "operation " << failing;
-    const bool saidSo = app.log.back().starts_with("file ");
-    EXPECT_TRUE(!saidSo || left == Table::whole) << "operation " << failing;
+    const bool isWritten = update.result == StringsUpdate::Result::written;
+    EXPECT_EQ(isWritten, left == Table::whole) << "the report says what is on disk";
+    EXPECT_EQ(app.log.back().starts_with("file "), isWritten);
+    EXPECT_TRUE(isWritten || update.reason.isPresent());
 
-    cache.updateStrings(payloadOf({{"de", kNew}}), "main", "app");
-    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), 2U)
-        << "the next update sweeps what operation " << failing << " left";
+    app.update("de", kNew);
+    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), 2U) << "the next update sweeps";
     if (operation <= failing) {
+      EXPECT_TRUE(update.reason.isAbsent()) << update.reason;
       return walked;
     }
   }
 }
 
 TEST(FaultWalk, LeavesTheWholeOldTableOrTheWholeNewOne) {
-  const std::pair<const char*, Fault> rows[] = {
-      {"disk full", Fault::fail(ENOSPC)},
-      {"cut short at once", Fault::cutShort(1, EIO)},
-      {"cut short late", Fault::cutShort(60, EIO)},
+  const struct {
+    const char* name;
+    Fault fault;
+    int leastOld;
+    int mostOld = 20;
+  } rows[] = {
+      {"disk full", Fault::fail(ENOSPC), 5},
+      {"cut short at once", Fault::cutShort(1, EIO), 5},
+      {"cut short late", Fault::cutShort(60, EIO), 5},
+      // What is missing is tried once more, but for the caches directory.
+      {"removed by another process", Fault::fail(ENOENT), 0, 1},
+      {"locked by another process", Fault::fail(EAGAIN), 4},
   };
-  for (const auto& [what, fault] : rows) {
-    Walk walked = walk(fault);
-    EXPECT_EQ(walked[Table::torn], 0) << what;
-    EXPECT_GT(walked[Table::old], 2) << what;
-    EXPECT_GT(walked[Table::whole], 1) << what;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Walk walked = walk(row.fault);
+    EXPECT_EQ(walked[Table::torn] + walked[Table::none], 0);
+    EXPECT_GE(walked[Table::old], row.leastOld);
+    EXPECT_LE(walked[Table::old], row.mostOld);
+    EXPECT_GT(walked[Table::whole], 3);
+  }
+}
+
+TEST(FaultWalk, SurvivesALossOfPower) {
+  using Names = test::PowerLoss::Names;
+  for (const Names names : {Names::lost, Names::kept}) {
+    for (const bool hasOld : {true, false}) {
+      bool isComplete = false;
+      for (int last = 0; !isComplete; ++last) {
+        SCOPED_TRACE(testing::Message() << "names " << (names == Names::lost ? "lost" : "kept")
+                                        << ", old table " << hasOld << ", operation " << last);
+        test::WatchedApplication app;
+        test::PowerLoss power(app.caches().parent_path() / "stash");
+        int operation = 0;
+        const auto hook = [&](std::string_view name, std::string_view path) {
+          if (operation++ > last) {
+            return Fault::fail(EIO);
+          }
+          power.watch(name, path);
+          return Fault::none();
+        };
+        if (hasOld) {
+          app.update("fr", kOld);
+        }
+        app.update("fr", kNew, hook);
+        isComplete = operation <= last;
+        power.strike(app.caches().parent_path(), names);
+        const Table left = tableOnDisk();
+        EXPECT_NE(left, Table::torn);
+        EXPECT_TRUE(left == Table::whole || (!isComplete && (left == Table::old) == hasOld));
+      }
+    }
   }
 }
 

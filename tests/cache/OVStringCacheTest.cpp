@@ -1,10 +1,16 @@
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <vector>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 
-#include "../support/TestApplication.h"
+#include "../support/WatchedApplication.h"
 
 namespace orvanta {
 namespace {
@@ -34,6 +40,15 @@ TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
   app.download(".hidden/sv", {});
   test::writeFile(app.cacheFolder() / "da.lproj/Other.strings", "");
   test::writeFile(app.cacheFolder() / "file.lproj", "");
+  for (const char* language : {"fifo", "folder"}) {
+    const auto table =
+        app.cacheFolder() / (std::string(language) + ".lproj") / "Localizable.strings";
+    std::filesystem::create_directories(table);
+    if (language == std::string("fifo")) {
+      std::filesystem::remove(table);
+      ASSERT_EQ(::mkfifo(table.c_str(), 0600), 0);
+    }
+  }
   std::filesystem::create_directory_symlink(app.bundle() / "en.lproj",
                                             app.cacheFolder() / "link.lproj");
   EXPECT_TRUE(cache.cachedLanguages().empty()) << "kept until a reset";
@@ -63,6 +78,47 @@ TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
   EXPECT_THAT(keysOf(cache.availableLanguages()), UnorderedElementsAre("en"));
   cache.setAvailableLanguageCodes({"never", "read"});
   EXPECT_EQ(cache.availableLanguageCodes(), StringList({"en"}));
+}
+
+TEST(LanguageCatalogue, StaysWhenTheDiskCannotBeReadForAWhile) {
+  const struct {
+    const char* operation;  // Fails.
+    int code;
+    std::vector<std::string> atFirst;  // What is found when nothing was listed before.
+    bool isTriedAgain;
+  } rows[] = {
+      {"enumerateDirectoryAtURL", EMFILE, {"en"}, true},
+      {"enumerateDirectoryAtURL", ENOMEM, {"en"}, true},
+      {"enumerateDirectoryAtURL", EACCES, {"en"}, false},
+      {"contentsOfDirectoryAtURL", ENFILE, {"fr"}, true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::Message() << row.operation << ' ' << row.code);
+    test::WatchedApplication app(test::Languages{{"en", {}}});
+    app.download("fr", {});
+    const auto failing = [&](std::string_view operation, std::string_view /*path*/) {
+      return operation == row.operation ? test::Fault::fail(row.code) : test::Fault::none();
+    };
+    const auto both = UnorderedElementsAre("en", "fr");
+    OVStringCache cache;
+    app.setHook(failing);
+    EXPECT_EQ(keysOf(cache.availableLanguages()), row.atFirst);
+    app.setHook({});
+    EXPECT_EQ(keysOf(cache.availableLanguages()).size(), row.isTriedAgain ? 2U : 1U);
+
+    cache.refreshCache();
+    EXPECT_THAT(keysOf(cache.availableLanguages()), both);
+    app.download("de", {});
+    cache.refreshCache();
+    app.setHook(failing);
+    EXPECT_THAT(keysOf(cache.availableLanguages()), both) << "the catalogue before";
+    EXPECT_NE(cache.bundleForLanguage("fr-CA"), nullptr);
+    app.setHook({});
+    EXPECT_EQ(cache.availableLanguages().size(), row.isTriedAgain ? 3U : 2U);
+    cache.clearCache();
+    app.setHook(failing);
+    EXPECT_TRUE(cache.cachedLanguages().empty()) << "what was cleared does not return";
+  }
 }
 
 TEST(LanguageCatalogue, FindsTheFirstAvailableLanguage) {
@@ -121,6 +177,20 @@ TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
   EXPECT_TRUE(app.log.empty());
 }
 
+TEST(CacheStorage, LogsWhatCannotBeDeleted) {
+  test::WatchedApplication app;
+  app.download("fr", {});
+  app.download("de", {});
+  app.setHook([](std::string_view operation, std::string_view path) {
+    const bool fails = operation == "removeItemAtURL" && path.ends_with("fr.lproj/");
+    return fails ? test::Fault::fail(EBUSY) : test::Fault::none();
+  });
+  OVStringCache cache;
+  cache.clearCache();
+  EXPECT_EQ(app.log, std::vector<std::string>({"Error 16 deleting file:injected"}));
+  EXPECT_THAT(keysOf(cache.cachedLanguages()), UnorderedElementsAre("fr"));
+}
+
 TEST(CacheStorage, FormsTheURLOfATable) {
   const struct {
     const char* folder;
@@ -134,6 +204,7 @@ TEST(CacheStorage, FormsTheURLOfATable) {
       {"file:///c/", "a b", nullptr},
       {"file:///c/", "\u00E9", nullptr},
       {"file:///c/", "100%", nullptr},
+      {"file:///c/", {}, nullptr},
   };
   for (const auto& row : rows) {
     const URL url = OVStringCacheUtilities::stringsFileURLForLanguage(

@@ -1,6 +1,12 @@
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <exception>
 #include <string>
+#include <thread>
 #include <utility>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <orvanta/cache/OVStringCache.h>
@@ -9,8 +15,7 @@
 
 #include "../support/Bytes.h"
 #include "../support/MemoryFile.h"
-#include "../support/TestApplication.h"
-#include "../support/UpdateFixture.h"
+#include "../support/WatchedApplication.h"
 
 namespace orvanta {
 namespace {
@@ -18,6 +23,14 @@ namespace {
 using test::contentsOf;
 using test::payloadOf;
 using test::TestApplication;
+
+std::string repeated(std::string_view text, int times) {
+  std::string whole;
+  while (times-- > 0) {
+    whole += text;
+  }
+  return whole;
+}
 
 std::string utf16(std::string_view text) {
   return test::encode(test::kUtf16Little, text);
@@ -34,13 +47,20 @@ TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
   for (const char* text : {"", "plain ascii text", "\u00E9\u0628\u6F22\U0001F600"}) {
     EXPECT_EQ(test::writtenAsUtf16(text), utf16(text));
   }
-  // Longer than the writer's buffer, characters at every position to where that ends.
-  for (std::string text : {"", "a", "ab"}) {
-    while (text.size() < 100'000) {
-      text += "\u6F22";
+  // Longer than the writer's buffer, which ends at every byte of a character of each length.
+  for (const std::string character : {"\u00E9", "\u6F22", "\U0001F600"}) {
+    for (std::string text; text.size() < 4; text += 'a') {
+      const std::size_t shift = text.size();
+      while (text.size() < 100'000) {
+        text += character;
+      }
+      EXPECT_EQ(test::writtenAsUtf16(text), utf16(text)) << character << ' ' << shift;
+      for (const std::string& broken :
+           {text + '\xFF', text + character.substr(0, 1), text.substr(0, 99'000) + '\xFF' + text}) {
+        EXPECT_EQ(test::writtenAsUtf16(broken), "") << character << ' ' << shift;
+      }
+      text.resize(shift);
     }
-    EXPECT_EQ(test::writtenAsUtf16(text), utf16(text));
-    EXPECT_EQ(test::writtenAsUtf16(text + "\xFF"), "");
   }
 }
 
@@ -54,9 +74,16 @@ TEST(StringsFile, IsSavedWhereItsURLSays) {
   EXPECT_EQ(contentsOf(file), utf16("text")) << "absent text is no empty text";
   EXPECT_EQ(app.log,
             std::vector<std::string>({"file " + url.absoluteString().str() + " written to cache"}));
-  OVStringCacheUtilities::saveLanguageStringForLanguage(
-      "text", "fr", URL::URLWithString("https://host/x.strings"));
-  EXPECT_EQ(app.log.back(), "error saving strings file https://host/x.strings");
+  const std::string folder =
+      URL::fileURLWithPath(app.caches().string(), true).absoluteString().str();
+  for (const std::string& refused :
+       {std::string("https://host/x.strings"), folder + "x?y.lproj/Localizable.strings",
+        folder + "x#y.lproj/Localizable.strings"}) {
+    OVStringCacheUtilities::saveLanguageStringForLanguage("text", "fr",
+                                                          URL::URLWithString(refused));
+    EXPECT_EQ(app.log.back(), "error saving strings file " + refused);
+  }
+  EXPECT_EQ(test::tablesBelow(app.caches()), 1U);
 }
 
 TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
@@ -64,6 +91,7 @@ TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
   OVStringCache cache;
   auto strings = payloadOf({{"fr", {{"a", "x"}, {"b", ""}}}, {"de", {}}, {"it", {{"c", ""}}}});
   strings.add("es", StringsPayload("no dictionary"));
+  strings.add("pt", test::payloadWith(StringsPayload::dictionary({{"a", StringsPayload()}})));
   cache.updateStrings(strings, "app", "main");
   EXPECT_TRUE(cache.cachedLanguages().empty()) << "the names are swapped";
   EXPECT_TRUE(app.log.empty());
@@ -76,10 +104,11 @@ TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
   EXPECT_EQ(app.log, std::vector<std::string>(
                          {"file " + folder + "fr.lproj/Localizable.strings written to cache",
                           "file " + folder + "it.lproj/Localizable.strings written to cache"}));
-  ASSERT_EQ(report.size(), 4U);
+  ASSERT_EQ(report.size(), 5U);
   EXPECT_EQ(report[0].result, StringsUpdate::Result::written);
   EXPECT_EQ(report[1].result, StringsUpdate::Result::skipped) << "an empty table";
   EXPECT_EQ(report[3].result, StringsUpdate::Result::skipped) << "no table at all";
+  EXPECT_EQ(report[4].result, StringsUpdate::Result::skipped) << "no text in the table";
   EXPECT_EQ(contentsOf(app.cacheFolder() / "fr.lproj/Localizable.strings"),
             utf16("/* */\n\"a\" = \"x\";\n\n"));
   EXPECT_EQ(contentsOf(app.cacheFolder() / "it.lproj/Localizable.strings"), utf16(""));
@@ -102,32 +131,182 @@ TEST(CacheUpdate, TakesDotsInNamesAsLevels) {
   EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
 }
 
-TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheCache) {
-  const std::pair<const char*, bool> rows[] = {
-      {"pt-BR", true},      {"a/b", true},
-      {"a/../b", true},     {"../x", false},
-      {"%2e%2e/x", false},  {"..%2Fx", false},
-      {"a/../../x", false}, {"../OrvantaLocalizations2/x", false},
-      {"x%00y", false},     {"x?y", false},
-      {"x#y", false},       {"a b", false},
-      {"\u00E9", false},    {"100%", false},
-      {"link/x", false},    {"/abs", true},
+TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheirFolder) {
+  const std::string deep = repeated("a/", 100) + "fr";
+  const struct {
+    String language;
+    bool isWritten;
+    const char* reason = "";  // A part of it; null: none.
+  } rows[] = {
+      {"pt-BR", true, nullptr},
+      {"a/b", true, nullptr},
+      {"a/../b", true, nullptr},
+      {"/abs", true, nullptr},
+      {deep, true, nullptr},
+      {".x", true, "begins with"},
+      {"a/.x/b", true, "begins with"},
+      {"", true, "begins with"},
+      {"../x", false},
+      {"%2e%2e/x", false},
+      {"..%2Fx", false},
+      {"a/../../x", false},
+      {"../OrvantaLocalizations2/x", false},
+      {"fr.lproj/Localizable.strings/x", false, "another language's"},
+      {"a/../%66r.lproj/x", false, "another language's"},
+      {"x%00y", false},
+      {"x?y", false},
+      {"x#y", false},
+      {"a b", false, "no URL"},
+      {"\u00E9", false, "no URL"},
+      {"100%", false, "no URL"},
+      {String(), false, "no URL"},
+      {"link/x", false},
+      {repeated("n", 300), false},
+      {repeated("a/", 650'000), false, "too long"},
   };
-  for (const auto& [language, isWritten] : rows) {
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.language.view().substr(0, 40));
     TestApplication app;
     const auto outside = app.caches() / "outside";
     std::filesystem::create_directories(outside);
     std::filesystem::create_directories(app.cacheFolder());
     std::filesystem::create_directory_symlink(outside, app.cacheFolder() / "link");
+    auto strings = payloadOf({{"fr", {{"k", "v"}}}});
+    strings.add(row.language, test::payloadWith(test::tableOf({{"k", "v"}})));
+    StringsUpdate update{};
     OVStringCache cache;
-    cache.updateStrings(payloadOf({{language, {{"k", "v"}}}, {"fr", {{"k", "v"}}}}), "main", "app");
-    const std::size_t expected = isWritten ? 2 : 1;
-    EXPECT_EQ(test::tablesBelow(app.caches()), expected) << language;
-    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), expected) << language;
-    EXPECT_EQ(app.log.front().starts_with("error saving strings file "), !isWritten) << language;
-    EXPECT_TRUE(app.log.back().ends_with("fr.lproj/Localizable.strings written to cache"));
-    EXPECT_TRUE(std::filesystem::is_empty(outside)) << language;
+    cache.updateStrings(strings, "main", "app", [&](const StringsUpdate& last) { update = last; });
+    EXPECT_EQ(update.result == StringsUpdate::Result::written, row.isWritten);
+    EXPECT_EQ(update.reason.isAbsent(), row.reason == nullptr);
+    EXPECT_NE(update.reason.view().find(row.reason == nullptr ? "" : row.reason),
+              std::string_view::npos)
+        << update.reason;
+    const std::size_t expected = row.isWritten ? 2 : 1;
+    EXPECT_EQ(test::tablesBelow(app.caches()), expected);
+    EXPECT_EQ(test::tablesBelow(app.cacheFolder()), expected);
+    EXPECT_EQ(app.log.back().starts_with("error saving strings file "), !row.isWritten);
+    EXPECT_EQ(cache.localizedStringForKey("k", "fr"), "v");
+    EXPECT_TRUE(std::filesystem::is_empty(outside));
   }
+}
+
+// At each file operation of an update, another process removes one of the folders, or puts a link
+// in its place.
+TEST(CacheUpdate, StaysInTheCacheWhileItsFoldersAreExchanged) {
+  const struct {
+    const char* folder;
+    bool isLinked;
+  } rows[] = {{"", false}, {"a", false}, {"a/fr.lproj", false}, {"a", true}, {"a/fr.lproj", true}};
+  for (const auto& row : rows) {
+    bool isOver = false;
+    for (int moment = 0; !isOver; ++moment) {
+      SCOPED_TRACE(testing::Message() << row.folder << ' ' << row.isLinked << ' ' << moment);
+      test::WatchedApplication app;
+      const auto outside = app.caches() / "outside";
+      std::filesystem::create_directories(outside / "a" / "fr.lproj");
+      app.download("a/fr", {{"k", "old"}});
+      const auto folder = app.cacheFolder() / row.folder;
+      int operation = 0;
+      bool isInPlace = false;
+      const StringsUpdate update = app.update("a/fr", {{"k", "v"}}, [&](auto name, auto /*path*/) {
+        if (operation++ == moment) {
+          std::filesystem::remove_all(folder);
+          if (row.isLinked) {
+            std::filesystem::create_directory_symlink(outside / row.folder, folder);
+          }
+        }
+        isInPlace = isInPlace || (operation <= moment && name == "rename");
+        return test::Fault::none();
+      });
+      isOver = operation <= moment;
+      EXPECT_EQ(test::tablesBelow(outside), 0U);
+      if (!row.isLinked) {
+        EXPECT_EQ(update.result, StringsUpdate::Result::written) << update.reason;
+        EXPECT_EQ(test::tablesBelow(app.caches()), isInPlace && !isOver ? 0U : 1U);
+      }
+    }
+  }
+}
+
+// The same by a thread, at any moment, without a pause.
+TEST(CacheUpdate, StaysInTheCacheWhileAThreadExchangesItsFolder) {
+  constexpr int kUpdates = 300;
+  TestApplication app;
+  app.download("fr", {{"k", "old"}});
+  const auto outside = app.caches() / "outside";
+  const auto link = app.caches() / "link";
+  std::filesystem::create_directories(outside);
+  std::filesystem::create_directory_symlink(outside, link);
+  std::atomic<bool> isOver{false};
+  std::thread exchanger([&] {
+    const std::string folder = app.cacheFolder() / "fr.lproj";
+    while (!isOver) {
+      ::renameat2(AT_FDCWD, folder.c_str(), AT_FDCWD, link.c_str(), RENAME_EXCHANGE);
+    }
+  });
+  int written = 0;
+  for (int update = 0; update < kUpdates; ++update) {
+    OVStringCache().updateStrings(payloadOf({{"fr", {{"k", "v"}}}}), "main", "app",
+                                  [&](const StringsUpdate& result) {
+                                    written += result.result == StringsUpdate::Result::written;
+                                  });
+  }
+  isOver = true;
+  exchanger.join();
+  EXPECT_TRUE(std::filesystem::is_empty(outside));
+  EXPECT_GT(written, 0);
+  EXPECT_LT(written, kUpdates);
+}
+
+TEST(CacheUpdate, TouchesTheDiskOnlyForATable) {
+  test::WatchedApplication app;
+  app.download("fr", {{"k", "old"}});
+  const auto abandoned = app.cacheFolder() / "fr.lproj" / ".1f.orvanta-unfinished";
+  const auto foreign = {app.cacheFolder() / ".2f.orvanta-unfinished",
+                        app.cacheFolder() / "other" / ".2f.orvanta-unfinished",
+                        app.cacheFolder() / "fr.lproj" / ".x.orvanta-unfinished",
+                        app.cacheFolder() / "fr.lproj" / "1f.orvanta-unfinished"};
+  for (const auto& file : foreign) {
+    test::writeFile(file, "x");
+  }
+  test::writeFile(abandoned, "x");
+  OVStringCache cache;
+  app.setHook([](auto name, auto path) {
+    ADD_FAILURE() << name << ' ' << path;
+    return test::Fault::none();
+  });
+  cache.updateStrings(payloadOf({{"fr", {}}}), "main", "app");
+  app.setHook({});
+  EXPECT_TRUE(std::filesystem::exists(abandoned));
+  cache.updateStrings(payloadOf({{"de", {{"k", "v"}}}}), "main", "app");
+  EXPECT_FALSE(std::filesystem::exists(abandoned));
+  for (const auto& file : foreign) {
+    EXPECT_TRUE(std::filesystem::exists(file)) << file;
+  }
+}
+
+TEST(CacheUpdate, FailsWithoutACachesFolder) {
+  test::WatchedApplication app;
+  OVStringCache cache;
+  app.setHook([](auto /*name*/, auto /*path*/) { return test::Fault::fail(EACCES); });
+  StringsUpdate update{};
+  const auto report = [&](const StringsUpdate& last) { update = last; };
+  cache.updateStrings(payloadOf({{"fr", {{"k", "v"}}}}), "main", "app", report);
+  EXPECT_EQ(update.result, StringsUpdate::Result::failed);
+  EXPECT_EQ(update.reason, "there is no caches directory");
+  EXPECT_EQ(app.log.back(), "error saving strings file (null)");
+  EXPECT_TRUE(cache.cachedLanguages().empty());
+}
+
+TEST(CacheUpdate, ForgetsTheCatalogueAlsoWhenAReportThrows) {
+  TestApplication app;
+  OVStringCache cache;
+  EXPECT_TRUE(cache.cachedLanguages().empty());
+  const auto strings = payloadOf({{"fr", {{"k", "v"}}}, {"de", {{"k", "v"}}}});
+  EXPECT_THROW(cache.updateStrings(strings, "main", "app",
+                                   [](const StringsUpdate& /*update*/) { throw std::exception(); }),
+               std::exception);
+  EXPECT_EQ(cache.cachedLanguageCodes(), StringList({"fr"})) << "not reached: de";
 }
 
 TEST(CacheUpdate, KeepsTheOldTableWhenTheNewOneCannotBeWritten) {

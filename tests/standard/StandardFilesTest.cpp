@@ -1,17 +1,24 @@
+#include <atomic>
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <tests/support/TestApplication.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <orvanta/standard/FileBytes.h>
 #include <orvanta/standard/StandardFiles.h>
+
+#include "../support/TestApplication.h"
 
 namespace orvanta::standard {
 namespace {
@@ -21,9 +28,14 @@ using testing::Contains;
 using testing::UnorderedElementsAre;
 
 // The errno of a failure; 0 for success.
-int codeOf(const FileOutcome& outcome) {
-  EXPECT_TRUE(!outcome || !outcome->localizedDescription.empty());
-  return outcome ? static_cast<int>(outcome->code) : 0;
+int codeOf(const Status& status) {
+  EXPECT_EQ(status.localizedDescription().empty(), status.ok());
+  return status.code();
+}
+
+ino_t inodeOf(const fs::path& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
 }
 
 class StandardFiles : public testing::Test {
@@ -32,6 +44,11 @@ class StandardFiles : public testing::Test {
   [[nodiscard]] String path(std::string_view name) const { return at(name).native(); }
   [[nodiscard]] URL url(std::string_view name, bool isDirectory = false) const {
     return URL::fileURLWithPath(path(name), isDirectory);
+  }
+  [[nodiscard]] std::unique_ptr<platform::Folder> open(std::string_view name) const {
+    auto opening = files_->openFolder(path(name));
+    EXPECT_EQ(codeOf(opening.status), 0);
+    return std::move(opening.folder);
   }
 
   test::ScratchFolder scratch_;
@@ -73,7 +90,7 @@ TEST_F(StandardFiles, TellWhatIsThere) {
   EXPECT_EQ(files_->stampOfFileAtPath(path("link"))->size, 5U);
 }
 
-// Paths that name nothing: no operation may take them for something else.
+// Paths and names that name nothing: no operation may take them for something else.
 TEST_F(StandardFiles, KnowNothingAtWhatIsNoPath) {
   test::writeFile(at("file"), "x");
   const std::string cutByNul = at("file").native() + std::string("\0x", 2);
@@ -83,18 +100,24 @@ TEST_F(StandardFiles, KnowNothingAtWhatIsNoPath) {
     EXPECT_FALSE(files_->fileExistsAtPath(none));
     EXPECT_EQ(files_->itemKindAtPath(none), platform::ItemKind::missing);
     EXPECT_EQ(files_->openFileForReading(none), nullptr);
-    EXPECT_EQ(files_->createFile(none).file, nullptr);
-    EXPECT_NE(codeOf(files_->createFile(none).outcome), 0);
-    EXPECT_NE(codeOf(files_->moveItemReplacing(path("file"), none)), 0);
-    EXPECT_NE(codeOf(files_->syncDirectory(none)), 0);
-    EXPECT_NE(codeOf(files_->removeFileUnlessInUse(none)), 0);
+    EXPECT_NE(codeOf(files_->openFolder(none).status), 0);
+  }
+  const auto folder = open("");
+  for (const String& none : {String(), String(""), String("."), String(".."), String("x/y"),
+                             String(std::string("file\0x", 6)), path("file")}) {
+    SCOPED_TRACE(none);
+    EXPECT_NE(codeOf(folder->openFolder(none).status), 0);
+    EXPECT_NE(codeOf(folder->createFolder(none)), 0);
+    EXPECT_NE(codeOf(folder->createFile(none).status), 0);
+    EXPECT_NE(codeOf(folder->removeFile(none)), 0);
+    EXPECT_NE(codeOf(folder->removeFileUnlessLocked(none)), 0);
+    EXPECT_NE(codeOf(folder->rename("file", none)), 0);
   }
   const URL noFile = URL::URLWithString("https://example.org/x");
   for (const URL& none : {URL(), noFile}) {
-    EXPECT_NE(codeOf(files_->createDirectoryAtURL(none)), 0);
     EXPECT_NE(codeOf(files_->removeItemAtURL(none)), 0);
-    EXPECT_TRUE(files_->contentsOfDirectoryAtURL(none).empty());
-    files_->enumerateDirectoryAtURL(none, [](const URL&, bool) { ADD_FAILURE(); });
+    EXPECT_NE(codeOf(files_->contentsOfDirectoryAtURL(none).status), 0);
+    EXPECT_NE(codeOf(files_->enumerateDirectoryAtURL(none, {})), 0);
   }
   EXPECT_EQ(test::contentsOf(at("file")), "x");
 }
@@ -104,7 +127,7 @@ TEST_F(StandardFiles, StampTellsStatesApart) {
   const auto first = files_->stampOfFileAtPath(path("file"));
   EXPECT_EQ(first, files_->stampOfFileAtPath(path("file")));
   test::writeFile(at("other"), "two");
-  ASSERT_EQ(codeOf(files_->moveItemReplacing(path("other"), path("file"))), 0);
+  ASSERT_EQ(codeOf(open("")->rename("other", "file")), 0);
   EXPECT_NE(files_->stampOfFileAtPath(path("file")), first) << "another file";
   EXPECT_EQ(test::contentsOf(at("file")), "two");
   const auto second = files_->stampOfFileAtPath(path("file"));
@@ -112,40 +135,42 @@ TEST_F(StandardFiles, StampTellsStatesApart) {
   EXPECT_NE(files_->stampOfFileAtPath(path("file")), second) << "another time";
 }
 
-TEST_F(StandardFiles, MakeFoldersWithTheirParents) {
-  for (const char* when : {"new", "there already"}) {
-    EXPECT_EQ(codeOf(files_->createDirectoryAtURL(url("a/b c/\u00E9", true))), 0) << when;
-    EXPECT_TRUE(fs::is_directory(at("a/b c/\u00E9")));
-  }
-}
-
 TEST_F(StandardFiles, RefuseToPutOrTakeWhatCannotBe) {
   constexpr int kAny = -1;
   test::writeFile(at("file"), "kept");
   fs::create_directory(at("folder"));
   fs::create_symlink("nowhere", at("dangling"));
+  fs::create_directory_symlink("folder", at("link"));
+  const auto folder = open("");
   const struct {
     const char* name;
-    FileOutcome outcome;
+    Status status;
     int code;
   } kRows[] = {
-      {"a folder over a file", files_->createDirectoryAtURL(url("file", true)), kAny},
-      {"a folder in a file", files_->createDirectoryAtURL(url("file/x", true)), kAny},
-      {"a folder over a link", files_->createDirectoryAtURL(url("dangling", true)), kAny},
-      {"a file over a file", files_->createFile(path("file")).outcome, EEXIST},
-      {"a file over a folder", files_->createFile(path("folder")).outcome, EEXIST},
-      {"a file over a link", files_->createFile(path("dangling")).outcome, EEXIST},
-      {"a file in no folder", files_->createFile(path("none/file")).outcome, ENOENT},
-      {"nothing moved", files_->moveItemReplacing(path("none"), path("file")), ENOENT},
-      {"a file over a folder", files_->moveItemReplacing(path("file"), path("folder")), kAny},
-      {"nothing removed", files_->removeItemAtURL(url("none")), ENOENT},
-      {"nothing in use", files_->removeFileUnlessInUse(path("none")), ENOENT},
-      {"a folder for a file", files_->removeFileUnlessInUse(path("folder")), kAny},
+      {"a folder over a file", folder->createFolder("file"), EEXIST},
+      {"a folder over a folder", folder->createFolder("folder"), EEXIST},
+      {"a folder over a link", folder->createFolder("dangling"), EEXIST},
+      {"a file as a folder", folder->openFolder("file").status, ENOTDIR},
+      {"a link as a folder", folder->openFolder("link").status, kAny},
+      {"a path to a file as a folder", files_->openFolder(path("file")).status, ENOTDIR},
+      {"a file over a file", folder->createFile("file").status, EEXIST},
+      {"a file over a folder", folder->createFile("folder").status, EEXIST},
+      {"a file over a link", folder->createFile("dangling").status, EEXIST},
+      {"nothing renamed", folder->rename("none", "file"), ENOENT},
+      {"a file renamed over a folder", folder->rename("file", "folder"), kAny},
+      {"no item removed", files_->removeItemAtURL(url("none")), ENOENT},
+      {"no file removed", folder->removeFile("none"), ENOENT},
+      {"a folder removed as a file", folder->removeFile("folder"), kAny},
+      {"no unlocked file", folder->removeFileUnlessLocked("none"), ENOENT},
+      {"an unlocked folder", folder->removeFileUnlessLocked("folder"), kAny},
+      {"an unlocked link", folder->removeFileUnlessLocked("link"), kAny},
   };
   for (const auto& row : kRows) {
-    const int code = codeOf(row.outcome);
+    const int code = codeOf(row.status);
     EXPECT_TRUE(row.code == kAny ? code != 0 : code == row.code) << row.name << ": " << code;
   }
+  EXPECT_EQ(files_->removeItemAtURL(url("none")).localizedDescription(),
+            String(at("none").native() + ": No such file or directory"));
   EXPECT_EQ(test::contentsOf(at("file")), "kept");
   EXPECT_TRUE(fs::is_directory(at("folder")));
   EXPECT_FALSE(fs::exists(at("nowhere")));
@@ -159,20 +184,21 @@ TEST_F(StandardFiles, ListAFolderAndVisitWhatIsNotHiddenInIt) {
   test::writeFile(at("outside/secret"), "");
   fs::create_symlink("../outside", at("in/link"));
   fs::create_symlink("..", at("in/a/loop"));
-  EXPECT_THAT(files_->contentsOfDirectoryAtURL(url("in", true)),
+  EXPECT_THAT(files_->contentsOfDirectoryAtURL(url("in", true)).entries,
               UnorderedElementsAre(url("in/T \u00E9.strings"), url("in/.hidden", true),
                                    url("in/a", true), url("in/link")));
-  EXPECT_TRUE(files_->contentsOfDirectoryAtURL(url("in/a/.x")).empty());
-  EXPECT_TRUE(files_->contentsOfDirectoryAtURL(url("none", true)).empty());
+  EXPECT_EQ(codeOf(files_->contentsOfDirectoryAtURL(url("in/a/.x")).status), ENOTDIR);
+  EXPECT_EQ(codeOf(files_->enumerateDirectoryAtURL(url("none", true), {})), ENOENT);
 
   std::vector<URL> seen = {url("in", true)};
-  files_->enumerateDirectoryAtURL(url("in", true), [&](const URL& entry, bool isDirectory) {
+  const auto visit = [&](const URL& entry, bool isDirectory) {
     EXPECT_EQ(isDirectory, entry.absoluteString().view().ends_with('/'));
     const std::string parent = fs::path(entry.path().str()).parent_path();
     EXPECT_THAT(seen, Contains(URL::fileURLWithPath(parent, true)))
         << "a folder comes before what is in it";
     seen.push_back(entry);
-  });
+  };
+  EXPECT_EQ(codeOf(files_->enumerateDirectoryAtURL(url("in", true), visit)), 0);
   EXPECT_THAT(seen,
               UnorderedElementsAre(url("in", true), url("in/T \u00E9.strings"), url("in/a", true),
                                    url("in/a/b", true), url("in/a/b/c", true), url("in/a/b/c/d"),
@@ -214,64 +240,183 @@ TEST_F(StandardFiles, RemoveTreesOfAnyDepth) {
   }
   ::close(folder);
   std::size_t visited = 0;
-  files_->enumerateDirectoryAtURL(url("deep", true), [&](const URL&, bool) { ++visited; });
+  EXPECT_EQ(codeOf(files_->enumerateDirectoryAtURL(url("deep", true),
+                                                   [&](const URL&, bool) { ++visited; })),
+            0);
   EXPECT_GT(visited, 100U);
   EXPECT_EQ(codeOf(files_->removeItemAtURL(url("deep", true))), 0);
   EXPECT_FALSE(fs::exists(at("deep")));
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
 }
 
-TEST_F(StandardFiles, ReadWhatWasWritten) {
-  const std::string bytes(300000, 'b');
-  platform::FileManager::Creation creation = files_->createFile(path("file \u00E9"));
-  ASSERT_NE(creation.file, nullptr);
-  EXPECT_EQ(codeOf(creation.file->write("a")), 0);
-  EXPECT_EQ(codeOf(creation.file->write(bytes)), 0);
-  EXPECT_EQ(codeOf(creation.file->sync()), 0);
-  EXPECT_EQ(codeOf(creation.file->close()), 0);
-  EXPECT_EQ(codeOf(creation.file->write("late")), EBADF);
-  EXPECT_EQ(codeOf(files_->syncDirectory(scratch_.path().native())), 0);
+// See `fsync` and `flock` below.
+std::vector<ino_t> synced;
+bool othersLockFirst = false;
 
-  const auto file = files_->openFileForReading(path("file \u00E9"));
-  ASSERT_NE(file, nullptr);
+TEST_F(StandardFiles, ReadWhatWasWritten) {
+  const std::string bytes(3'000'000, 'b');
+  auto [file, status] = open("")->createFile("file \u00E9");
+  ASSERT_EQ(codeOf(status), 0);
+  EXPECT_EQ(codeOf(file->write("a")), 0);
+  EXPECT_EQ(codeOf(file->write(bytes)), 0);
+  synced.clear();
+  EXPECT_EQ(codeOf(file->sync()), 0);
+  EXPECT_EQ(codeOf(open("")->sync()), 0);
+  EXPECT_THAT(synced, testing::ElementsAre(inodeOf(at("file \u00E9")), inodeOf(at(""))));
+  EXPECT_EQ(codeOf(file->close()), 0);
+  EXPECT_EQ(codeOf(file->write("late")), EBADF);
+  EXPECT_EQ(codeOf(file->sync()), EBADF);
+
+  const auto reading = files_->openFileForReading(path("file \u00E9"));
+  ASSERT_NE(reading, nullptr);
   std::string read(bytes.size() + 100, '\0');
-  EXPECT_EQ(file->read({read.data(), 1}), 1U);
-  EXPECT_EQ(file->read({read.data() + 1, read.size() - 1}), bytes.size());
-  EXPECT_EQ(file->read(read), 0U);
+  EXPECT_EQ(reading->read({read.data(), 1}), 1U);
+  EXPECT_EQ(reading->read({read.data() + 1, read.size() - 1}), bytes.size());
+  EXPECT_EQ(reading->read(read), 0U);
   read.resize(bytes.size() + 1);
   EXPECT_EQ(read, "a" + bytes);
 }
 
-TEST_F(StandardFiles, LeaveFilesInUseAlone) {
-  platform::FileManager::Creation creation = files_->createFile(path("used"));
-  ASSERT_NE(creation.file, nullptr);
-  EXPECT_EQ(codeOf(files_->removeFileUnlessInUse(path("used"))), 0);
-  EXPECT_TRUE(fs::exists(at("used")));
-  creation.file.reset();
-  EXPECT_EQ(codeOf(files_->removeFileUnlessInUse(path("used"))), 0);
-  EXPECT_FALSE(fs::exists(at("used")));
+TEST_F(StandardFiles, ReadAFileThatIsNotAsLongAsExpected) {
+  const std::string bytes = "twelve bytes";
+  test::writeFile(at("file"), bytes);
+  for (const std::uint64_t expected : {0U, 1U, 5U, 11U, 12U, 13U, 100U}) {
+    const auto read = readWholeFile(*files_, path("file"), expected);
+    ASSERT_TRUE(read) << expected;
+    EXPECT_EQ(read->view(), bytes) << expected;
+  }
+  EXPECT_FALSE(readWholeFile(*files_, path("none"), 0));
+  EXPECT_FALSE(readWholeFile(*files_, path("file"), std::uint64_t{1} << 32));
 }
 
-TEST_F(StandardFiles, MakeTheCachesFolderWhenItIsAskedFor) {
-  const auto files = makeFileManager(path("Caches \u00E9/App"));
-  EXPECT_FALSE(fs::exists(at("Caches \u00E9")));
-  EXPECT_EQ(files->cachesDirectoryURL(), url("Caches \u00E9/App", true));
-  EXPECT_TRUE(fs::is_directory(at("Caches \u00E9/App")));
-  EXPECT_TRUE(files_->cachesDirectoryURL().isAbsent());
+TEST_F(StandardFiles, StayInAnOpenFolder) {
+  fs::create_directories(at("folder/sub"));
+  test::writeFile(at("outside/file"), "kept");
+  const auto folder = open("folder");
+  fs::rename(at("folder"), at("moved"));
+  fs::create_directory_symlink("outside", at("folder"));
+  EXPECT_EQ(codeOf(folder->openFolder("sub").status), 0);
+  EXPECT_EQ(codeOf(folder->createFile("file").status), 0);
+  EXPECT_EQ(codeOf(folder->rename("file", "renamed")), 0);
+  EXPECT_TRUE(fs::exists(at("moved/renamed")));
+  EXPECT_EQ(folder->list().entries.size(), 2U);
+  EXPECT_EQ(folder->list().entries.size(), 2U) << "from the start each time";
+  fs::remove_all(at("moved"));
+  EXPECT_EQ(codeOf(folder->createFile("file").status), ENOENT);
+  EXPECT_EQ(test::contentsOf(at("outside/file")), "kept");
+}
+
+TEST_F(StandardFiles, LeaveLockedFilesAlone) {
+  const auto folder = open("");
+  auto creation = folder->createFile("used");
+  ASSERT_NE(creation.file, nullptr);
+  EXPECT_EQ(codeOf(folder->removeFileUnlessLocked("used")), 0);
+  EXPECT_TRUE(fs::exists(at("used")));
+  creation.file.reset();
+  EXPECT_EQ(codeOf(folder->removeFileUnlessLocked("used")), 0);
+  EXPECT_FALSE(fs::exists(at("used")));
+
+  othersLockFirst = true;
+  EXPECT_EQ(codeOf(folder->createFile("locked").status), EAGAIN) << "without waiting";
+  othersLockFirst = false;
+  EXPECT_FALSE(fs::exists(at("locked")));
+}
+
+TEST_F(StandardFiles, TellShortageFromEmptiness) {
+  test::writeFile(at("in/a/x"), "");
+  rlimit before{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+  const rlimit none{0, before.rlim_max};
+  std::size_t visited = 0;
+  const auto visit = [&](const URL& entry, bool) {
+    ++visited;
+    // While the walk is between two folders.
+    if (entry == url("in/a", true)) {
+      EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    }
+  };
+  const Status walked = files_->enumerateDirectoryAtURL(url("in", true), visit);
+  const Status listed = files_->contentsOfDirectoryAtURL(url("in", true)).status;
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_TRUE(walked.isShortage());
+  EXPECT_TRUE(listed.isShortage());
+  EXPECT_EQ(visited, 1U);
 }
 
 TEST_F(StandardFiles, LeaveNoDescriptorToOtherPrograms) {
   test::writeFile(at("file"), "x");
+  fs::create_directory(at("sub"));
+  const auto folder = open("");
+  const auto sub = folder->openFolder("sub");
   const auto reading = files_->openFileForReading(path("file"));
-  const auto writing = files_->createFile(path("new"));
+  const auto writing = folder->createFile("new");
+  std::size_t found = 0;
   for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
     std::error_code error;
     const fs::path target = fs::read_symlink(entry.path(), error);
-    if (target == at("file") || target == at("new")) {
+    if (target.native().starts_with(scratch_.path().native())) {
+      ++found;
       EXPECT_NE(::fcntl(std::stoi(entry.path().filename()), F_GETFD) & FD_CLOEXEC, 0) << target;
     }
+  }
+  EXPECT_EQ(found, 4U);
+}
+
+// Somebody exchanges a folder with a link, or moves it away, while the tree around it is removed.
+TEST_F(StandardFiles, RemoveNothingBehindALinkThatComesMeanwhile) {
+  constexpr int kRounds = 60;
+  for (const bool byMoving : {false, true}) {
+    std::atomic<bool> isOver{false};
+    std::thread exchanger([&] {
+      const auto link = at("link");
+      fs::create_directory_symlink(at("outside"), link);
+      while (!isOver) {
+        if (byMoving) {
+          ::rename(at("tree/a/b").c_str(), at("outside/b").c_str());
+        } else {
+          ::renameat2(AT_FDCWD, at("tree/a").c_str(), AT_FDCWD, link.c_str(), RENAME_EXCHANGE);
+        }
+      }
+    });
+    for (int round = 0; round < kRounds; ++round) {
+      std::error_code ignored;
+      fs::create_directories(at("outside/kept/more"), ignored);
+      fs::create_directories(at("tree/a/b/c"), ignored);
+      for (const char* name : {"tree/a/b/1", "tree/a/b/2", "tree/a/b/c/3", "outside/kept/4"}) {
+        std::ofstream(at(name)) << "x";
+      }
+      static_cast<void>(files_->removeItemAtURL(url("tree", true)));
+      EXPECT_TRUE(fs::exists(at("outside/kept/4"))) << byMoving << ' ' << round;
+      fs::remove_all(at("outside/b"), ignored);
+    }
+    isOver = true;
+    exchanger.join();
+    fs::remove_all(at("link"));
   }
 }
 
 }  // namespace
 }  // namespace orvanta::standard
+
+// In place of the C library's functions, for all tests of this program. `fsync` notes the file and
+// spares the wait for the disk; `flock` can let another process lock the file first.
+extern "C" int fsync(int file) {
+  struct stat status {};
+  const int result = ::fstat(file, &status);
+  orvanta::standard::synced.push_back(status.st_ino);
+  return result;
+}
+
+extern "C" int flock(int file, int operation) noexcept {
+  if (!orvanta::standard::othersLockFirst) {
+    return static_cast<int>(::syscall(SYS_flock, file, operation));
+  }
+  const int other = ::open(("/proc/self/fd/" + std::to_string(file)).c_str(), O_RDONLY | O_CLOEXEC);
+  ::syscall(SYS_flock, other, LOCK_EX);
+  // Instead of waiting for ever.
+  const long result = (operation & LOCK_NB) == 0 ? 0 : ::syscall(SYS_flock, file, operation);
+  const int error = errno;
+  ::close(other);
+  errno = error;
+  return static_cast<int>(result);
+}

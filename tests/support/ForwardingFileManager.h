@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -8,7 +7,6 @@
 #include <span>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include <orvanta/platform/FileManager.h>
 
@@ -16,150 +14,202 @@ namespace orvanta::test {
 
 /// What becomes of one file operation.
 struct Fault {
-  /// The operation fails so. One that has no outcome gives its absent or empty result.
-  std::optional<FileError> failure;
+  /// Not ok: the operation fails so. One without a status gives its absent or empty result.
+  Status failure;
   /// A write passes on this many bytes before it fails.
   std::size_t bytesBeforeFailure = 0;
 
   static Fault none() { return {}; }
-  static Fault fail(int code) { return {FileError{static_cast<std::uint64_t>(code), "injected"}}; }
-  static Fault cutShort(std::size_t bytes, int code) {
-    Fault fault = fail(code);
-    fault.bytesBeforeFailure = bytes;
-    return fault;
+  static Fault fail(int code) { return {Status(code, "injected"_s)}; }
+  static Fault cutShort(std::size_t bytes, int code) { return {Status(code, "injected"_s), bytes}; }
+};
+
+/// Called before each operation with its name, that of the member function, and the path or the
+/// URL's text; for `rename` the new path.
+using FileHook = std::function<Fault(std::string_view operation, std::string_view path)>;
+
+/// A hook that files share which may outlive its setting.
+class SharedHook {
+ public:
+  explicit SharedHook(FileHook hook) : hook_(std::make_shared<FileHook>(std::move(hook))) {}
+
+  void set(FileHook hook) const { *hook_ = std::move(hook); }
+  [[nodiscard]] Fault ask(std::string_view operation, const String& path) const {
+    return *hook_ ? (*hook_)(operation, path.view()) : Fault::none();
   }
+  /// The injected failure, else what `call` gives.
+  template <typename Call>
+  [[nodiscard]] auto orElse(std::string_view operation, const String& path, Call call) const
+      -> decltype(call()) {
+    Fault fault = ask(operation, path);
+    if (fault.failure.ok()) {
+      return call();
+    }
+    if constexpr (std::is_same_v<decltype(call()), Status>) {
+      return std::move(fault.failure);
+    } else if constexpr (requires { decltype(call())::status; }) {
+      return {{}, std::move(fault.failure)};
+    } else {
+      return {};
+    }
+  }
+
+ private:
+  std::shared_ptr<FileHook> hook_;
+};
+
+class ForwardingReadableFile final : public platform::ReadableFile {
+ public:
+  ForwardingReadableFile(std::unique_ptr<platform::ReadableFile> target, SharedHook hook,
+                         String path)
+      : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
+
+  std::optional<std::size_t> read(std::span<char> buffer) override {
+    return hook_.orElse("read", path_, [&] { return target_->read(buffer); });
+  }
+
+ private:
+  std::unique_ptr<platform::ReadableFile> target_;
+  SharedHook hook_;
+  String path_;
+};
+
+class ForwardingWritableFile final : public platform::WritableFile {
+ public:
+  ForwardingWritableFile(std::unique_ptr<platform::WritableFile> target, SharedHook hook,
+                         String path)
+      : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
+
+  Status write(std::string_view bytes) override {
+    const Fault fault = hook_.ask("write", path_);
+    if (fault.failure.ok()) {
+      return target_->write(bytes);
+    }
+    const Status written = target_->write(bytes.substr(0, fault.bytesBeforeFailure));
+    return written.ok() ? fault.failure : written;
+  }
+  Status sync() override {
+    return hook_.orElse("sync", path_, [&] { return target_->sync(); });
+  }
+  /// Closes also when it is told to fail, as the system does.
+  Status close() override {
+    const Fault fault = hook_.ask("close", path_);
+    const Status closed = target_->close();
+    return fault.failure.ok() ? closed : fault.failure;
+  }
+
+ private:
+  std::unique_ptr<platform::WritableFile> target_;
+  SharedHook hook_;
+  String path_;
+};
+
+class ForwardingFolder final : public platform::Folder {
+ public:
+  ForwardingFolder(std::unique_ptr<platform::Folder> target, SharedHook hook, String path)
+      : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
+
+  static Opening wrap(Opening opening, const SharedHook& hook, const String& path) {
+    if (opening.folder != nullptr) {
+      opening.folder = std::make_unique<ForwardingFolder>(std::move(opening.folder), hook, path);
+    }
+    return opening;
+  }
+
+  Opening openFolder(const String& name) override {
+    return hook_.orElse("openFolder", at(name),
+                        [&] { return wrap(target_->openFolder(name), hook_, at(name)); });
+  }
+  Status createFolder(const String& name) override {
+    return hook_.orElse("createFolder", at(name), [&] { return target_->createFolder(name); });
+  }
+  Listing list() override {
+    return hook_.orElse("list", path_, [&] { return target_->list(); });
+  }
+  Creation createFile(const String& name) override {
+    return hook_.orElse("createFile", at(name), [&] {
+      Creation creation = target_->createFile(name);
+      if (creation.file != nullptr) {
+        creation.file =
+            std::make_unique<ForwardingWritableFile>(std::move(creation.file), hook_, at(name));
+      }
+      return creation;
+    });
+  }
+  Status removeFile(const String& name) override {
+    return hook_.orElse("removeFile", at(name), [&] { return target_->removeFile(name); });
+  }
+  Status removeFileUnlessLocked(const String& name) override {
+    return hook_.orElse("removeFileUnlessLocked", at(name),
+                        [&] { return target_->removeFileUnlessLocked(name); });
+  }
+  Status rename(const String& from, const String& to) override {
+    return hook_.orElse("rename", at(to), [&] { return target_->rename(from, to); });
+  }
+  Status sync() override {
+    return hook_.orElse("syncFolder", path_, [&] { return target_->sync(); });
+  }
+
+ private:
+  [[nodiscard]] String at(const String& name) const { return path_.str() + '/' + name.str(); }
+
+  std::unique_ptr<platform::Folder> target_;
+  SharedHook hook_;
+  String path_;
 };
 
 /// A file manager that hands every operation on to another one, unless its hook says otherwise.
 class ForwardingFileManager final : public platform::FileManager {
  public:
-  /// Called before each operation with its name, that of the member function ("read", "write",
-  /// "sync" and "close" for an open file), and the path or the URL's text.
-  using Hook = std::function<Fault(std::string_view operation, std::string_view path)>;
+  explicit ForwardingFileManager(std::shared_ptr<platform::FileManager> target, FileHook hook = {})
+      : target_(std::move(target)), hook_(std::move(hook)) {}
 
-  explicit ForwardingFileManager(std::shared_ptr<platform::FileManager> target, Hook hook = {})
-      : target_(std::move(target)), hook_(std::make_shared<Hook>(std::move(hook))) {}
-
-  /// Holds for files that are open already, too.
-  void setHook(Hook hook) { *hook_ = std::move(hook); }
+  /// Holds for files and folders that are open already, too.
+  void setHook(FileHook hook) { hook_.set(std::move(hook)); }
 
   URL cachesDirectoryURL() override {
-    return ask("cachesDirectoryURL", {}).failure ? URL() : target_->cachesDirectoryURL();
+    return hook_.orElse("cachesDirectoryURL", {}, [&] { return target_->cachesDirectoryURL(); });
   }
   bool fileExistsAtPath(const String& path) override {
-    return !ask("fileExistsAtPath", path).failure && target_->fileExistsAtPath(path);
+    return hook_.orElse("fileExistsAtPath", path, [&] { return target_->fileExistsAtPath(path); });
   }
   platform::ItemKind itemKindAtPath(const String& path) override {
-    return ask("itemKindAtPath", path).failure ? platform::ItemKind::missing
-                                               : target_->itemKindAtPath(path);
+    return hook_.orElse("itemKindAtPath", path, [&] { return target_->itemKindAtPath(path); });
   }
   std::optional<platform::FileStamp> stampOfFileAtPath(const String& path) override {
-    return ask("stampOfFileAtPath", path).failure ? std::nullopt : target_->stampOfFileAtPath(path);
+    return hook_.orElse("stampOfFileAtPath", path,
+                        [&] { return target_->stampOfFileAtPath(path); });
   }
-  FileOutcome createDirectoryAtURL(const URL& url) override {
-    const Fault fault = ask("createDirectoryAtURL", url.absoluteString());
-    return fault.failure ? fault.failure : target_->createDirectoryAtURL(url);
-  }
-  FileOutcome removeItemAtURL(const URL& url) override {
-    const Fault fault = ask("removeItemAtURL", url.absoluteString());
-    return fault.failure ? fault.failure : target_->removeItemAtURL(url);
-  }
-  std::vector<URL> contentsOfDirectoryAtURL(const URL& url) override {
-    return ask("contentsOfDirectoryAtURL", url.absoluteString()).failure
-               ? std::vector<URL>()
-               : target_->contentsOfDirectoryAtURL(url);
-  }
-  void enumerateDirectoryAtURL(const URL& url, const EntryVisitor& visit) override {
-    if (!ask("enumerateDirectoryAtURL", url.absoluteString()).failure) {
-      target_->enumerateDirectoryAtURL(url, visit);
-    }
+  platform::Folder::Opening openFolder(const String& path) override {
+    return hook_.orElse("openFolder", path, [&] {
+      return ForwardingFolder::wrap(target_->openFolder(path), hook_, path);
+    });
   }
   std::unique_ptr<platform::ReadableFile> openFileForReading(const String& path) override {
-    if (ask("openFileForReading", path).failure) {
-      return nullptr;
-    }
-    auto file = target_->openFileForReading(path);
-    return file == nullptr ? nullptr : std::make_unique<Reading>(std::move(file), hook_, path);
+    using Result = std::unique_ptr<platform::ReadableFile>;
+    return hook_.orElse("openFileForReading", path, [&]() -> Result {
+      auto file = target_->openFileForReading(path);
+      return file == nullptr
+                 ? nullptr
+                 : std::make_unique<ForwardingReadableFile>(std::move(file), hook_, path);
+    });
   }
-  Creation createFile(const String& path) override {
-    const Fault fault = ask("createFile", path);
-    if (fault.failure) {
-      return {nullptr, fault.failure};
-    }
-    Creation creation = target_->createFile(path);
-    if (creation.file != nullptr) {
-      creation.file = std::make_unique<Writing>(std::move(creation.file), hook_, path);
-    }
-    return creation;
+  Status removeItemAtURL(const URL& url) override {
+    return hook_.orElse("removeItemAtURL", url.absoluteString(),
+                        [&] { return target_->removeItemAtURL(url); });
   }
-  FileOutcome removeFileUnlessInUse(const String& path) override {
-    const Fault fault = ask("removeFileUnlessInUse", path);
-    return fault.failure ? fault.failure : target_->removeFileUnlessInUse(path);
+  Contents contentsOfDirectoryAtURL(const URL& url) override {
+    return hook_.orElse("contentsOfDirectoryAtURL", url.absoluteString(),
+                        [&] { return target_->contentsOfDirectoryAtURL(url); });
   }
-  FileOutcome moveItemReplacing(const String& from, const String& to) override {
-    const Fault fault = ask("moveItemReplacing", to);
-    return fault.failure ? fault.failure : target_->moveItemReplacing(from, to);
-  }
-  FileOutcome syncDirectory(const String& path) override {
-    const Fault fault = ask("syncDirectory", path);
-    return fault.failure ? fault.failure : target_->syncDirectory(path);
+  Status enumerateDirectoryAtURL(const URL& url, const EntryVisitor& visit) override {
+    return hook_.orElse("enumerateDirectoryAtURL", url.absoluteString(),
+                        [&] { return target_->enumerateDirectoryAtURL(url, visit); });
   }
 
  private:
-  using SharedHook = std::shared_ptr<const Hook>;
-
-  static Fault ask(const SharedHook& hook, std::string_view operation, const String& path) {
-    return *hook ? (*hook)(operation, path.view()) : Fault::none();
-  }
-  Fault ask(std::string_view operation, const String& path) const {
-    return ask(hook_, operation, path);
-  }
-
-  class Reading final : public platform::ReadableFile {
-   public:
-    Reading(std::unique_ptr<platform::ReadableFile> target, SharedHook hook, String path)
-        : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
-    std::optional<std::size_t> read(std::span<char> buffer) override {
-      return ask(hook_, "read", path_).failure ? std::nullopt : target_->read(buffer);
-    }
-
-   private:
-    std::unique_ptr<platform::ReadableFile> target_;
-    SharedHook hook_;
-    String path_;
-  };
-
-  class Writing final : public platform::WritableFile {
-   public:
-    Writing(std::unique_ptr<platform::WritableFile> target, SharedHook hook, String path)
-        : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
-    FileOutcome write(std::string_view bytes) override {
-      const Fault fault = ask(hook_, "write", path_);
-      if (!fault.failure) {
-        return target_->write(bytes);
-      }
-      const auto written = target_->write(bytes.substr(0, fault.bytesBeforeFailure));
-      return written ? written : fault.failure;
-    }
-    FileOutcome sync() override {
-      const Fault fault = ask(hook_, "sync", path_);
-      return fault.failure ? fault.failure : target_->sync();
-    }
-    /// Closes even where it is told to fail, as the system does.
-    FileOutcome close() override {
-      const Fault fault = ask(hook_, "close", path_);
-      const auto closed = target_->close();
-      return fault.failure ? fault.failure : closed;
-    }
-
-   private:
-    std::unique_ptr<platform::WritableFile> target_;
-    SharedHook hook_;
-    String path_;
-  };
-
   std::shared_ptr<platform::FileManager> target_;
-  std::shared_ptr<Hook> hook_;
+  SharedHook hook_;
 };
 
 }  // namespace orvanta::test

@@ -20,13 +20,18 @@ inline StringsPayload tableOf(const Pairs& pairs) {
   return table;
 }
 
-/// A download whose tables stand under the bundle "app" and the namespace "main".
+/// One language's payload, whose table stands under the bundle "app" and the namespace "main".
+inline StringsPayload payloadWith(StringsPayload table) {
+  auto space = StringsPayload::dictionary({{"zantorData", std::move(table)}});
+  auto bundle = StringsPayload::dictionary({{"main", std::move(space)}});
+  return StringsPayload::dictionary({{"app", std::move(bundle)}});
+}
+
+/// A download of such payloads.
 inline StringsPayload payloadOf(const std::vector<std::pair<std::string, Pairs>>& languages) {
   auto strings = StringsPayload::dictionary();
   for (const auto& [language, pairs] : languages) {
-    auto space = StringsPayload::dictionary({{"zantorData", tableOf(pairs)}});
-    auto bundle = StringsPayload::dictionary({{"main", std::move(space)}});
-    strings.add(language, StringsPayload::dictionary({{"app", std::move(bundle)}}));
+    strings.add(language, payloadWith(tableOf(pairs)));
   }
   return strings;
 }

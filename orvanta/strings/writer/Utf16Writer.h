@@ -5,11 +5,12 @@
 #include <string_view>
 
 #include <orvanta/strings/ByteSink.h>
+#include <orvanta/text/Status.h>
 
 namespace orvanta::strings {
 
-/// A file that gets text as UTF-16, little-endian, behind a byte-order mark. Piece by piece through
-/// a small buffer: memory for all of a table would take longer to be had than the table to be made.
+/// Encodes UTF-8 as UTF-16, little-endian, with a byte-order mark, through a fixed-size buffer:
+/// allocating a whole table takes longer than encoding it (benchmark row "update").
 class Utf16Writer {
  public:
   /// `file` must outlive this.
@@ -18,12 +19,11 @@ class Utf16Writer {
   Utf16Writer(const Utf16Writer&) = delete;
   Utf16Writer& operator=(const Utf16Writer&) = delete;
 
-  /// Adds UTF-8, of which a character may spread over two calls.
+  /// Adds UTF-8. A character may be split between two calls.
   void append(std::string_view utf8);
 
-  /// Writes what is left over and tells whether all of it succeeded. Text that is not valid UTF-8
-  /// fails.
-  [[nodiscard]] FileOutcome finish();
+  /// Writes what is buffered. The first failure of any write; fails also for invalid UTF-8.
+  Status finish();
 
  private:
   struct Buffers;
@@ -31,7 +31,7 @@ class Utf16Writer {
   void flush();
 
   ByteSink& file_;
-  FileOutcome outcome_;
+  Status status_;
   std::unique_ptr<Buffers> buffers_;
   std::size_t size_ = 0;
 };
