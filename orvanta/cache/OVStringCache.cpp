@@ -63,7 +63,7 @@ StringsUpdate writeTable(CacheUpdate& update, const String& language, const Stri
   if (!replacement.status.ok()) {
     reason = "may not survive a loss of power: " + replacement.status.localizedDescription().str();
   } else if (path.isHidden()) {
-    reason = "never listed, because a part of its name begins with \".\""_s;
+    reason = "never listed, because a part of its name begins with a dot"_s;
   }
   return {language, StringsUpdate::Result::written, file, reason};
 }

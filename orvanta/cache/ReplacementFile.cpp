@@ -80,7 +80,7 @@ Replacement ReplacementFile::commit() {
   isInPlace_ = true;
   status = creation_.file->close();
   const Status synced = folder_.sync();
-  return {true, status.ok() ? synced : std::move(status)};
+  return {true, status.ok() ? synced : status};
 }
 
 void removeAbandonedReplacements(platform::Folder& folder) {
