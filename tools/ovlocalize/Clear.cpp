@@ -2,9 +2,12 @@
 
 #include <orvanta/cache/OVStringCache.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 
 namespace ovlocalize {
+
+namespace {
 
 int clear(const Settings& settings) {
   Settings listening = settings;
@@ -23,6 +26,13 @@ int clear(const Settings& settings) {
     throw Failure("not everything could be deleted from " + folder + ": " + problem);
   }
   return 0;
+}
+
+}  // namespace
+
+void addClear(CommandLine& commands) {
+  commands.add("clear", "Delete every downloaded table",
+               "  ovlocalize --cache ~/.cache/myapp clear", clear);
 }
 
 }  // namespace ovlocalize

@@ -1,14 +1,16 @@
 #include <iostream>
+#include <memory>
 #include <sstream>
 #include <vector>
 
 #include <orvanta/strings/reader/StringTableReader.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Escaping.h"
 #include "FileContents.h"
 #include "Json.h"
-#include "LanguageRequest.h"
+#include "Tables.h"
 
 namespace ovlocalize {
 
@@ -17,20 +19,11 @@ namespace {
 using orvanta::strings::StringTable;
 using orvanta::strings::TableProblem;
 
-std::string fileOf(const Settings& settings, const Source& source) {
-  if (source.language.empty()) {
-    return source.file;
-  }
-  installPlatform(settings);
-  const auto bundle =
-      orvanta::Localizer::sharedLocalizer().stringCache().bundleForLanguage(source.language);
-  const orvanta::String path =
-      bundle == nullptr ? orvanta::String() : bundle->pathForResource("Localizable", "strings");
-  if (path.isAbsent()) {
-    throw Failure("no table for the language " + source.language);
-  }
-  return path.str();
-}
+/// A table to print: a file, or the table of a language in the catalogue. One of the two is empty.
+struct Source {
+  std::string file;
+  std::string language;
+};
 
 // The problems of a table as they are reported, of which only the first are kept.
 class Problems {
@@ -77,10 +70,9 @@ void printLines(const StringTable& table) {
   }
 }
 
-}  // namespace
-
 int dump(const Settings& settings, const Source& source) {
-  const std::string file = fileOf(settings, source);
+  const std::string file =
+      source.language.empty() ? source.file : tableFileOf(settings, source.language);
   Problems problems;
   const auto table = orvanta::strings::readStringTable(
       contentsOf(file), [&](const TableProblem& problem) { problems.add(problem); });
@@ -90,6 +82,34 @@ int dump(const Settings& settings, const Source& source) {
   problems.print(nameOf(file));
   settings.json ? printJson(*table) : printLines(*table);
   return 0;
+}
+
+}  // namespace
+
+void addDump(CommandLine& commands) {
+  const auto source = std::make_shared<Source>();
+  CLI::App& command =
+      commands.add("dump",
+                   "Print the entries of a strings file in any of its forms; problems in it\n"
+                   "go to standard error as FILE:LINE:COLUMN: message",
+                   "  ovlocalize dump fr.lproj/Localizable.strings\n"
+                   "  ovlocalize --bundle demo/bundle --json dump --language fr",
+                   [source](const Settings& settings) { return dump(settings, *source); });
+  CLI::Option* file =
+      command.add_option("file", source->file, "The strings file, or - for standard input")
+          ->check(refuseEmpty)
+          ->type_name("FILE");
+  CLI::Option* language = command
+                              .add_option("--language", source->language,
+                                          "Instead of a file: the table of this language")
+                              ->check(refuseEmpty)
+                              ->type_name("ID")
+                              ->excludes(file);
+  command.parse_complete_callback([file, language] {
+    if (file->count() + language->count() == 0) {
+      throw CLI::ValidationError("dump", "a FILE or --language ID is required");
+    }
+  });
 }
 
 }  // namespace ovlocalize

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "CommandLine.h"
+#include "Commands.h"
 #include "Escaping.h"
 #include "Json.h"
 #include "LanguageRequest.h"
@@ -64,13 +66,18 @@ void printLines(const std::vector<Row>& rows) {
   }
 }
 
-}  // namespace
-
 int languages(const Settings& settings) {
   installPlatform(settings);
   const std::vector<Row> rows = catalogue();
   settings.json ? printJson(rows) : printLines(rows);
   return 0;
+}
+
+}  // namespace
+
+void addLanguages(CommandLine& commands) {
+  commands.add("languages", "List the languages that exist, shipped and downloaded",
+               "  ovlocalize --bundle demo/bundle languages", languages);
 }
 
 }  // namespace ovlocalize

@@ -1,7 +1,9 @@
 #include <iostream>
+#include <memory>
 
 #include <orvanta/cache/OVStringCache.h>
 
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Escaping.h"
 #include "FileContents.h"
@@ -14,7 +16,15 @@ namespace {
 
 using orvanta::StringsUpdate;
 
-std::string_view nameOf(StringsUpdate::Result result) {
+/// Where the tables are in a service's answer, and the file that holds the answer ("-": standard
+/// input).
+struct Download {
+  std::string bundleName;
+  std::string namespaceName;
+  std::string file;
+};
+
+std::string_view wordFor(StringsUpdate::Result result) {
   switch (result) {
     case StringsUpdate::Result::written:
       return "written";
@@ -28,18 +38,17 @@ std::string_view nameOf(StringsUpdate::Result result) {
 
 Json toJson(const StringsUpdate& update) {
   return {{"language", ovlocalize::toJson(update.language)},
-          {"result", nameOf(update.result)},
+          {"result", wordFor(update.result)},
           {"file", ovlocalize::toJson(update.file.path())},
           {"reason", ovlocalize::toJson(update.reason)}};
 }
 
 void printLine(const StringsUpdate& update) {
-  std::cout << oneLine(update.language) << '\t' << nameOf(update.result) << '\t'
+  std::cout << oneLine(update.language) << '\t' << wordFor(update.result) << '\t'
             << oneLine(update.reason.isPresent() ? update.reason : update.file.path()) << '\n';
 }
 
-}  // namespace
-
+// Fails when a language's table could not be written.
 int update(const Settings& settings, const Download& download) {
   Settings quiet = settings;
   // The report below says all that the log would, and more.
@@ -66,6 +75,28 @@ int update(const Settings& settings, const Download& download) {
     throw Failure("not every table could be written");
   }
   return 0;
+}
+
+}  // namespace
+
+void addUpdate(CommandLine& commands) {
+  const auto download = std::make_shared<Download>();
+  CLI::App& command =
+      commands.add("update",
+                   "Write downloaded tables into the cache. The file holds an object from\n"
+                   "language to payload; the table of a payload is under B.N.zantorData",
+                   "  ovlocalize update --bundle-name app --namespace main strings.json",
+                   [download](const Settings& settings) { return update(settings, *download); });
+  command.add_option("--bundle-name", download->bundleName, "B, the first level of a payload")
+      ->required()
+      ->type_name("B");
+  command.add_option("--namespace", download->namespaceName, "N, the second level of a payload")
+      ->required()
+      ->type_name("N");
+  command.add_option("file", download->file, "The JSON file, or - for standard input")
+      ->required()
+      ->check(refuseEmpty)
+      ->type_name("FILE.json");
 }
 
 }  // namespace ovlocalize
