@@ -14,7 +14,7 @@ std::vector<std::string> keysOf(std::string_view source) {
   collectSourceKeys(source, "file", libraryKeyFunctions(), uses);
   std::vector<std::string> keys;
   for (const KeyUse& use : uses) {
-    keys.push_back(use.key + '@' + std::to_string(use.line));
+    keys.emplace_back(use.key + '@' + std::to_string(use.line));
   }
   return keys;
 }
@@ -63,7 +63,7 @@ TEST(SourceKeys, OfAFormAreTextsOfLocalizedWidgetsAndDynamicProperties) {
                   "form", uses);
   std::vector<std::string> keys;
   for (const KeyUse& use : uses) {
-    keys.push_back(use.key + '@' + std::to_string(use.line));
+    keys.emplace_back(use.key + '@' + std::to_string(use.line));
   }
   EXPECT_THAT(keys, ElementsAreArray({"title@2", "a & b@3", "one@5", "two@5"}));
   EXPECT_ANY_THROW(collectFormKeys("<ui><widget>", "broken", uses));
