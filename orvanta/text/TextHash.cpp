@@ -10,7 +10,7 @@ namespace {
 
 // One step of the generator SplitMix64.
 std::uint64_t nextWord(std::uint64_t& state) noexcept {
-  state += 0x9E3779B97F4A7C15;
+  state += kOddWord;
   std::uint64_t word = state;
   word = (word ^ (word >> 30)) * 0xBF58476D1CE4E5B9;
   word = (word ^ (word >> 27)) * 0x94D049BB133111EB;

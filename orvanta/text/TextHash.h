@@ -72,6 +72,9 @@ inline std::uint64_t hashMedium(const char* bytes, std::size_t size,
               foldBlock(last - inner, words + 4) + foldBlock(last, words + 6));
 }
 
+/// 2^64 divided by the golden ratio, made odd: multiples of it differ in all their bits.
+inline constexpr std::uint64_t kOddWord = 0x9E3779B97F4A7C15;
+
 // At most 16 bytes, as two words that may overlap: no loop over single bytes.
 inline std::uint64_t hashShort(const char* bytes, std::size_t size,
                                const std::uint64_t* words) noexcept {
@@ -87,7 +90,8 @@ inline std::uint64_t hashShort(const char* bytes, std::size_t size,
     low = load<std::uint8_t>(bytes) << 16 | load<std::uint8_t>(bytes + size / 2) << 8 |
           load<std::uint8_t>(bytes + size - 1);
   }
-  return fold(low ^ words[0], (high ^ words[1]) + size);
+  // The length is added to the product: added to a factor, it could cancel out a difference there.
+  return fold(low ^ words[0], high ^ words[1]) + size * kOddWord;
 }
 
 /// More than 64 bytes.
