@@ -15,7 +15,8 @@ inline constexpr SymbolicTraits kItalicTrait = 1U << 0;
 inline constexpr SymbolicTraits kBoldTrait = 1U << 1;
 
 /// A face at a size. Immutable, shared, with identity; an absent font is a null pointer. Made by a
-/// `FontSystem` and usable on the user-interface thread.
+/// `FontSystem` and usable on the user-interface thread. The font that a toolkit's control gives of
+/// itself may also stand for whatever font the control has at the time.
 class ORVANTA_EXPORT Font {
  public:
   virtual ~Font();

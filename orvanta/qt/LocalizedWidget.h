@@ -1,32 +1,37 @@
 #pragma once
 
-class QWidget;
+#include <QEvent>
+
+#include <orvanta/controls/LocalizedControl.h>
+#include <orvanta/qt/Export.h>
 
 namespace orvanta::qt {
 
-/// What the three localized widgets have in common for those who load layouts.
-class LocalizedWidget {
+/// What the three localized widgets have in common.
+class ORVANTA_QT_EXPORT LocalizedWidget {
  public:
   LocalizedWidget(const LocalizedWidget&) = delete;
   LocalizedWidget& operator=(const LocalizedWidget&) = delete;
-  virtual ~LocalizedWidget() = default;
+  virtual ~LocalizedWidget();
 
-  /// Takes the designed state, text and all, and localizes the widget from now on. Only the first
-  /// call does anything.
-  void awakeFromNib() {
-    if (!awake_) {
-      awake_ = true;
-      awake();
-    }
-  }
+  /// Takes the designed state, text and all, and localizes the widget from now on. Later calls
+  /// refresh it, which shows the translation again where somebody has set another text.
+  void awakeFromNib();
 
  protected:
-  LocalizedWidget() = default;
-  /// For a widget that localizes itself without a layout.
-  void setAwake() { awake_ = true; }
+  LocalizedWidget();
+
+  [[nodiscard]] virtual LocalizedControl& control() const = 0;
   virtual void awake() = 0;
+  /// For a widget that localizes itself without a layout.
+  void setAwake();
+  /// To be called after the widget has handled an event: form code that is generated sets the keys
+  /// as texts again when Qt's translators have changed.
+  void afterEvent(QEvent::Type type);
 
  private:
+  void refresh() const;
+
   bool awake_ = false;
 };
 

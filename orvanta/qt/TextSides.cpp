@@ -1,31 +1,9 @@
-#include <QGuiApplication>
-
+#include <orvanta/qt/CurrentDirection.h>
 #include <orvanta/qt/TextSides.h>
 
 namespace orvanta::qt {
 
-namespace {
-
 using platform::TextAlignment;
-
-Qt::Alignment horizontalFor(TextAlignment side) {
-  switch (side) {
-    case TextAlignment::left:
-      return Qt::AlignLeft | Qt::AlignAbsolute;
-    case TextAlignment::right:
-      return Qt::AlignRight | Qt::AlignAbsolute;
-    case TextAlignment::center:
-      return Qt::AlignHCenter;
-    case TextAlignment::justified:
-      return Qt::AlignJustify;
-    default:
-      return horizontalFor(QGuiApplication::layoutDirection() == Qt::RightToLeft
-                               ? TextAlignment::right
-                               : TextAlignment::left);
-  }
-}
-
-}  // namespace
 
 TextAlignment textAlignmentOf(Qt::Alignment designed) {
   if (designed.testFlag(Qt::AlignHCenter)) {
@@ -42,8 +20,19 @@ TextAlignment textAlignmentOf(Qt::Alignment designed) {
              : TextAlignment::natural;
 }
 
-Qt::Alignment alignmentFor(TextAlignment side, Qt::Alignment vertical) {
-  return horizontalFor(side) | (vertical & Qt::AlignVertical_Mask);
+Qt::Alignment alignmentFor(TextAlignment side, const QWidget& widget) {
+  switch (side) {
+    case TextAlignment::left:
+      return Qt::AlignLeft | Qt::AlignAbsolute;
+    case TextAlignment::right:
+      return Qt::AlignRight | Qt::AlignAbsolute;
+    case TextAlignment::center:
+      return Qt::AlignHCenter;
+    case TextAlignment::justified:
+      return Qt::AlignJustify;
+    default:
+      return (textBeginsAtRight(widget) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
+  }
 }
 
 }  // namespace orvanta::qt

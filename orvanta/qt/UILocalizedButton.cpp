@@ -1,8 +1,7 @@
-#include <QEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
-#include <algorithm>
 
+#include <orvanta/qt/ButtonTitleLayout.h>
 #include <orvanta/qt/UILocalizedButton.h>
 #include <orvanta/qt/WidgetAdapter.h>
 
@@ -38,6 +37,7 @@ class ButtonAdapter final
 
 UILocalizedButton::UILocalizedButton(QWidget* parent)
     : QPushButton(parent),
+      titles_(*this),
       adapter_(std::make_shared<ButtonAdapter>(*this)),
       control_(std::make_unique<orvanta::UILocalizedButton>(adapter_)) {}
 
@@ -53,21 +53,11 @@ void UILocalizedButton::configure() {
 }
 
 QString UILocalizedButton::titleForState(ControlState state) const {
-  const auto title = titles_.find(state);
-  return fromMnemonics(title == titles_.end() ? text() : title->second);
+  return fromMnemonics(titles_.title(state));
 }
 
 void UILocalizedButton::setTitle(const QString& title, ControlState state) {
-  const QString written = withoutMnemonics(title);
-  if (state == platform::kControlStateNormal) {
-    if (written != text()) {
-      setText(written);
-    }
-    return;
-  }
-  QString& own = titles_[state];
-  if (own != written) {
-    own = written;
+  if (titles_.setTitle(state, withoutMnemonics(title))) {
     updateGeometry();
     update();
   }
@@ -95,28 +85,24 @@ ControlState UILocalizedButton::shownState() const {
 
 void UILocalizedButton::initStyleOption(QStyleOptionButton* option) const {
   QPushButton::initStyleOption(option);
-  const auto title = titles_.find(shownState());
-  if (title != titles_.end()) {
-    option->text = title->second;
-  }
+  option->text = titles_.title(shownState());
 }
 
 QSize UILocalizedButton::sizeHint() const {
-  const auto widthOf = [this](const QString& title) {
-    return fontMetrics().size(Qt::TextShowMnemonic, title).width();
-  };
-  const int normal = widthOf(text());
-  int widest = normal;
-  for (const auto& [state, title] : titles_) {
-    widest = title == text() ? widest : std::max(widest, widthOf(title));
+  QSize hint = QPushButton::sizeHint();
+  for (const auto& [state, title] : titles_.ownTitles()) {
+    if (title != text()) {
+      QStyleOptionButton option;
+      QPushButton::initStyleOption(&option);
+      option.text = title;
+      hint = hint.expandedTo(sizeHintWithTitle(*this, option));
+    }
   }
-  return QPushButton::sizeHint() + QSize(widest - normal, 0);
+  return hint;
 }
 
-// Styles draw icon and title in the middle of the place that they are given. At a side they are
-// given just the place that the two need.
 void UILocalizedButton::paintEvent(QPaintEvent* event) {
-  const Qt::Alignment side = alignmentFor(textAlignmentOf(titleAlignment_), {});
+  const Qt::Alignment side = alignmentFor(textAlignmentOf(titleAlignment_), *this);
   if (side.testFlag(Qt::AlignHCenter)) {
     QPushButton::paintEvent(event);
     return;
@@ -124,29 +110,15 @@ void UILocalizedButton::paintEvent(QPaintEvent* event) {
   QStylePainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
-  painter.drawControl(QStyle::CE_PushButtonBevel, option);
-  QStyleOptionButton label = option;
-  const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-  constexpr int kGapOfStyles = 4;
-  const int icon = option.icon.isNull() ? 0 : option.iconSize.width() + kGapOfStyles;
-  const int width = fontMetrics().size(Qt::TextShowMnemonic, option.text).width() + icon;
-  label.rect =
-      QStyle::alignedRect(Qt::LeftToRight, side | Qt::AlignVCenter,
-                          QSize(std::min(width, contents.width()), contents.height()), contents);
-  painter.drawControl(QStyle::CE_PushButtonLabel, label);
-  if (option.state.testFlag(QStyle::State_HasFocus)) {
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(option);
-    focus.rect = style()->subElementRect(QStyle::SE_PushButtonFocusRect, &option, this);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-  }
+  paintWithTitleAtSide(*this, option, side, painter);
 }
 
-void UILocalizedButton::changeEvent(QEvent* event) {
-  QPushButton::changeEvent(event);
-  if (event->type() == QEvent::LayoutDirectionChange) {
-    adapter_->titleLabel().renewSides();
-  }
+bool UILocalizedButton::event(QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool handled =
+      adapter_->titleLabel().handleEvent(type, [&] { return QPushButton::event(event); });
+  afterEvent(type);
+  return handled;
 }
 
 }  // namespace orvanta::qt

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QPushButton>
-#include <map>
 #include <memory>
 
 #include <orvanta/controls/UILocalizedButton.h>
+#include <orvanta/qt/ButtonTitles.h>
 #include <orvanta/qt/Export.h>
 #include <orvanta/qt/LocalizedWidget.h>
 
@@ -16,8 +16,8 @@ class ButtonAdapter;
 /// accessible name and description are keys too.
 ///
 /// It has a title for each state. A button that is in several at once shows the title of the first
-/// of: disabled, highlighted (held down), selected (checked), focused. `text` is the normal title.
-/// It is wide enough for every title.
+/// of: disabled, highlighted (held down), selected (checked), focused. `text` is the normal title;
+/// setting it sets the titles of all states. The button is wide enough for every title.
 ///
 /// Nothing happens before `awakeFromNib`, which form loaders call, or `configure`, for a button
 /// made in code.
@@ -34,27 +34,27 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
   void configure();
 
   [[nodiscard]] QString titleForState(platform::ControlState state) const;
+  /// A null title takes the state's own away: it has the normal one again.
   void setTitle(const QString& title, platform::ControlState state);
 
   [[nodiscard]] Qt::Alignment titleAlignment() const { return titleAlignment_; }
   void setTitleAlignment(Qt::Alignment alignment);
 
-  /// The rules that this button follows, and what it remembers. Lives as long as the button.
-  [[nodiscard]] orvanta::UILocalizedButton& control() const { return *control_; }
+  /// The button's rules and remembered state. Lives as long as the button.
+  [[nodiscard]] orvanta::UILocalizedButton& control() const override { return *control_; }
 
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   void awake() override;
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void initStyleOption(QStyleOptionButton* option) const override;
 
  private:
   [[nodiscard]] platform::ControlState shownState() const;
 
-  // Those of the other states than the normal one, written as Qt writes titles.
-  std::map<platform::ControlState, QString> titles_;
+  ButtonTitles titles_;
   Qt::Alignment titleAlignment_ = Qt::AlignCenter;
   std::shared_ptr<ButtonAdapter> adapter_;
   std::unique_ptr<orvanta::UILocalizedButton> control_;

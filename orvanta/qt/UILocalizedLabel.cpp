@@ -1,5 +1,3 @@
-#include <QEvent>
-
 #include <orvanta/qt/UILocalizedLabel.h>
 #include <orvanta/qt/WidgetAdapter.h>
 
@@ -20,7 +18,7 @@ class LabelAdapter final
   }
 
  private:
-  // A label reads "&" as a mark only where it leads to another widget.
+  // QLabel reads "&" as the mark of a mnemonic only where it has a buddy.
   bool marksMnemonics() const { return widget().buddy() != nullptr; }
 };
 
@@ -51,6 +49,12 @@ void UILocalizedLabel::awake() {
   control_->awakeFromNib();
 }
 
+void UILocalizedLabel::setBuddy(QWidget* buddy) {
+  const String text = adapter_->text();
+  QLabel::setBuddy(buddy);
+  adapter_->setText(text);
+}
+
 QSize UILocalizedLabel::sizeHint() const {
   const std::optional<QSize> hint = plainTextSize_.hintFor(*this);
   return hint ? *hint : QLabel::sizeHint();
@@ -61,11 +65,11 @@ QSize UILocalizedLabel::minimumSizeHint() const {
   return hint ? *hint : QLabel::minimumSizeHint();
 }
 
-void UILocalizedLabel::changeEvent(QEvent* event) {
-  QLabel::changeEvent(event);
-  if (event->type() == QEvent::LayoutDirectionChange) {
-    adapter_->renewSides();
-  }
+bool UILocalizedLabel::event(QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool handled = adapter_->handleEvent(type, [&] { return QLabel::event(event); });
+  afterEvent(type);
+  return handled;
 }
 
 }  // namespace orvanta::qt

@@ -30,15 +30,18 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
                                                                 QWidget* parent = nullptr,
                                                                 const QString& key = {});
 
-  /// The rules that this label follows, and what it remembers. Lives as long as the label.
-  [[nodiscard]] orvanta::UILocalizedLabel& control() const { return *control_; }
+  /// The label's rules and remembered state. Lives as long as the label.
+  [[nodiscard]] orvanta::UILocalizedLabel& control() const override { return *control_; }
+
+  /// As QLabel's. A "&" in the text stands for itself before and after.
+  void setBuddy(QWidget* buddy);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void awake() override;
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   std::shared_ptr<LabelAdapter> adapter_;

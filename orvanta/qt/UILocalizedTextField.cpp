@@ -1,5 +1,3 @@
-#include <QEvent>
-
 #include <orvanta/qt/UILocalizedTextField.h>
 #include <orvanta/qt/WidgetAdapter.h>
 
@@ -30,11 +28,11 @@ void UILocalizedTextField::awake() {
   control_->awakeFromNib();
 }
 
-void UILocalizedTextField::changeEvent(QEvent* event) {
-  QLineEdit::changeEvent(event);
-  if (event->type() == QEvent::LayoutDirectionChange) {
-    adapter_->renewSides();
-  }
+bool UILocalizedTextField::event(QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool handled = adapter_->handleEvent(type, [&] { return QLineEdit::event(event); });
+  afterEvent(type);
+  return handled;
 }
 
 }  // namespace orvanta::qt

@@ -23,12 +23,12 @@ class ORVANTA_QT_EXPORT UILocalizedTextField : public QLineEdit, public Localize
   explicit UILocalizedTextField(QWidget* parent = nullptr);
   ~UILocalizedTextField() override;
 
-  /// The rules that this field follows, and what it remembers. Lives as long as the field.
-  [[nodiscard]] orvanta::UILocalizedTextField& control() const { return *control_; }
+  /// The field's rules and remembered state. Lives as long as the field.
+  [[nodiscard]] orvanta::UILocalizedTextField& control() const override { return *control_; }
 
  protected:
   void awake() override;
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   std::shared_ptr<TextFieldAdapter> adapter_;

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QFont>
+#include <QEvent>
 #include <QWidget>
 #include <memory>
 
 #include <orvanta/platform/Controls.h>
 #include <orvanta/qt/Text.h>
 #include <orvanta/qt/TextSides.h>
-#include <orvanta/qt/platform/QtFonts.h>
+#include <orvanta/qt/WidgetFont.h>
 
 /// What the adapters of the three widgets are put together from. Each layer adds what one of the
 /// library's interfaces asks for.
@@ -55,38 +55,42 @@ class AccessibleAdapter : public Base {
 template <typename Base, auto kAlignment, auto kSetAlignment>
 class StyleAdapter : public Base {
  public:
-  using Base::Base;
+  template <typename Widget>
+  explicit StyleAdapter(Widget& widget) : Base(widget), font_(widget) {}
 
-  [[nodiscard]] std::shared_ptr<const platform::Font> font() const override {
-    QFont font = this->widget().font();
-    // What is inherited from a parent must not come back as the widget's own.
-    if (!this->widget().testAttribute(Qt::WA_SetFont)) {
-      font.setResolveMask(0);
-    }
-    return fontHandle(font);
-  }
-  // Nothing to do when the widget still has the font that was set last: Qt would look up all that
-  // the widget inherits before it found that out.
-  void setFont(const std::shared_ptr<const platform::Font>& font) override {
-    if (font == font_ && this->widget().font().isCopyOf(shown_)) {
-      return;
-    }
-    this->widget().setFont(toQFont(font));
-    font_ = font;
-    shown_ = this->widget().font();
-  }
+  [[nodiscard]] std::shared_ptr<const platform::Font> font() const override { return font_.font(); }
+  void setFont(const std::shared_ptr<const platform::Font>& font) override { font_.setFont(font); }
   [[nodiscard]] platform::TextAlignment textAlignment() const override {
     return sides_.side((this->widget().*kAlignment)());
   }
   void setTextAlignment(platform::TextAlignment alignment) override {
     const Qt::Alignment shown = (this->widget().*kAlignment)();
-    align(shown, sides_.set(alignment, shown));
+    align(shown, sides_.set(alignment, shown, this->widget()));
   }
 
-  /// To be called when the application's direction has changed.
-  void renewSides() {
-    const Qt::Alignment shown = (this->widget().*kAlignment)();
-    align(shown, sides_.renewed(shown));
+  /// Has the widget handle an event by `handle`, and does what the change that it tells of asks
+  /// for.
+  template <typename Handle>
+  bool handleEvent(QEvent::Type type, const Handle& handle) {
+    switch (type) {
+      case QEvent::Polish:
+      case QEvent::StyleChange:
+      case QEvent::FontChange: {
+        font_.beforeEvent(type);
+        const bool handled = handle();
+        font_.afterEvent(type);
+        return handled;
+      }
+      case QEvent::LayoutDirectionChange:
+      case QEvent::ParentChange: {
+        const bool handled = handle();
+        const Qt::Alignment shown = (this->widget().*kAlignment)();
+        align(shown, sides_.renewed(shown, this->widget()));
+        return handled;
+      }
+      default:
+        return handle();
+    }
   }
 
  private:
@@ -98,8 +102,7 @@ class StyleAdapter : public Base {
   }
 
   SideMemory sides_;
-  std::shared_ptr<const platform::Font> font_;
-  QFont shown_;
+  WidgetFont font_;
 };
 
 }  // namespace orvanta::qt

@@ -1,5 +1,6 @@
 #include <QFontInfo>
 #include <QPainterPath>
+#include <QProcess>
 #include <QRawFont>
 #include <QTest>
 #include <atomic>
@@ -9,13 +10,15 @@
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/qt/platform/QtFonts.h>
+#include <orvanta/standard/StandardFonts.h>
 
 #include "Support.h"
+#include "tests/support/TestApplication.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
-using orvanta::platform::Platform;
+using namespace orvanta::platform;
 namespace utilities = orvanta::localizationUtilities;
 
 QPainterPath outlineOf(const QFont& font, QChar letter) {
@@ -65,6 +68,46 @@ class PlatformTest : public QObject {
     QVERIFY(!regularOutline.isEmpty());
     QVERIFY(regularOutline != boldOutline);
     QVERIFY(regularOutline != outlineOf(QFont(u"DejaVu Sans"_s, 20), meem));
+
+    const std::string path = Platform::current()
+                                 .bundles->bundleForLibrary()
+                                 ->pathForResource("CorbetSansKufiArabic-Bold", "ttf")
+                                 .str();
+    const std::string file = orvanta::test::contentsOf(path);
+    QVERIFY(!file.empty());
+    QVERIFY2(!Platform::current().fonts->registerFontData(std::as_bytes(std::span(file))),
+             "registered already");
+  }
+
+  void givesFontsTheirTraits() {
+    const auto plain = orvanta::qt::fontHandle(QFont(u"DejaVu Sans"_s, 12));
+    for (const SymbolicTraits traits : {0U, kBoldTrait, kItalicTrait, kBoldTrait | kItalicTrait}) {
+      const auto styled = plain->fontWithSymbolicTraits(traits);
+      QCOMPARE(styled->symbolicTraits(), traits);
+      QCOMPARE(styled->fontWithSymbolicTraits(0)->symbolicTraits(), 0U);
+      const QFont font = orvanta::qt::toQFont(styled);
+      QCOMPARE(font.bold(), (traits & kBoldTrait) != 0);
+      QCOMPARE(font.italic(), (traits & kItalicTrait) != 0);
+    }
+    // A font that is not Qt's.
+    for (const double weight : {kFontWeightRegular, kFontWeightBold}) {
+      const auto other = orvanta::standard::makeStandardFonts()->systemFontOfSize(13, weight);
+      const QFont font = orvanta::qt::toQFont(
+          other->fontWithSymbolicTraits(other->symbolicTraits() | kItalicTrait));
+      QCOMPARE(font.family(), u"System"_s);
+      QCOMPARE(font.pointSizeF(), 13.0);
+      QCOMPARE(font.bold(), weight == kFontWeightBold);
+      QVERIFY(font.italic());
+    }
+  }
+
+  // Each in a process of its own.
+  void servesEveryApplicationOfAProcess() {
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {u"--two-applications"_s}),
+             0);
+  }
+  void warnsOnceWhereNoQtPlatformIsMade() {
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {u"--no-platform"_s}), 0);
   }
 
   void knowsFontsByExactNameAlone() {

@@ -16,6 +16,8 @@ namespace orvanta::test {
 [[nodiscard]] std::unique_ptr<QObject> makePlatformTest();
 [[nodiscard]] std::unique_ptr<QObject> makeWidgetsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeRepaintTest();
+[[nodiscard]] std::unique_ptr<QObject> makeButtonsTest();
+[[nodiscard]] std::unique_ptr<QObject> makeFontsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();
 
 /// Whether a step ran that was queued before there was an application object.

@@ -1,21 +1,59 @@
 #include <QApplication>
 #include <QFont>
+#include <QFontInfo>
 #include <QTest>
 
+#include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/qt/UILocalizedLabel.h>
+#include <orvanta/qt/platform/QtFonts.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 
 #include "Support.h"
 #include "tests/support/TestApplication.h"
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const orvanta::test::ScratchFolder caches;
+namespace {
+
+void installPlatform(const orvanta::test::ScratchFolder& caches) {
   orvanta::standard::StandardOptions options;
   options.mainBundlePath = DEMO_BUNDLE;
   options.cachesPath = caches.path();
   options.deviceLanguages = {{"en"}};
   orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
+}
+
+// Whether the Arabic face is there, in an application object that comes and goes.
+bool applicationHasArabicFace(int& argc, char** argv) {
+  const QApplication application(argc, argv);
+  const auto face = orvanta::localizationUtilities::ArabicFontWithSize(20, true);
+  return QFontInfo(orvanta::qt::toQFont(face)).family() ==
+         QStringLiteral("CorbetSansKufiArabic-Bold");
+}
+
+bool warnsOnce(int& argc, char** argv) {
+  static int warnings = 0;
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+    warnings += text.contains(QLatin1String("makeQtPlatform")) ? 1 : 0;
+  });
+  const QApplication application(argc, argv);
+  const std::unique_ptr<QWidget> first(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame({}));
+  const std::unique_ptr<QWidget> second(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame({}));
+  return warnings == 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QByteArray task = argc > 1 ? argv[1] : "";
+  if (task == "--no-platform") {
+    return warnsOnce(argc, argv) ? 0 : 1;
+  }
+  const orvanta::test::ScratchFolder caches;
+  installPlatform(caches);
+  if (task == "--two-applications") {
+    return applicationHasArabicFace(argc, argv) && applicationHasArabicFace(argc, argv) ? 0 : 1;
+  }
   orvanta::platform::Platform::current().mainQueue->dispatchAsync(
       [] { orvanta::test::earlyStepRan = true; });
 
@@ -24,6 +62,7 @@ int main(int argc, char** argv) {
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
   int failures = 0;
   for (const auto& make : {orvanta::test::makePlatformTest, orvanta::test::makeWidgetsTest,
+                           orvanta::test::makeFontsTest, orvanta::test::makeButtonsTest,
                            orvanta::test::makeRepaintTest, orvanta::test::makeOrderWindowTest}) {
     failures += QTest::qExec(make().get(), QStringList(QString::fromLocal8Bit(argv[0])));
   }

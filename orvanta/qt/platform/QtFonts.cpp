@@ -1,11 +1,11 @@
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHash>
+#include <QList>
 #include <optional>
-#include <utility>
 
 #include <orvanta/qt/Text.h>
+#include <orvanta/qt/platform/QtFont.h>
 #include <orvanta/qt/platform/QtFonts.h>
 #include <orvanta/standard/TrueTypeFace.h>
 
@@ -15,72 +15,9 @@ namespace {
 
 using platform::Font;
 using platform::FontWeight;
-using platform::SymbolicTraits;
 using FontPointer = std::shared_ptr<const Font>;
 
-QString withoutBlanks(QString text) {
-  return text.remove(QLatin1Char(' '));
-}
-
-QString postScriptNameOf(const QString& family, const QString& style) {
-  const QString name = withoutBlanks(family);
-  const bool regular = style.isEmpty() || style == QLatin1String("Regular") ||
-                       style == QLatin1String("Book") || style == QLatin1String("Normal");
-  return regular ? name : name + QLatin1Char('-') + withoutBlanks(style);
-}
-
-QString styleNameOf(const QFont& font) {
-  if (!font.styleName().isEmpty()) {
-    return font.styleName();
-  }
-  const bool bold = font.bold();
-  const bool italic = font.italic();
-  return QLatin1String(bold && italic ? "Bold Italic" : bold ? "Bold" : italic ? "Italic" : "");
-}
-
-class QtFont final : public Font {
- public:
-  // An absent name: the one that Qt's family and style make.
-  explicit QtFont(const QFont& font, String name = {}) : font_(font), name_(std::move(name)) {}
-
-  const QFont& font() const { return font_; }
-
-  String fontName() const override {
-    return name_.isPresent()
-               ? name_
-               : fromQString(postScriptNameOf(QFontInfo(font_).family(), styleNameOf(font_)));
-  }
-
-  // A font that was sized in pixels has no size in points but the one that it comes to.
-  double pointSize() const override {
-    return font_.pointSizeF() > 0 ? font_.pointSizeF() : QFontInfo(font_).pointSizeF();
-  }
-
-  SymbolicTraits symbolicTraits() const override {
-    return (font_.bold() ? platform::kBoldTrait : 0U) |
-           (font_.italic() ? platform::kItalicTrait : 0U);
-  }
-
-  FontPointer fontWithSize(double size) const override {
-    QFont sized = font_;
-    sized.setPointSizeF(size);
-    return std::make_shared<QtFont>(sized, name_);
-  }
-
-  FontPointer fontWithSymbolicTraits(SymbolicTraits traits) const override {
-    QFont styled = font_;
-    styled.setStyleName(QString());
-    styled.setBold((traits & platform::kBoldTrait) != 0);
-    styled.setItalic((traits & platform::kItalicTrait) != 0);
-    return std::make_shared<QtFont>(styled, name_);
-  }
-
- private:
-  QFont font_;
-  String name_;
-};
-
-// The device's scale is finer than what faces come in.
+// The library's scale of weights is finer than the weights that Qt names.
 QFont::Weight qtWeight(FontWeight weight) {
   struct Step {
     FontWeight below;
@@ -96,6 +33,32 @@ QFont::Weight qtWeight(FontWeight weight) {
     }
   }
   return QFont::Black;
+}
+
+// The files of all faces that were registered in this process. Never freed.
+QList<QByteArray>& registeredFiles() {
+  static auto& files = *new QList<QByteArray>();
+  return files;
+}
+
+// Qt forgets an application's fonts with the application object.
+void registerAgainForNewApplication() {
+  for (const QByteArray& file : registeredFiles()) {
+    QFontDatabase::addApplicationFontFromData(file);
+  }
+}
+
+// The families in the file; none when Qt cannot read it.
+QStringList addForEveryApplication(const QByteArray& file) {
+  const QStringList families =
+      QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(file));
+  if (!families.isEmpty()) {
+    if (registeredFiles().isEmpty()) {
+      qAddPreRoutine(registerAgainForNewApplication);
+    }
+    registeredFiles().append(file);
+  }
+  return families;
 }
 
 class QtFonts final : public platform::FontSystem {
@@ -130,16 +93,15 @@ class QtFonts final : public platform::FontSystem {
     if (registered_.contains(name) || installedFont(name, 1)) {
       return false;
     }
-    const int id = QFontDatabase::addApplicationFontFromData(
+    const QStringList families = addForEveryApplication(
         QByteArray(reinterpret_cast<const char*>(data.data()), qsizetype(data.size())));
-    const QStringList families = QFontDatabase::applicationFontFamilies(id);
     if (families.isEmpty()) {
       return false;
     }
     QFont font;
-    // Letters that the face lacks are drawn in the system's.
+    // Letters that the face lacks are drawn in the application's font.
     font.setFamilies(QStringList(families.front()) + QGuiApplication::font().families());
-    // Without these Qt takes the face for a regular one, whatever it looks like.
+    // Qt takes a face for regular and upright unless told otherwise, whatever it looks like.
     font.setBold((face->traits & platform::kBoldTrait) != 0);
     font.setItalic((face->traits & platform::kItalicTrait) != 0);
     registered_.insert(name, font);
@@ -154,7 +116,7 @@ class QtFonts final : public platform::FontSystem {
 
   static std::optional<QFont> installedFont(const QString& name, double size) {
     for (const QString& family : QFontDatabase::families()) {
-      if (!name.startsWith(withoutBlanks(family))) {
+      if (!name.startsWith(QString(family).remove(QLatin1Char(' ')))) {
         continue;
       }
       for (const QString& style : QFontDatabase::styles(family)) {
@@ -171,24 +133,16 @@ class QtFonts final : public platform::FontSystem {
 
 }  // namespace
 
-// Most widgets of a window share one font, and then one handle to it.
 FontPointer fontHandle(const QFont& font) {
-  thread_local std::weak_ptr<const QtFont> lately;
-  std::shared_ptr<const QtFont> handle = lately.lock();
-  if (handle == nullptr || !handle->font().isCopyOf(font) ||
-      handle->font().resolveMask() != font.resolveMask()) {
-    handle = std::make_shared<const QtFont>(font);
-    lately = handle;
-  }
-  return handle;
+  return std::make_shared<const QtFont>(font);
 }
 
 QFont toQFont(const FontPointer& font) {
   if (font == nullptr) {
     return {};
   }
-  if (const auto* own = dynamic_cast<const QtFont*>(font.get())) {
-    return own->font();
+  if (const auto* qtFont = dynamic_cast<const QtFont*>(font.get())) {
+    return qtFont->font();
   }
   QFont similar(toQString(font->fontName()));
   similar.setPointSizeF(font->pointSize());

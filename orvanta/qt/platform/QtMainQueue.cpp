@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <orvanta/qt/platform/QtMainQueue.h>
+#include <orvanta/qt/platform/QtPlatformCheck.h>
 #include <orvanta/standard/RunLoop.h>
 
 namespace orvanta::qt {
@@ -13,17 +14,17 @@ namespace {
 
 using standard::RunLoop;
 
-// Runs what a run loop has queued, in turns of Qt's event loop. Never freed: threads may ask for a
-// turn until the process ends.
+// Runs the steps that are queued in a run loop from Qt's event loop. Never freed: other threads may
+// queue steps until the process ends.
 class Pump final : public QObject {
  public:
   explicit Pump(std::shared_ptr<RunLoop> loop) : loop_(std::move(loop)) {
-    loop_->setWakeUpHook([this] { askForTurn(); });
+    loop_->setWakeUpHook([this] { postEvent(); });
   }
 
-  // Every step asks for a turn of its own, so that a step that opens a dialog, with an event loop
-  // inside the step, does not hold up the steps behind it.
-  void askForTurn() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
+  // One event for each step: a step that opens a dialog runs an event loop of its own, in which the
+  // steps behind it must go on.
+  void postEvent() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
 
   bool event(QEvent* event) override {
     if (event->type() != QEvent::User) {
@@ -43,27 +44,25 @@ std::vector<Pump*>& pumps() {
   return all;
 }
 
-// An application object that comes into being finds the turns that were asked for before it, or
-// after the one before it, forgotten.
-void askForTurns() {
+// Qt drops events that were posted before there was an application object, or after the last one.
+void postEventsForNewApplication() {
   for (Pump* pump : pumps()) {
-    pump->askForTurn();
+    pump->postEvent();
   }
 }
 
 }  // namespace
 
 std::shared_ptr<platform::MainQueue> makeQtMainQueue() {
-  // The process's own loop lets waiting threads go when the process ends.
+  noteQtPlatform();
+  // Threads that wait for the process's own loop are released when the process ends.
   const std::shared_ptr<RunLoop> loop =
       RunLoop::main()->isMainThread() ? RunLoop::main() : RunLoop::make();
-  static const bool hooked = [] {
-    qAddPreRoutine(askForTurns);
-    return true;
-  }();
-  static_cast<void>(hooked);
+  if (pumps().empty()) {
+    qAddPreRoutine(postEventsForNewApplication);
+  }
   pumps().push_back(new Pump(loop));
-  pumps().back()->askForTurn();
+  pumps().back()->postEvent();
   return loop;
 }
 

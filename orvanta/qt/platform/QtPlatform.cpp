@@ -9,12 +9,13 @@
 #include <orvanta/qt/platform/QtFonts.h>
 #include <orvanta/qt/platform/QtMainQueue.h>
 #include <orvanta/qt/platform/QtPlatform.h>
+#include <orvanta/qt/platform/QtPlatformCheck.h>
 
 namespace orvanta::qt {
 
 namespace {
 
-// Where Qt knows no version of the system itself, as on Linux, the kernel's.
+// On systems whose version Qt does not know, as on Linux, the kernel's.
 platform::OperatingSystemVersion systemVersion() {
   const QOperatingSystemVersion system = QOperatingSystemVersion::current();
   const QVersionNumber version = system.majorVersion() >= 0
@@ -23,7 +24,7 @@ platform::OperatingSystemVersion systemVersion() {
   return {version.majorVersion(), version.minorVersion(), version.microVersion()};
 }
 
-// The locales C and POSIX name no language.
+// Without the locales C and POSIX, which name no language.
 std::vector<std::string> deviceLanguages() {
   QStringList languages = QLocale::system().uiLanguages();
   languages.removeAll(QStringLiteral("C"));
@@ -40,6 +41,7 @@ std::vector<std::string> deviceLanguages() {
 
 platform::Platform makeQtPlatform(standard::StandardOptions options,
                                   platform::Platform replacements) {
+  noteQtPlatform();
   if (!options.deviceLanguages) {
     options.deviceLanguages = deviceLanguages();
   }
