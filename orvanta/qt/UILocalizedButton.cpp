@@ -2,6 +2,7 @@
 #include <QStylePainter>
 
 #include <orvanta/qt/ButtonTitleLayout.h>
+#include <orvanta/qt/ButtonTitles.h>
 #include <orvanta/qt/UILocalizedButton.h>
 #include <orvanta/qt/WidgetAdapter.h>
 
@@ -21,7 +22,9 @@ class ButtonAdapter final
     : public AccessibleAdapter<AdapterOf<platform::Button, UILocalizedButton>> {
  public:
   explicit ButtonAdapter(UILocalizedButton& button)
-      : AccessibleAdapter(button), titleStyle_(button) {}
+      : AccessibleAdapter(button), titles_(button), titleStyle_(button) {}
+
+  ButtonTitles& titles() { return titles_; }
 
   String titleForState(ControlState state) const override {
     return fromQString(widget().titleForState(state));
@@ -32,12 +35,12 @@ class ButtonAdapter final
   TitleStyle& titleLabel() override { return titleStyle_; }
 
  private:
+  ButtonTitles titles_;
   TitleStyle titleStyle_;
 };
 
 UILocalizedButton::UILocalizedButton(QWidget* parent)
     : QPushButton(parent),
-      titles_(*this),
       adapter_(std::make_shared<ButtonAdapter>(*this)),
       control_(std::make_unique<orvanta::UILocalizedButton>(adapter_)) {}
 
@@ -53,11 +56,11 @@ void UILocalizedButton::configure() {
 }
 
 QString UILocalizedButton::titleForState(ControlState state) const {
-  return fromMnemonics(titles_.title(state));
+  return fromMnemonics(adapter_->titles().title(state));
 }
 
 void UILocalizedButton::setTitle(const QString& title, ControlState state) {
-  if (titles_.setTitle(state, withoutMnemonics(title))) {
+  if (adapter_->titles().setTitle(state, withoutMnemonics(title))) {
     updateGeometry();
     update();
   }
@@ -85,12 +88,12 @@ ControlState UILocalizedButton::shownState() const {
 
 void UILocalizedButton::initStyleOption(QStyleOptionButton* option) const {
   QPushButton::initStyleOption(option);
-  option->text = titles_.title(shownState());
+  option->text = adapter_->titles().title(shownState());
 }
 
 QSize UILocalizedButton::sizeHint() const {
   QSize hint = QPushButton::sizeHint();
-  for (const auto& [state, title] : titles_.ownTitles()) {
+  for (const auto& [state, title] : adapter_->titles().ownTitles()) {
     if (title != text()) {
       QStyleOptionButton option;
       QPushButton::initStyleOption(&option);

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include <orvanta/controls/UILocalizedButton.h>
-#include <orvanta/qt/ButtonTitles.h>
 #include <orvanta/qt/Export.h>
 #include <orvanta/qt/LocalizedWidget.h>
 
@@ -54,7 +53,6 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
  private:
   [[nodiscard]] platform::ControlState shownState() const;
 
-  ButtonTitles titles_;
   Qt::Alignment titleAlignment_ = Qt::AlignCenter;
   std::shared_ptr<ButtonAdapter> adapter_;
   std::unique_ptr<orvanta::UILocalizedButton> control_;
