@@ -145,8 +145,9 @@ TEST(DependencyLaw, ForwardDeclarationsAndFriendsPointDownwards) {
       if (found == sources.definitions.end()) {
         continue;  // Not a type of this library.
       }
-      EXPECT_TRUE(std::any_of(found->second.begin(), found->second.end(),
-                              [&](const std::string& other) { return mayDependOn(file, other); }))
+      EXPECT_TRUE(std::any_of(
+          found->second.begin(), found->second.end(),
+          [&, &from = file](const std::string& other) { return mayDependOn(from, other); }))
           << file << " declares " << name << " of " << found->second.front();
     }
   }

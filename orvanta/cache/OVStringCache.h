@@ -8,6 +8,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/platform/Bundle.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
 #include <orvanta/text/StringsPayload.h>
@@ -56,7 +57,7 @@ class ORVANTA_EXPORT OVStringCache {
   ~OVStringCache();
 
   /// The cache folder, found and made at the first read; absent when the platform has no caches.
-  [[nodiscard]] const URL& cacheDirectoryURL();
+  [[nodiscard]] const URL& cacheDirectoryURL() ORVANTA_LIFETIME_BOUND;
   void setCacheDirectoryURL(URL url);
 
   /// The languages shipped in the main bundle, under their folders' names. Built at every call.

@@ -10,6 +10,7 @@
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/NotificationCenter.h>
 #include <orvanta/platform/TextAlignment.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 
 namespace orvanta {
@@ -36,11 +37,13 @@ class ORVANTA_EXPORT LocalizedControl {
   virtual ~LocalizedControl();
 
   /// The key of the text; absent until the designed text proves to be a key.
-  [[nodiscard]] const String& originalKey() const noexcept { return originalKey_; }
+  [[nodiscard]] const String& originalKey() const noexcept ORVANTA_LIFETIME_BOUND {
+    return originalKey_;
+  }
   void setOriginalKey(String key) noexcept { originalKey_ = std::move(key); }
 
   /// The key of the spoken label; remembered with `originalKey`, possibly as absent.
-  [[nodiscard]] const String& originalAccessibilityLabel() const noexcept {
+  [[nodiscard]] const String& originalAccessibilityLabel() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalAccessibilityLabel_;
   }
   void setOriginalAccessibilityLabel(String key) noexcept {
@@ -48,7 +51,7 @@ class ORVANTA_EXPORT LocalizedControl {
   }
 
   /// The key of the spoken hint; remembered with `originalKey`, possibly as absent.
-  [[nodiscard]] const String& originalAccessibilityHint() const noexcept {
+  [[nodiscard]] const String& originalAccessibilityHint() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalAccessibilityHint_;
   }
   void setOriginalAccessibilityHint(String key) noexcept {

@@ -6,6 +6,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/controls/LocalizedControl.h>
 #include <orvanta/platform/Controls.h>
+#include <orvanta/text/LifetimeBound.h>
 
 namespace orvanta {
 
@@ -34,7 +35,7 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
 
   /// Normal, disabled, focused, highlighted, selected, unless the application sets another list;
   /// an absent one brings this back.
-  [[nodiscard]] const ControlStates& controlStates();
+  [[nodiscard]] const ControlStates& controlStates() ORVANTA_LIFETIME_BOUND;
   void setControlStates(ControlStates states) noexcept { controlStates_ = std::move(states); }
 
   /// Sets the text of the key, looked up once, as the title of each of the states.

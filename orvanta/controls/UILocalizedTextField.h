@@ -5,6 +5,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/controls/LocalizedControl.h>
 #include <orvanta/platform/Controls.h>
+#include <orvanta/text/LifetimeBound.h>
 
 namespace orvanta {
 
@@ -31,7 +32,9 @@ class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
   void refreshStringsForLocale(const String& locale) { refreshOnMainThread(locale); }
 
   /// The designed placeholder; remembered with `originalKey`.
-  [[nodiscard]] const String& originalPlaceholder() const noexcept { return originalPlaceholder_; }
+  [[nodiscard]] const String& originalPlaceholder() const noexcept ORVANTA_LIFETIME_BOUND {
+    return originalPlaceholder_;
+  }
   void setOriginalPlaceholder(String placeholder) noexcept {
     originalPlaceholder_ = std::move(placeholder);
   }

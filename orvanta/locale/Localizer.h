@@ -10,6 +10,7 @@
 #include <orvanta/platform/AffineTransform.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/Calendar.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
 
@@ -86,7 +87,9 @@ class ORVANTA_EXPORT Localizer {
   }
 
   /// The current identifiers, `preferredLocales` itself.
-  [[nodiscard]] const StringList& currentLocales() const noexcept { return preferredLocales_; }
+  [[nodiscard]] const StringList& currentLocales() const noexcept ORVANTA_LIFETIME_BOUND {
+    return preferredLocales_;
+  }
 
   /// The current identifiers with "," between them; "en" when there is no list, empty for an
   /// empty one.
@@ -148,20 +151,26 @@ class ORVANTA_EXPORT Localizer {
   void setRightToLeftOrientation(bool rightToLeft) noexcept;
 
   /// What `updatePreferredLocales` made of its last request; for the application.
-  [[nodiscard]] const StringList& originalLocales() const noexcept { return originalLocales_; }
+  [[nodiscard]] const StringList& originalLocales() const noexcept ORVANTA_LIFETIME_BOUND {
+    return originalLocales_;
+  }
   void setOriginalLocales(StringList locales) noexcept;
 
   /// The adopted identifiers, best first.
-  [[nodiscard]] const StringList& preferredLocales() const noexcept { return preferredLocales_; }
+  [[nodiscard]] const StringList& preferredLocales() const noexcept ORVANTA_LIFETIME_BOUND {
+    return preferredLocales_;
+  }
   void setPreferredLocales(StringList locales) noexcept;
 
   /// Where strings come from; absent when the first identifier has no bundle.
-  [[nodiscard]] const std::shared_ptr<platform::Bundle>& currentLanguageBundle() const noexcept {
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& currentLanguageBundle() const noexcept
+      ORVANTA_LIFETIME_BOUND {
     return currentLanguageBundle_;
   }
   void setCurrentLanguageBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
-  [[nodiscard]] const std::shared_ptr<platform::Bundle>& mainBundle() const noexcept {
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& mainBundle() const noexcept
+      ORVANTA_LIFETIME_BOUND {
     return mainBundle_;
   }
   void setMainBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
@@ -173,11 +182,11 @@ class ORVANTA_EXPORT Localizer {
   void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
 
   /// The regional fallbacks; an absent table makes the next read build the built-in one.
-  [[nodiscard]] const FallbackTable& fallbackTable() const;
+  [[nodiscard]] const FallbackTable& fallbackTable() const ORVANTA_LIFETIME_BOUND;
   void setFallbackTable(FallbackTable table) noexcept;
 
   /// The catalogue and its cache, made at the first read.
-  [[nodiscard]] OVStringCache& stringCache() const;
+  [[nodiscard]] OVStringCache& stringCache() const ORVANTA_LIFETIME_BOUND;
   void setStringCache(std::shared_ptr<OVStringCache> cache) noexcept;
 
  private:

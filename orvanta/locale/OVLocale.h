@@ -7,6 +7,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/text/Dictionary.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
 
@@ -50,25 +51,34 @@ class ORVANTA_EXPORT OVLocale {
 
   /// The application's own code: the folder's name without its extension ("fr-CA" for
   /// ".../fr-CA.lproj").
-  [[nodiscard]] const String& orvantaLocaleName() const noexcept { return orvantaLocaleName_; }
+  [[nodiscard]] const String& orvantaLocaleName() const noexcept ORVANTA_LIFETIME_BOUND {
+    return orvantaLocaleName_;
+  }
   void setOrvantaLocaleName(String name) noexcept { orvantaLocaleName_ = std::move(name); }
 
   /// The platform's identifier, under which the catalogue keeps a downloaded language. The very
   /// object of `orvantaLocaleName` when the table names none.
-  [[nodiscard]] const String& appleLocaleName() const noexcept { return appleLocaleName_; }
+  [[nodiscard]] const String& appleLocaleName() const noexcept ORVANTA_LIFETIME_BOUND {
+    return appleLocaleName_;
+  }
   void setAppleLocaleName(String name) noexcept { appleLocaleName_ = std::move(name); }
 
   /// The version of the table, as text. The text of `OVOrvantaLanguageVersionKey` itself when the
   /// table names none.
-  [[nodiscard]] const String& version() const noexcept { return version_; }
+  [[nodiscard]] const String& version() const noexcept ORVANTA_LIFETIME_BOUND { return version_; }
 
   /// Where the language's strings are.
-  [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const noexcept { return bundle_; }
+  [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const noexcept
+      ORVANTA_LIFETIME_BOUND {
+    return bundle_;
+  }
   void setBundle(std::shared_ptr<platform::Bundle> bundle) noexcept { bundle_ = std::move(bundle); }
 
   /// The identifiers that count as this same language, in the order written and untrimmed; absent
   /// when the table names none. For the application: the matching does not read it.
-  [[nodiscard]] const StringList& fallbackLocales() const noexcept { return fallbackLocales_; }
+  [[nodiscard]] const StringList& fallbackLocales() const noexcept ORVANTA_LIFETIME_BOUND {
+    return fallbackLocales_;
+  }
   void setFallbackLocales(StringList locales) noexcept { fallbackLocales_ = std::move(locales); }
 
   /// Whether `other` is of this record's class or of a subclass, and both hold the very same

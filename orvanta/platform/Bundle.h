@@ -6,6 +6,7 @@
 
 #include <orvanta/Export.h>
 #include <orvanta/strings/StringTable.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
 #include <orvanta/text/TextHash.h>
@@ -61,7 +62,8 @@ class ORVANTA_EXPORT Bundle {
 
   /// The table "Localizable" once it is in memory: asking it gives what `textForKey` gives, without
   /// a virtual call. Null before, and for a bundle that keeps its texts elsewhere.
-  [[nodiscard]] const strings::StringTable* loadedDefaultTable() const noexcept {
+  [[nodiscard]] const strings::StringTable* loadedDefaultTable() const noexcept
+      ORVANTA_LIFETIME_BOUND {
     return defaultTable_.get();
   }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <orvanta/Export.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 
 namespace orvanta::platform {
@@ -12,7 +13,9 @@ class ORVANTA_EXPORT Locale {
  public:
   Locale() noexcept = default;
   explicit Locale(String identifier) noexcept : identifier_(std::move(identifier)) {}
-  [[nodiscard]] const String& localeIdentifier() const noexcept { return identifier_; }
+  [[nodiscard]] const String& localeIdentifier() const noexcept ORVANTA_LIFETIME_BOUND {
+    return identifier_;
+  }
 
  private:
   String identifier_;
@@ -25,8 +28,10 @@ class ORVANTA_EXPORT Calendar {
       : identifier_(std::move(identifier)), locale_(std::move(locale)) {}
 
   /// Which calendar, as CLDR names it ("gregorian").
-  [[nodiscard]] const String& calendarIdentifier() const noexcept { return identifier_; }
-  [[nodiscard]] const Locale& locale() const noexcept { return locale_; }
+  [[nodiscard]] const String& calendarIdentifier() const noexcept ORVANTA_LIFETIME_BOUND {
+    return identifier_;
+  }
+  [[nodiscard]] const Locale& locale() const noexcept ORVANTA_LIFETIME_BOUND { return locale_; }
   void setLocale(Locale locale) noexcept { locale_ = std::move(locale); }
 
  private:

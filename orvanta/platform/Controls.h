@@ -6,6 +6,7 @@
 #include <orvanta/Export.h>
 #include <orvanta/platform/Font.h>
 #include <orvanta/platform/TextAlignment.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 
 /// What the library asks of a toolkit's controls. A port writes one adapter a control; the
@@ -75,7 +76,7 @@ class ORVANTA_EXPORT Button : public Accessible {
   [[nodiscard]] virtual String titleForState(ControlState state) const = 0;
   virtual void setTitle(const String& title, ControlState state) = 0;
   /// What draws the title; lives as long as the button.
-  [[nodiscard]] virtual TextStyle& titleLabel() = 0;
+  [[nodiscard]] virtual TextStyle& titleLabel() ORVANTA_LIFETIME_BOUND = 0;
 };
 
 }  // namespace orvanta::platform

@@ -5,6 +5,7 @@
 
 #include <orvanta/platform/Controls.h>
 #include <orvanta/platform/Rect.h>
+#include <orvanta/text/LifetimeBound.h>
 
 /// Controls that only remember what they are told: for programs without a screen, for tests, and to
 /// start from when a toolkit's own controls are to be adapted.
@@ -44,7 +45,7 @@ class MemoryTexted : public MemoryStyled<MemoryAccessible<Interface>> {
  public:
   explicit MemoryTexted(const platform::Rect& frame = {}) : frame_(frame) {}
 
-  [[nodiscard]] const platform::Rect& frame() const { return frame_; }
+  [[nodiscard]] const platform::Rect& frame() const ORVANTA_LIFETIME_BOUND { return frame_; }
   [[nodiscard]] String text() const override { return text_; }
   void setText(const String& text) override { text_ = text; }
   [[nodiscard]] String accessibilityLabel() const override {

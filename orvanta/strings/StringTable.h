@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <orvanta/Export.h>
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/TextHash.h>
 
@@ -45,7 +46,7 @@ class ORVANTA_EXPORT StringTable {
 
   /// The same as a view, its data null when there is none, and the handle to what was found: for
   /// callers who look on elsewhere and make one handle in the end.
-  [[nodiscard]] std::string_view find(const HashedKey& key) const noexcept;
+  [[nodiscard]] std::string_view find(const HashedKey& key) const noexcept ORVANTA_LIFETIME_BOUND;
   [[nodiscard]] String handleTo(std::string_view found) const noexcept {
     return arena_.part(found);
   }
