@@ -69,9 +69,9 @@ class Screen {
   orvanta::UILocalizedButton localizedButton_{button_};
 };
 
-// A text that two of the languages lack.
-void showTakeaway(Localizer& localizer) {
-  const orvanta::String key = "order.takeaway";
+// A text that some of the languages lack.
+void showOpening(Localizer& localizer) {
+  const orvanta::String key = "tour.opening";
   const auto& bundle = localizer.currentLanguageBundle();
   const bool translated = bundle != nullptr && bundle->localizedStringForKey(key) != key;
   std::cout << "  text   " << localizer.localizedStringForKey(key)
@@ -88,7 +88,7 @@ void settle(const Screen& screen) {
             << localizer.stringWithLocalizedPunctuation(
                    localizer.localizedStringForKey("order.list"))
             << '\n';
-  showTakeaway(localizer);
+  showOpening(localizer);
 }
 
 struct Stop {

@@ -15,7 +15,7 @@ constexpr auto kStyleSheet = R"(
 #rule { background: #e9e4da; border: none; }
 QLabel { color: #1f2d2b; background: transparent; }
 #emailCaption, #passwordCaption, #favoritesTitle, #statusLabel,
-#coffeeQuantity, #teaQuantity, #juiceQuantity { color: #6a7672; }
+#coffeeQuantity, #teaQuantity, #juiceQuantity, #cookieQuantity { color: #6a7672; }
 QLineEdit { color: #1f2d2b; background: #fbfaf7; border: 1px solid #d3ccbf; border-radius: 8px;
             padding: 8px 11px; selection-background-color: #0e6b62; }
 QLineEdit:focus { border-color: #0e6b62; background: #ffffff; }

@@ -25,18 +25,16 @@ orvanta::StringsPayload payloadFrom(const QJsonValue& json) {
 
 }  // namespace
 
-QString storeDownloadedLanguages(const QString& jsonPath) {
+bool storeDownloadedLanguages(const QString& jsonPath) {
   QFile file(jsonPath);
   if (!file.open(QIODevice::ReadOnly)) {
-    return {};
+    return false;
   }
-  QString stored;
+  bool stored = false;
   const QJsonObject tables = QJsonDocument::fromJson(file.readAll()).object();
   orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(
-      payloadFrom(tables), "main", "demo", [&](const orvanta::StringsUpdate& update) {
-        if (stored.isNull() && update.result == orvanta::StringsUpdate::Result::written) {
-          stored = orvanta::qt::toQString(update.language);
-        }
+      payloadFrom(tables), "main", "demo", [&stored](const orvanta::StringsUpdate& update) {
+        stored = stored || update.result == orvanta::StringsUpdate::Result::written;
       });
   return stored;
 }

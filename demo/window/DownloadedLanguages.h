@@ -5,7 +5,7 @@
 namespace demo {
 
 /// Stores the language tables in a file that a service sent, as JSON, among the downloaded ones.
-/// Gives the first language that was stored; null when there was none.
-[[nodiscard]] QString storeDownloadedLanguages(const QString& jsonPath);
+/// False when there was none to store.
+[[nodiscard]] bool storeDownloadedLanguages(const QString& jsonPath);
 
 }  // namespace demo

@@ -1,9 +1,11 @@
 #include "OrderWindow.h"
 
 #include <QActionGroup>
+#include <QEvent>
 #include <QMap>
 #include <QMenu>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include <orvanta/orvanta.h>
@@ -44,6 +46,17 @@ OrderWindow::OrderWindow(QString downloadsPath, QWidget* parent)
   fillLanguageMenu();
   languageChanged();
   resize(940, 580);
+}
+
+// Layouts do not count the lines of wrapped labels in the least height of a window.
+bool OrderWindow::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+    QSize least = layout()->totalMinimumSize();
+    least.setHeight(layout()->totalMinimumHeightForWidth(std::max(width(), least.width())));
+    setMinimumSize(least);
+  }
+  return handled;
 }
 
 void OrderWindow::findWidgets() {
@@ -91,12 +104,10 @@ void OrderWindow::fillLanguageMenu() {
 }
 
 void OrderWindow::downloadLanguages() {
-  const QString language = storeDownloadedLanguages(downloadsPath_);
-  if (language.isNull()) {
-    return;
+  if (storeDownloadedLanguages(downloadsPath_)) {
+    fillLanguageMenu();
+    showStatus("status.downloaded");
   }
-  downloaded_ = true;
-  localizer_.updatePreferredLocales({fromQString(language)}, {});
 }
 
 void OrderWindow::showStatus(const char* key) {
@@ -110,7 +121,7 @@ void OrderWindow::languageChanged() {
   summaryLabel_->setText(toQString(
       localizer_.stringWithLocalizedPunctuation(localizer_.localizedStringForKey("order.list"))));
   setWindowTitle(toQString(localizer_.localizedStringForKey("order.title")));
-  showStatus(std::exchange(downloaded_, false) ? "status.downloaded" : "status.language");
+  showStatus("status.language");
 }
 
 // A field without a text of its own has no key that its other texts could come along with.

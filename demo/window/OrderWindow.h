@@ -18,13 +18,16 @@ class UILocalizedTextField;
 namespace demo {
 
 /// The window of a café: signing in, an order, and a menu of languages. What its form describes
-/// localizes itself; the window adds what a form cannot say.
+/// localizes itself; the window adds what a form cannot express.
 class OrderWindow : public QWidget {
   Q_OBJECT
 
  public:
   /// `downloadsPath`: the JSON file that "download more languages" fetches.
   explicit OrderWindow(QString downloadsPath, QWidget* parent = nullptr);
+
+ protected:
+  bool event(QEvent* event) override;
 
  private:
   void findWidgets();
@@ -40,7 +43,6 @@ class OrderWindow : public QWidget {
   orvanta::qt::LayoutDirectionFollower direction_;
   orvanta::qt::RepaintBatch batch_;
   orvanta::qt::LanguageChangeObserver observer_;
-  bool downloaded_ = false;
 
   QMenu* languageMenu_ = nullptr;
   orvanta::qt::UILocalizedButton* languageButton_ = nullptr;
