@@ -9,11 +9,12 @@ namespace demo {
 
 namespace {
 
+// The padding of labels is for letters that reach beyond their advance, such as a French J.
 constexpr auto kStyleSheet = R"(
 #OrderWindow { background: #f4f1ea; }
 #signInCard, #orderCard { background: #ffffff; border: 1px solid #e3ddd1; border-radius: 14px; }
 #rule { background: #e9e4da; border: none; }
-QLabel { color: #1f2d2b; background: transparent; }
+QLabel { color: #1f2d2b; background: transparent; padding: 0 3px; }
 #emailCaption, #passwordCaption, #favoritesTitle, #statusLabel,
 #coffeeQuantity, #teaQuantity, #juiceQuantity, #cookieQuantity { color: #6a7672; }
 QLineEdit { color: #1f2d2b; background: #fbfaf7; border: 1px solid #d3ccbf; border-radius: 8px;
