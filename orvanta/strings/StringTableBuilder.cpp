@@ -9,7 +9,7 @@
 namespace orvanta::strings {
 
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
-  // Short entries leave room to spare, of which nothing is touched.
+  // Too much for longer entries; what is not used is never touched.
   constexpr std::size_t kShortEntry = 64;
   records_.reserve(expectedBytes / kShortEntry);
   static_cast<void>(reserve(expectedBytes));
@@ -52,14 +52,14 @@ bool StringTableBuilder::add(std::string_view key, std::string_view value) {
 
 std::shared_ptr<const StringTable> StringTableBuilder::build() {
   auto table = std::make_shared<StringTable>();
-  if (records_.empty()) {
+  const std::size_t records = records_.size() + tentativeRecords_.size();
+  if (records == 0) {
     return table;
   }
-  // Misses are the faster the emptier an index is, but one that passes the caches had better be
-  // small.
-  const std::size_t slotsForEach = records_.size() < 50'000 ? 3 : 2;
-  const std::size_t count = std::min<std::size_t>(slotsForEach * records_.size(),
-                                                  std::numeric_limits<std::uint32_t>::max());
+  // Misses are faster in a sparse index, but one that exceeds the caches should be small.
+  const std::size_t slotsForEach = records < 50'000 ? 3 : 2;
+  const std::size_t count =
+      std::min<std::size_t>(slotsForEach * records, std::numeric_limits<std::uint32_t>::max());
   const std::size_t start = (used_ + sizeof(Slot) - 1) / sizeof(Slot) * sizeof(Slot);
   void* const whole = std::realloc(arena_, start + count * sizeof(Slot));
   if (whole == nullptr) {
@@ -74,12 +74,13 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   std::uninitialized_fill_n(index, count, StringTable::kFree);
   table->index_ = index;
   table->slotCount_ = static_cast<std::uint32_t>(count);
-  fillIndex(*table, {index, count}, std::exchange(records_, {}));
+  addToIndex(*table, {index, count}, std::exchange(tentativeRecords_, {}));
+  addToIndex(*table, {index, count}, std::exchange(records_, {}));
   return table;
 }
 
-void StringTableBuilder::fillIndex(StringTable& table, std::span<Slot> index,
-                                   std::span<const Slot> records) {
+void StringTableBuilder::addToIndex(StringTable& table, std::span<Slot> index,
+                                    std::span<const Slot> records) {
   const auto keyOf = [&](Slot slot) { return table.entryAt(StringTable::offsetIn(slot)).key; };
   const auto haveOneKey = [&](Slot a, Slot b) {
     return StringTable::mayHoldSameKey(a, b) && keyOf(a) == keyOf(b);

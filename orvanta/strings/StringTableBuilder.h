@@ -15,21 +15,25 @@
 
 namespace orvanta::strings {
 
-/// Fills a table. Of a key that is added twice the last value holds.
+/// Fills a table. Of a key that is added twice the last value holds, of the firm ones if there are
+/// any.
 class ORVANTA_EXPORT StringTableBuilder {
  public:
-  /// `expectedBytes` is a guess at the sum of all keys and values; too little costs a copy.
+  /// A tentative entry yields to every firm one with its key, whichever was added first.
+  enum class Standing { kFirm, kTentative };
+
+  /// `expectedBytes` is an estimate of the sum of all keys and values; too little costs a copy.
   explicit StringTableBuilder(std::size_t expectedBytes = 0);
   ~StringTableBuilder();
   StringTableBuilder(const StringTableBuilder&) = delete;
   StringTableBuilder& operator=(const StringTableBuilder&) = delete;
 
-  /// Adds an entry, or gives false where the table would pass 4 GiB.
+  /// Adds a firm entry. False when there is no memory or the table would exceed 4 GiB.
   bool add(std::string_view key, std::string_view value);
 
-  /// Room for one entry, into which the caller writes the key and right behind it the value, at
-  /// most `bytes` together. Absent where the table would pass 4 GiB. What was written counts only
-  /// with `commitEntry`; any other call takes the room back.
+  /// Room for one entry, into which the caller writes the key and directly behind it the value, at
+  /// most `bytes` together. Null when there is no memory or the table would exceed 4 GiB. Only
+  /// `commitEntry` adds the entry; any other call reuses the room.
   [[nodiscard]] char* beginEntry(std::size_t bytes) {
     if (bytes > capacity_ - used_ || kHeader > capacity_ - used_ - bytes) {
       if (bytes > kLargestArena - kHeader || !reserve(kHeader + bytes)) {
@@ -38,16 +42,18 @@ class ORVANTA_EXPORT StringTableBuilder {
     }
     return arena_ + used_ + kHeader;
   }
-  void commitEntry(std::size_t keySize, std::size_t valueSize) {
+  void commitEntry(std::size_t keySize, std::size_t valueSize,
+                   Standing standing = Standing::kFirm) {
     const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
                                       static_cast<std::uint32_t>(valueSize)};
     char* start = arena_ + used_;
     std::memcpy(start, lengths, kHeader);
-    records_.push_back((textHash({start + kHeader, keySize}) & StringTable::kHashMask) | used_);
+    auto& records = standing == Standing::kFirm ? records_ : tentativeRecords_;
+    records.push_back((textHash({start + kHeader, keySize}) & StringTable::kHashMask) | used_);
     used_ += kHeader + keySize + valueSize;
   }
 
-  /// The table, null when there is no memory for its index; the builder is empty afterwards.
+  /// The table; null when there is no memory for its index. The builder is empty afterwards.
   [[nodiscard]] std::shared_ptr<const StringTable> build();
 
  private:
@@ -57,12 +63,14 @@ class ORVANTA_EXPORT StringTableBuilder {
   using Slot = StringTable::Slot;
 
   [[nodiscard]] bool reserve(std::size_t more);
-  static void fillIndex(StringTable& table, std::span<Slot> index, std::span<const Slot> records);
+  static void addToIndex(StringTable& table, std::span<Slot> index, std::span<const Slot> records);
 
   char* arena_ = nullptr;
   std::size_t used_ = 0;
   std::size_t capacity_ = 0;
-  std::vector<Slot> records_;  // In the order of adding.
+  // In the order of adding.
+  std::vector<Slot> records_;
+  std::vector<Slot> tentativeRecords_;
 };
 
 }  // namespace orvanta::strings

@@ -3,6 +3,7 @@
 #include <ostream>
 #include <string>
 
+#include <orvanta/text/HexDigit.h>
 #include <orvanta/text/URL.h>
 
 namespace orvanta {
@@ -14,28 +15,17 @@ constexpr std::string_view kNeverInURL = "\"<>[\\]^`{|}";
 constexpr std::string_view kUnescapedInPath =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-._~!$&'()*+,=:@/";
 
-std::optional<unsigned> hexDigit(char digit) {
-  if (digit >= '0' && digit <= '9') {
-    return static_cast<unsigned>(digit - '0');
-  }
-  const char lower = static_cast<char>(digit | 0x20);
-  if (lower >= 'a' && lower <= 'f') {
-    return static_cast<unsigned>(lower - 'a' + 10);
-  }
-  return std::nullopt;
-}
-
 // The byte that an escape at the start of `text` stands for.
 std::optional<char> escapedByte(std::string_view text) {
   if (text.size() < 3 || text[0] != '%') {
     return std::nullopt;
   }
-  const auto high = hexDigit(text[1]);
-  const auto low = hexDigit(text[2]);
-  if (!high || !low) {
+  const unsigned high = digitValue(text[1]);
+  const unsigned low = digitValue(text[2]);
+  if (high == kNoDigit || low == kNoDigit) {
     return std::nullopt;
   }
-  return static_cast<char>((*high << 4) | *low);
+  return static_cast<char>((high << 4) | low);
 }
 
 bool isURLText(std::string_view text) {

@@ -57,26 +57,8 @@ Decoded decode(std::string_view text) noexcept {
 }
 
 void append(std::string& out, char32_t codePoint) {
-  if (codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF)) {
-    codePoint = kReplacement;
-  }
-  const auto put = [&](char32_t byte) { out.push_back(static_cast<char>(byte)); };
-  const auto tail = [&](unsigned shift) { put(0x80 | ((codePoint >> shift) & 0x3F)); };
-  if (codePoint < 0x80) {
-    put(codePoint);
-  } else if (codePoint < 0x800) {
-    put(0xC0 | (codePoint >> 6));
-    tail(0);
-  } else if (codePoint < 0x10000) {
-    put(0xE0 | (codePoint >> 12));
-    tail(6);
-    tail(0);
-  } else {
-    put(0xF0 | (codePoint >> 18));
-    tail(12);
-    tail(6);
-    tail(0);
-  }
+  char bytes[kLongest];
+  out.append(bytes, static_cast<std::size_t>(encode(codePoint, bytes) - bytes));
 }
 
 bool isValid(std::string_view text) noexcept {

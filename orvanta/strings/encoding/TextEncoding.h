@@ -1,47 +1,72 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
+
+#include <orvanta/strings/encoding/Utf8Repair.h>
 
 namespace orvanta::strings {
 
-enum class TextEncoding { kUtf8, kUtf16Little, kUtf16Big, kUtf32Little, kUtf32Big };
+enum class TextEncoding {
+  kUtf8,        ///< Valid.
+  kBrokenUtf8,  ///< UTF-8 with invalid sequences.
+  kUtf16Little,
+  kUtf16Big,
+  kUtf32Little,
+  kUtf32Big,
+  kLatin1,  ///< Only where an XML document declares it, as the next one.
+  kWindows1252,
+};
 
 /// Bytes of text without the byte-order mark that they may have begun with.
 struct EncodedText {
   TextEncoding encoding = TextEncoding::kUtf8;
   std::string_view bytes;
+  bool hasMark = false;
 };
 
-/// Tells the encoding by the byte-order mark or, where there is none, by where the zero bytes of
-/// the first characters stand, which in a strings file are ASCII. Without either it is UTF-8.
+/// Tells the encoding by the byte-order mark or, without one, by the zero bytes of the first
+/// characters, which are ASCII in a strings file. Everything else is UTF-8, whose validity is
+/// checked here and nowhere else.
 [[nodiscard]] EncodedText detectEncoding(std::string_view bytes) noexcept;
 
-/// Turns text into UTF-8, piece by piece. What is no character there (invalid UTF-8, a lone
-/// surrogate, a torn unit at the end) becomes U+FFFD.
+/// Converts text to UTF-8, piece by piece. What is no character (invalid UTF-8, a lone surrogate, a
+/// byte that the encoding leaves undefined) becomes U+FFFD; a torn unit at the end is left out.
 class Utf8Transcoder {
  public:
-  /// Less room than this may be left over although there is more text.
+  /// Less room than this may be left unused although there is more text.
   static constexpr std::size_t kSlack = 64;
 
-  explicit Utf8Transcoder(EncodedText text) noexcept
-      : encoding_(text.encoding), at_(text.bytes.data()), end_(at_ + text.bytes.size()) {}
+  explicit Utf8Transcoder(EncodedText text) noexcept;
 
   [[nodiscard]] bool atEnd() const noexcept { return at_ == end_; }
 
-  /// The room in which all that is left is certain to fit at once.
+  /// The room in which the rest is certain to fit at once.
   [[nodiscard]] std::size_t roomForRest() const noexcept;
 
-  /// Writes as much as fits into `out` and gives the number of bytes written. All of `room` may be
-  /// overwritten.
+  /// Writes as much as fits into `out` and gives the number of bytes written. May overwrite all of
+  /// `room`.
   std::size_t transcode(char* out, std::size_t room) noexcept;
+
+  /// How many times U+FFFD stands for what is no character.
+  [[nodiscard]] std::size_t replacements() const noexcept { return replacements_; }
+
+  /// The offset of the first of them in the output.
+  [[nodiscard]] std::size_t firstReplacement() const noexcept { return firstReplacement_; }
+
+  /// Whether the text ends within a unit.
+  [[nodiscard]] bool isTorn() const noexcept { return isTorn_; }
 
  private:
   TextEncoding encoding_;
   const char* at_;
-  const char* end_;
+  const char* end_;  // Of the last whole unit.
+  bool isTorn_;
+  std::size_t written_ = 0;
+  std::size_t replacements_ = 0;
+  std::size_t firstReplacement_ = 0;
 };
 
 /// All of a text as UTF-8, at once. Valid UTF-8 is not copied.
@@ -52,9 +77,21 @@ class WholeUtf8 {
   /// Valid as long as this object and the bytes that it was made from live.
   [[nodiscard]] std::string_view view() const noexcept { return view_; }
 
+  /// Where characters were damaged, in UTF-8, and how many; absent when none were.
+  struct Damage {
+    std::size_t first;
+    std::size_t count;
+  };
+  [[nodiscard]] const std::optional<Damage>& damage() const noexcept { return damage_; }
+
+  /// Whether the last character was cut off and left out.
+  [[nodiscard]] bool isTorn() const noexcept { return isTorn_; }
+
  private:
   std::unique_ptr<char[]> bytes_;
   std::string_view view_;
+  std::optional<Damage> damage_;
+  bool isTorn_ = false;
 };
 
 }  // namespace orvanta::strings

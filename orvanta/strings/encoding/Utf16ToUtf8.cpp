@@ -5,19 +5,18 @@
 
 #include <orvanta/strings/encoding/Utf16ToUtf8.h>
 
-// This is where a downloaded table's loading time is spent: such tables are UTF-16, mostly ASCII
-// keys and values in the reader's own script. Sixteen units at a time are looked at and take one of
-// three ways, none of which branches on single characters.
+// Most of the loading time of a downloaded table is spent here (benchmark row load-utf16). Such
+// tables are mostly ASCII keys and values in one other script. Blocks of sixteen units take one of
+// three paths, none of which branches on single characters.
 
 namespace orvanta::strings {
 
 namespace {
 
 constexpr std::size_t kBlock = 16;
-constexpr char32_t kReplacement = 0xFFFD;
 
-// The UTF-8 of the units below U+0800: the bytes, of the first the lowest, and above them, from
-// bit 24 on, their number.
+// The UTF-8 of the units below U+0800: the first byte in the lowest bits, the number of bytes from
+// bit 24 on.
 constexpr std::array<std::uint32_t, 0x800> makePairs() {
   std::array<std::uint32_t, 0x800> pairs = {};
   for (std::uint32_t unit = 0; unit < pairs.size(); ++unit) {
@@ -29,15 +28,15 @@ constexpr std::array<std::uint32_t, 0x800> makePairs() {
 
 constexpr std::array<std::uint32_t, 0x800> kPairs = makePairs();
 
-// What all units with the same upper ten bits have in common in UTF-8, where a character's last
-// byte holds the lower six.
+// The part of the UTF-8 that units with the same upper ten bits share. The lower six bits stand in
+// the last byte.
 struct Form {
-  std::uint32_t bytes;  // Of the first byte the lowest, with nothing for the lower six bits.
-  std::uint8_t shift;   // To where the lower six bits belong.
+  std::uint32_t bytes;  // The first byte in the lowest bits; zeros for the unit's lower six bits.
+  std::uint8_t shift;   // The position of the lower six bits.
   std::uint8_t length;
 };
 
-constexpr std::uint32_t kSurrogate = 0x80000000;  // In place of bytes: half a character.
+constexpr std::uint32_t kSurrogate = 0x80000000;  // Marks the forms of surrogates in `bytes`.
 
 constexpr std::array<Form, 1024> makeForms() {
   std::array<Form, 1024> forms = {};
@@ -67,7 +66,7 @@ std::uint16_t unitAt(const char* in) noexcept {
   return unit;
 }
 
-// A mask that four units, loaded at once, are to be tested with.
+// A mask for four units loaded as one number.
 template <std::endian kOrder>
 constexpr std::uint64_t fourTimes(std::uint16_t mask) {
   const unsigned wide = mask;
@@ -112,7 +111,7 @@ void store(char* out, std::uint32_t firstByteLowest) noexcept {
   }
 }
 
-// Writes four bytes, of which the length that the form gives are meant.
+// May write up to three bytes past the character.
 void put(const Form& form, std::uint32_t unit, char* out) noexcept {
   store(out, form.bytes | ((unit & 0x3F) << form.shift));
 }
@@ -123,15 +122,9 @@ char* putBasic(std::uint32_t unit, char* out) noexcept {
   return out + form.length;
 }
 
-char* putBeyondBasic(std::uint32_t high, std::uint32_t low, char* out) noexcept {
-  const std::uint32_t codePoint = 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
-  store(out, (0xF0 | (codePoint >> 18)) | ((0x80 | ((codePoint >> 12) & 0x3F)) << 8) |
-                 ((0x80 | ((codePoint >> 6) & 0x3F)) << 16) | ((0x80 | (codePoint & 0x3F)) << 24));
-  return out + 4;
-}
-
 template <std::endian kOrder>
-Transcoded putCharacter(const char* in, const char* inEnd, char* out) noexcept {
+Transcoded putCharacter(const char* in, const char* inEnd, char* out,
+                        Replacements& replacements) noexcept {
   const std::uint32_t unit = unitAt<kOrder>(in);
   if ((unit & 0xF800) != 0xD800) {
     return {in + 2, putBasic(unit, out)};
@@ -139,10 +132,10 @@ Transcoded putCharacter(const char* in, const char* inEnd, char* out) noexcept {
   if (unit < 0xDC00 && inEnd - in >= 4) {
     const std::uint32_t low = unitAt<kOrder>(in + 2);
     if ((low & 0xFC00) == 0xDC00) {
-      return {in + 4, putBeyondBasic(unit, low, out)};
+      return {in + 4, utf8::encode(0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00), out)};
     }
   }
-  return {in + 2, putBasic(kReplacement, out)};
+  return {in + 2, replacements.put(out)};
 }
 
 template <std::endian kOrder>
@@ -171,17 +164,19 @@ char* putBlock(const char* in, char* out) noexcept {
 
 // The block, and one unit more where it ends within a pair of surrogates.
 template <std::endian kOrder>
-Transcoded putBlockWithSurrogates(const char* in, const char* inEnd, char* out) noexcept {
+Transcoded putBlockWithSurrogates(const char* in, const char* inEnd, char* out,
+                                  Replacements& replacements) noexcept {
   const char* blockEnd = in + 2 * kBlock;
   Transcoded at = {in, out};
   while (at.in < blockEnd) {
-    at = putCharacter<kOrder>(at.in, inEnd, at.out);
+    at = putCharacter<kOrder>(at.in, inEnd, at.out, replacements);
   }
   return at;
 }
 
 template <std::endian kOrder>
-Transcoded transcode(const char* in, const char* inEnd, char* begin, const char* outEnd) noexcept {
+Transcoded transcode(const char* in, const char* inEnd, char* begin, const char* outEnd,
+                     Replacements& replacements) noexcept {
   Transcoded at = {in, begin};
   const auto hasRoom = [&] { return outEnd - at.out >= static_cast<std::ptrdiff_t>(kUtf16Room); };
   while (hasRoom() && inEnd - at.in >= static_cast<std::ptrdiff_t>(2 * kBlock)) {
@@ -194,10 +189,10 @@ Transcoded transcode(const char* in, const char* inEnd, char* begin, const char*
     } else if (char* out = putBlock<kOrder>(at.in, at.out)) {
       at = {at.in + 2 * kBlock, out};
     } else {
-      at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out);
+      at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out, replacements);
     }
   }
-  // What is left, and short texts: fewer at a time, and one by one from where there are surrogates.
+  // The rest, and short texts: four units at a time, then one by one from the first surrogate on.
   while (hasRoom() && inEnd - at.in >= 8) {
     char* out = putBlock<kOrder, 4>(at.in, at.out);
     if (out == nullptr) {
@@ -206,22 +201,21 @@ Transcoded transcode(const char* in, const char* inEnd, char* begin, const char*
     at = {at.in + 8, out};
   }
   while (hasRoom() && inEnd - at.in >= 2) {
-    at = putCharacter<kOrder>(at.in, inEnd, at.out);
-  }
-  if (hasRoom() && inEnd - at.in == 1) {
-    at = {at.in + 1, putBasic(kReplacement, at.out)};
+    at = putCharacter<kOrder>(at.in, inEnd, at.out, replacements);
   }
   return at;
 }
 
 }  // namespace
 
-Transcoded utf16LittleToUtf8(const char* in, const char* inEnd, char* out, char* outEnd) noexcept {
-  return transcode<std::endian::little>(in, inEnd, out, outEnd);
+Transcoded utf16LittleToUtf8(const char* in, const char* inEnd, char* out, char* outEnd,
+                             Replacements& replacements) noexcept {
+  return transcode<std::endian::little>(in, inEnd, out, outEnd, replacements);
 }
 
-Transcoded utf16BigToUtf8(const char* in, const char* inEnd, char* out, char* outEnd) noexcept {
-  return transcode<std::endian::big>(in, inEnd, out, outEnd);
+Transcoded utf16BigToUtf8(const char* in, const char* inEnd, char* out, char* outEnd,
+                          Replacements& replacements) noexcept {
+  return transcode<std::endian::big>(in, inEnd, out, outEnd, replacements);
 }
 
 }  // namespace orvanta::strings

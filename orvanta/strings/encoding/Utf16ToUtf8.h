@@ -2,22 +2,19 @@
 
 #include <cstddef>
 
+#include <orvanta/strings/encoding/Utf8Repair.h>
+
 namespace orvanta::strings {
 
-/// Where a transcoder stopped, in both texts.
-struct Transcoded {
-  const char* in;
-  char* out;
-};
-
-/// Turns UTF-16 of the given byte order, `in` to `inEnd`, into UTF-8, and stops where less than
-/// `kUtf16Room` bytes of room are left. A lone surrogate becomes U+FFFD; so does an odd byte at the
-/// end. All of the room may be overwritten.
+/// Less room than this may be left unused.
 inline constexpr std::size_t kUtf16Room = 64;
 
+/// Converts UTF-16 of the given byte order to UTF-8 and stops where less than `kUtf16Room` bytes of
+/// room are left, or before an odd byte at the end. A lone surrogate becomes U+FFFD. May overwrite
+/// all of the room.
 [[nodiscard]] Transcoded utf16LittleToUtf8(const char* in, const char* inEnd, char* out,
-                                           char* outEnd) noexcept;
-[[nodiscard]] Transcoded utf16BigToUtf8(const char* in, const char* inEnd, char* out,
-                                        char* outEnd) noexcept;
+                                           char* outEnd, Replacements& replacements) noexcept;
+[[nodiscard]] Transcoded utf16BigToUtf8(const char* in, const char* inEnd, char* out, char* outEnd,
+                                        Replacements& replacements) noexcept;
 
 }  // namespace orvanta::strings

@@ -11,19 +11,18 @@ namespace orvanta::strings {
 
 namespace {
 
-// A guess that is rarely too low: what is not used of it is never touched and given back.
+// An estimate that is rarely too low. What is not used of it is never touched and is given back.
 std::size_t expectedArena(const EncodedText& text) noexcept {
   switch (text.encoding) {
-    case TextEncoding::kUtf8:
-      return text.bytes.size();
     case TextEncoding::kUtf16Little:
     case TextEncoding::kUtf16Big:
       return text.bytes.size() / 4 * 3;
     case TextEncoding::kUtf32Little:
     case TextEncoding::kUtf32Big:
       return text.bytes.size() / 2;
+    default:
+      return text.bytes.size();
   }
-  return 0;
 }
 
 // Enough to tell the form by, in UTF-8.
@@ -35,15 +34,17 @@ bool isXml(EncodedText text) noexcept {
   return looksLikeXmlTable({first.data(), size});
 }
 
-bool readInto(StringTableBuilder& table, std::string_view bytes, EncodedText text,
-              const ProblemCollector& problems) {
-  if (looksLikeBinaryTable(bytes)) {
-    return readBinaryTable(bytes, table, problems);
-  }
-  if (isXml(text)) {
-    return readXmlTable(WholeUtf8(text).view(), table, problems);
-  }
-  return readTextTable(text, table, problems);
+std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems) {
+  StringTableBuilder table(expectedArena(text));
+  const bool isTable =
+      isXml(text) ? readXmlTable(text, table, problems) : readTextTable(text, table, problems);
+  return isTable ? table.build() : nullptr;
+}
+
+std::shared_ptr<const StringTable> readBinary(std::string_view bytes,
+                                              const ProblemCollector& problems) {
+  StringTableBuilder table(bytes.size());
+  return readBinaryTable(bytes, table, problems) ? table.build() : nullptr;
 }
 
 }  // namespace
@@ -51,9 +52,8 @@ bool readInto(StringTableBuilder& table, std::string_view bytes, EncodedText tex
 std::shared_ptr<const StringTable> readStringTable(std::string_view bytes,
                                                    const ProblemCollector& problems) {
   try {
-    const EncodedText text = detectEncoding(bytes);
-    StringTableBuilder table(expectedArena(text));
-    return readInto(table, bytes, text, problems) ? table.build() : nullptr;
+    return looksLikeBinaryTable(bytes) ? readBinary(bytes, problems)
+                                       : readText(detectEncoding(bytes), problems);
   } catch (const std::bad_alloc&) {
     return nullptr;
   }

@@ -31,6 +31,14 @@ std::string transcoded(EncodedText text, std::size_t room) {
   return out;
 }
 
+std::string repeated(std::string_view piece, std::size_t count) {
+  std::string all;
+  for (; count > 0; --count) {
+    all += piece;
+  }
+  return all;
+}
+
 TEST(TextEncoding, IsToldWithAndWithoutAMark) {
   const TableRow rows[] = {
       {"statement", "\"k\" = \"\u00E9\u05E9\U0001F600\";\n", "k=\u00E9\u05E9\U0001F600"},
@@ -48,7 +56,12 @@ TEST(TextEncoding, IsToldWithAndWithoutAMark) {
       checkTables({{row.name, encode(encoding, row.bytes), row.pairs}});
     }
   }
-  checkTables({{"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s}});
+  checkTables({
+      {"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s},
+      {"three zero bytes of UTF-8", "\"\0\0\0\" = \"1\";"s, "\0\0\0=1"s},
+      {"three zero bytes in front of UTF-8", "\0\0\0\"a\" = \"1\";"s, "a=1", "1:1"},
+      {"UTF-32 of one character", "k\0\0\0"s, kNoTable, "1:2"},
+  });
 }
 
 TEST(TextEncoding, ReplacesWhatIsNoCharacter) {
@@ -60,24 +73,45 @@ TEST(TextEncoding, ReplacesWhatIsNoCharacter) {
   };
   using enum TextEncoding;
   const Row rows[] = {
-      {"stray bytes", kUtf8, "a\x80\xFFz", "a\uFFFD\uFFFDz"},
-      {"overlong", kUtf8, "\xC0\xAF\xE0\x80\xAF", "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
-      {"surrogate in UTF-8", kUtf8, "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
-      {"cut off", kUtf8, "a\xF0\x9F\x98", "a\uFFFD"},
-      {"cut off by a character", kUtf8, "\xE2\x82z\xE2\x82\xAC", "\uFFFDz\u20AC"},
+      {"stray bytes", kBrokenUtf8, "a\x80\xFFz", "a\uFFFD\uFFFDz"},
+      {"overlong", kBrokenUtf8, "\xC0\xAF\xE0\x80\xAF", "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"surrogate in UTF-8", kBrokenUtf8, "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
+      {"cut off", kBrokenUtf8, "a\xF0\x9F\x98", "a\uFFFD"},
+      {"cut off by a character", kBrokenUtf8, "\xE2\x82z\xE2\x82\xAC", "\uFFFDz\u20AC"},
       {"lone high", kUtf16Little, "\x3D\xD8z\0"s, "\uFFFDz"},
       {"lone low", kUtf16Big, "\xDE\0\0z"s, "\uFFFDz"},
       {"swapped", kUtf16Little, "\x00\xDE\x3D\xD8"s, "\uFFFD\uFFFD"},
       {"high at the end", kUtf16Little, "z\0\x3D\xD8"s, "z\uFFFD"},
-      {"odd byte", kUtf16Big, "\0z\0"s, "z\uFFFD"},
+      {"odd byte", kUtf16Big, "\0z\0"s, "z"},
       {"surrogate in UTF-32", kUtf32Big, "\0\0\xD8\0\0\0\0z"s, "\uFFFDz"},
       {"beyond the last", kUtf32Little, "\0\0\x11\0z\0\0\0\xFF\xFF\xFF\xFF"s, "\uFFFDz\uFFFD"},
-      {"torn unit", kUtf32Little, "z\0\0\0z\0\0"s, "z\uFFFD"},
+      {"torn unit", kUtf32Little, "z\0\0\0z\0\0"s, "z"},
+      {"invalid bytes to the end", kBrokenUtf8, std::string(100, '\xFF'), repeated("\uFFFD", 100)},
+      {"Latin-1", kLatin1, "a\x80\xE9\xFF", "a\u0080\u00E9\u00FF"},
+      {"windows-1252", kWindows1252, "\x80\x81\x9F\xA0", "\u20AC\uFFFD\u0178\u00A0"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(transcoded({row.encoding, row.bytes}, 256), row.text);
+    EXPECT_EQ(transcoded({row.encoding, row.bytes}, Utf8Transcoder::kSlack), row.text);
   }
+  const std::string_view cut = "a\u20AC";
+  EXPECT_EQ(transcoded({kBrokenUtf8, cut.substr(0, 3)}, 256), "a\uFFFD") << "cut off in memory";
+}
+
+TEST(TextEncoding, ReportsWhatIsNoCharacter) {
+  const auto inUtf16 = [](std::string_view text) { return encode(test::kUtf16Little, text); };
+  const std::string sound = inUtf16("\"a\" = \"1\";\n\"b\" = \"2\";");
+  const auto cut = [&](std::size_t bytes) { return sound.substr(0, sound.size() - bytes); };
+  checkTables({
+      {"UTF-8", "\"a\" = \"\xE9\";\n\"b\" = \"\xE9\";;", "a=\uFFFD|b=\uFFFD", "1:8 2:11"},
+      {"UTF-8 before other damage", "\"\xE9\" = 1;\n;", "\uFFFD=1", "1:2 2:1"},
+      {"UTF-8, in a comment alone", "// \xE9", "", "1:4"},
+      {"UTF-16", inUtf16("a = 1;\n/* ") + "\0\xDC"s + inUtf16(" */").substr(2), "a=1", "2:4"},
+      {"UTF-16 without its last byte", cut(1), "a=1|b=2", "2:10 2:10"},
+      {"UTF-16 without its last byte, in a value", cut(5), "a=1|b=", "2:7 2:8"},
+      {"damage in UTF-16", inUtf16("a = 1;\nb;c;\nd = = 1;"), "a=1|b=b|c=c", "3:5"},
+  });
 }
 
 // Every way of packing units is hit at every distance from a block's edges, and every piece of
@@ -134,6 +168,12 @@ TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
     text.resize(text.size() - (text.empty() ? 0 : random() % 2));
     ASSERT_EQ(isValidUtf8(text), utf8::isValid(text)) << testing::PrintToString(text);
     valid += isValidUtf8(text) ? 1 : 0;
+  }
+  for (std::size_t at = 0; at < 300; ++at) {
+    for (const std::string_view piece : {"\xFF", "\xE2\x82", "\u20AC"}) {
+      const std::string text = std::string(at, 'a').append(piece) + std::string(300 - at, 'a');
+      ASSERT_EQ(isValidUtf8(text), piece == "\u20AC") << at;
+    }
   }
   EXPECT_GT(valid, 2000);
   EXPECT_LT(valid, 18000);

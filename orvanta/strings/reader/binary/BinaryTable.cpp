@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::string_view kMagic = "bplist00";
 
-// How much a table may take in memory: so many times the file's size, and this much in any case.
-// Sound files, in which many keys share a text, were found to stay far below it.
+// The most memory that a table may take: a multiple of the file's size, and this much in any case.
+// Sound files in which many keys share a text stay far below it.
 constexpr std::size_t kLargestGrowth = 16;
 constexpr std::size_t kAlwaysGranted = std::size_t{64} << 10;
 // What an entry takes besides its characters.
@@ -30,11 +30,14 @@ class BinaryTableReader {
         problems_(problems),
         left_(kAlwaysGranted + kLargestGrowth * file.size()) {}
 
-  void read(const BinaryObject& dictionary) {
+  // False when the dictionary has pairs, but no key is a text.
+  bool read(const BinaryObject& dictionary) {
     const std::size_t count = objects_.pairCount(dictionary);
+    std::size_t texts = 0;
     for (std::size_t index = 0; index < count; ++index) {
       const auto key = objects_.at(objects_.referenceAt(dictionary, index));
       const auto value = objects_.at(objects_.referenceAt(dictionary, count + index));
+      texts += isText(key) ? 1 : 0;
       if (!isText(key)) {
         report("key " + std::to_string(index + 1) + " of the dictionary is no text");
       } else if (!isText(value)) {
@@ -42,9 +45,10 @@ class BinaryTableReader {
       } else if (!add(*key, *value)) {
         report("the table grows too large for its file, " + std::to_string(count - index) +
                " pairs are left out");
-        return;
+        break;
       }
     }
+    return texts > 0 || count == 0;
   }
 
  private:
@@ -70,13 +74,17 @@ class BinaryTableReader {
     if (begin == nullptr) {
       return false;
     }
-    char* const keyEnd = keyText.decode(begin);
-    char* const valueEnd = valueText.decode(keyEnd);
+    Replacements replacements;
+    char* const keyEnd = keyText.decode(begin, replacements);
+    char* const valueEnd = valueText.decode(keyEnd, replacements);
     if (!charge(static_cast<std::size_t>(valueEnd - begin) - least)) {
       return false;
     }
     table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
                        static_cast<std::size_t>(valueEnd - keyEnd));
+    if (replacements.count > 0) {
+      report("damaged characters under \"" + quoted(key) + "\"; U+FFFD stands for them");
+    }
     return true;
   }
 
@@ -124,8 +132,7 @@ bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
   if (!top || top->kind != BinaryKind::kDictionary) {
     return refuse("a binary property list without a dictionary at its top");
   }
-  BinaryTableReader(bytes, *objects, table, problems).read(*top);
-  return true;
+  return BinaryTableReader(bytes, *objects, table, problems).read(*top);
 }
 
 }  // namespace orvanta::strings

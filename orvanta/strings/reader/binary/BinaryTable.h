@@ -18,8 +18,8 @@ namespace orvanta::strings {
 /// that names one long text a million times must not fill the memory. Time and memory are linear
 /// in the size of the file.
 ///
-/// False, with the reason reported, when the frame of the file is broken or its top object is no
-/// dictionary; nothing was added then.
+/// False, with the reason reported, when the frame of the file is broken, its top object is no
+/// dictionary or none of its keys is a text; nothing was added then.
 [[nodiscard]] bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
                                    const ProblemCollector& problems);
 

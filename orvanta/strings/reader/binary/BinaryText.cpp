@@ -2,9 +2,7 @@
 #include <cstring>
 
 #include <orvanta/strings/encoding/Utf16ToUtf8.h>
-#include <orvanta/strings/encoding/Utf8Output.h>
 #include <orvanta/strings/reader/binary/BinaryText.h>
-#include <orvanta/text/Utf8.h>
 
 namespace orvanta::strings {
 
@@ -12,7 +10,7 @@ namespace {
 
 constexpr std::size_t kUtf16Unit = 2;
 
-// Made for short texts: most keys and values are.
+// For short texts, as most keys and values are.
 bool isAscii(std::string_view bytes) noexcept {
   std::uint64_t seen = 0;
   std::uint64_t word = 0;
@@ -31,15 +29,6 @@ bool isAscii(std::string_view bytes) noexcept {
   return ((seen | word) & 0x8080808080808080) == 0;
 }
 
-char* repairUtf8(std::string_view utf8, char* out) noexcept {
-  while (!utf8.empty()) {
-    const utf8::Decoded next = utf8::decode(utf8);
-    out = putUtf8(next.codePoint, out);
-    utf8.remove_prefix(next.length);
-  }
-  return out;
-}
-
 }  // namespace
 
 BinaryText::BinaryText(const BinaryObject& text) noexcept
@@ -47,32 +36,34 @@ BinaryText::BinaryText(const BinaryObject& text) noexcept
       form_(text.kind == BinaryKind::kUtf16Text ? Form::utf16
             : isAscii(text.payload)             ? Form::ascii
                                                 : Form::utf8),
-      // A unit becomes three bytes at most, and so does a byte that belongs to no character.
+      // A unit becomes three bytes at most, and so does an invalid byte.
       room_(form_ == Form::ascii  ? payload_.size()
-            : form_ == Form::utf8 ? 3 * payload_.size()
+            : form_ == Form::utf8 ? 3 * payload_.size() + utf8::kLongest
                                   : 3 * (payload_.size() / kUtf16Unit) + kUtf16Room) {}
 
 std::size_t BinaryText::leastSize(const BinaryObject& text) noexcept {
   return text.payload.size() / (text.kind == BinaryKind::kUtf16Text ? kUtf16Unit : 1);
 }
 
-char* BinaryText::decode(char* out) const noexcept {
+char* BinaryText::decode(char* out, Replacements& replacements) const noexcept {
+  const char* const begin = payload_.data();
+  const char* const end = begin + payload_.size();
   switch (form_) {
     case Form::ascii:
-      std::memcpy(out, payload_.data(), payload_.size());
+      std::memcpy(out, begin, payload_.size());
       return out + payload_.size();
     case Form::utf8:
-      return repairUtf8(payload_, out);
+      return repairUtf8(begin, end, out, out + room_, replacements).out;
     case Form::utf16:
-      return utf16BigToUtf8(payload_.data(), payload_.data() + payload_.size(), out, out + room_)
-          .out;
+      return utf16BigToUtf8(begin, end, out, out + room_, replacements).out;
   }
   return out;
 }
 
 std::string BinaryText::str() const {
   std::string text(room_, '\0');
-  text.resize(static_cast<std::size_t>(decode(text.data()) - text.data()));
+  Replacements replacements;
+  text.resize(static_cast<std::size_t>(decode(text.data(), replacements) - text.data()));
   return text;
 }
 

@@ -1,15 +1,16 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 
 namespace orvanta::strings {
 
-/// Finds the first of something from any place on and remembers the answer, which is good for
-/// every place in between: what stands far away, or nowhere, is looked for once. Going back costs
-/// the way back.
+/// Memoized forward search: the last answer holds for every place before it that was passed over,
+/// so that what stands far away, or nowhere, is searched for once. Searching from an earlier place
+/// costs the distance back.
 ///
-/// `Find` gives the first in [from, to), or null, and `kLength` bytes make one.
-template <const char* (*Find)(const char* from, const char* to) noexcept, std::size_t kLength = 1>
+/// `Find` gives the first match in [from, to), or null; a match is at most `kLength` bytes long.
+template <const char* (*Find)(const char* from, const char* to) noexcept, std::ptrdiff_t kLength>
 class RememberedSearch {
  public:
   RememberedSearch(const char* begin, const char* end) noexcept
@@ -21,7 +22,7 @@ class RememberedSearch {
       found_ = search(from, end_);
       searchedFrom_ = from;
     } else if (from < searchedFrom_) {
-      goBack(from);
+      searchGap(from);
     }
     return found_;
   }
@@ -32,10 +33,10 @@ class RememberedSearch {
     return found == nullptr ? to : found;
   }
 
-  void goBack(const char* from) noexcept {
-    const std::size_t overlap = kLength - 1;
-    const auto left = static_cast<std::size_t>(end_ - searchedFrom_);
-    if (const char* found = Find(from, searchedFrom_ + (overlap < left ? overlap : left))) {
+  // From `from` to where the last search began, with what a match there may reach into.
+  void searchGap(const char* from) noexcept {
+    const std::ptrdiff_t overlap = std::min(kLength - 1, end_ - searchedFrom_);
+    if (const char* found = Find(from, searchedFrom_ + overlap)) {
       found_ = found;
     }
     searchedFrom_ = from;

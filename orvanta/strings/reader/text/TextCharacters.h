@@ -1,17 +1,20 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 
 namespace orvanta::strings {
 
-/// What single bytes of a strings file are outside of quotes and comments.
+/// What a byte of a strings file may be outside of quotes and comments.
 enum CharacterKind : unsigned char {
   kOther = 0,
-  kBlank = 1,      ///< White space and line breaks of ASCII.
-  kLineBreak = 2,  ///< Ends a line.
-  kPlain = 4,      ///< May stand in a token without quotes.
-  kStray = 8,      ///< A control character, which means nothing.
-  kWide = 16,      ///< Part of a character beyond ASCII.
+  kBlank = 1,       ///< White space and line breaks of ASCII.
+  kLineBreak = 2,   ///< Ends a line.
+  kPlain = 4,       ///< Part of a token without quotes.
+  kControl = 8,     ///< A control character without a meaning.
+  kWide = 16,       ///< Part of a character beyond ASCII.
+  kWideBreak = 32,  ///< The first byte of U+2028 and U+2029, which end a line, and of others.
 };
 
 constexpr std::array<unsigned char, 256> makeCharacterKinds() {
@@ -28,9 +31,10 @@ constexpr std::array<unsigned char, 256> makeCharacterKinds() {
     } else if (code == ' ' || code == '\t' || code == '\v' || code == '\f') {
       kinds[code] = kBlank;
     } else if (code < 0x20 || code == 0x7F) {
-      kinds[code] = kStray;
+      kinds[code] = kControl;
     }
   }
+  kinds[0xE2] |= kWideBreak;
   for (const char mark : {'_', '$', '/', ':', '.', '-'}) {
     kinds[static_cast<unsigned char>(mark)] = kPlain;
   }
@@ -41,6 +45,19 @@ inline constexpr std::array<unsigned char, 256> kCharacterKinds = makeCharacterK
 
 [[nodiscard]] inline bool isKind(char c, unsigned kind) noexcept {
   return (kCharacterKinds[static_cast<unsigned char>(c)] & kind) != 0;
+}
+
+/// The size of the line break at the front of `text`; 0 when there is none.
+///
+///     LF    CR    CR LF    U+2028    U+2029
+[[nodiscard]] inline std::size_t lineBreakAt(std::string_view text) noexcept {
+  if (text.empty() || !isKind(text[0], kLineBreak | kWideBreak)) {
+    return 0;
+  }
+  if (isKind(text[0], kLineBreak)) {
+    return text.starts_with("\r\n") ? 2 : 1;
+  }
+  return text.starts_with("\u2028") || text.starts_with("\u2029") ? 3 : 0;
 }
 
 }  // namespace orvanta::strings

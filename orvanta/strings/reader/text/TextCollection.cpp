@@ -2,31 +2,37 @@
 #include <cstddef>
 
 #include <orvanta/strings/reader/text/TextCollection.h>
+#include <orvanta/text/HexDigit.h>
 
 namespace orvanta::strings {
 
 namespace {
 
-bool isHexDigit(char c) noexcept {
-  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+bool isOfData(char c) noexcept {
+  return digitValue(c) != kNoDigit || isKind(c, kBlank);
+}
+
+// A number, a flag or a date.
+bool isOfTypedValue(char c) noexcept {
+  return isKind(c, kPlain | kBlank) || c == '+';
 }
 
 class CollectionPasser {
  public:
-  CollectionPasser(TextScanner& scanner, const char* open) noexcept
-      : scanner_(scanner), at_(open) {}
+  CollectionPasser(TextScanner& scanner, const char* open, bool isStrict) noexcept
+      : scanner_(scanner), at_(open), isStrict_(isStrict) {}
 
   PassedCollection pass() noexcept {
-    bool sound = passPiece();
-    while (sound && depth_ > 0) {
-      at_ = scanner_.skipIdle(at_);
-      sound = at_ != scanner_.end() && passPiece();
+    bool isSound = passPiece();
+    while (isSound && depth_ > 0) {
+      at_ = scanner_.skipAllIdle(at_);
+      isSound = at_ != scanner_.end() && passPiece();
     }
-    return {at_, sound};
+    return {at_, isSound};
   }
 
  private:
-  // A token or a mark; false for what cannot stand there.
+  // A bracket, a mark or a token; false where it cannot stand.
   bool passPiece() noexcept {
     switch (*at_) {
       case '(':
@@ -37,7 +43,7 @@ class CollectionPasser {
         return passData();
       case ')':
       case '}':
-        return close();
+        return isStrict_ ? passMark(*at_) && close(1) : close();
       case ',':
         return passMark(')');
       case '=':
@@ -57,41 +63,63 @@ class CollectionPasser {
     return true;
   }
 
+  bool close(std::size_t levels) noexcept {
+    depth_ -= levels;
+    return true;
+  }
+
+  // Closes what lacks its end inside of what the bracket closes, too. One that closes nothing is a
+  // mere character.
   bool close() noexcept {
-    if (!passMark(*at_)) {
-      return false;
+    std::size_t levels = 1;
+    while (levels <= depth_ && closers_[depth_ - levels] != *at_) {
+      ++levels;
     }
-    --depth_;
-    return true;
+    ++at_;
+    return close(levels <= depth_ ? levels : 0);
   }
 
-  bool passMark(char innermostCloser) noexcept {
-    if (depth_ == 0 || closers_[depth_ - 1] != innermostCloser) {
+  // A mark of arrays or dictionaries, which are told by their closing bracket.
+  bool passMark(char closer) noexcept {
+    const bool isInPlace = closers_[depth_ - 1] == closer;
+    if (!isInPlace && (isStrict_ || (*at_ == '=' && !leaveArrays()))) {
       return false;
     }
     ++at_;
     return true;
   }
 
+  // Closes the arrays that are open, for something that stands in a dictionary; false without one.
+  bool leaveArrays() noexcept {
+    while (depth_ > 0 && closers_[depth_ - 1] == ')') {
+      --depth_;
+    }
+    return depth_ > 0;
+  }
+
+  // "<" that does not begin data is a mere character inside a damaged collection.
   bool passData() noexcept {
-    do {
-      ++at_;
-    } while (at_ != scanner_.end() && (isHexDigit(*at_) || isKind(*at_, kBlank)));
-    if (at_ == scanner_.end() || *at_ != '>') {
-      return false;
+    const char* at = at_ + 1;
+    const bool isTyped = at != scanner_.end() && *at == '*';
+    at += isTyped ? 1 : 0;
+    while (at != scanner_.end() && (isTyped ? isOfTypedValue(*at) : isOfData(*at))) {
+      ++at;
     }
-    ++at_;
-    return true;
+    const bool isClosed = at != scanner_.end() && *at == '>';
+    at_ = isClosed ? at + 1 : at_ + 1;
+    return isClosed || (!isStrict_ && depth_ > 0);
   }
 
   bool passToken() noexcept {
-    const TextToken token = scanner_.readToken(at_);
-    at_ = token.found() ? token.next : at_;
-    return token.found();
+    const TextToken token =
+        isStrict_ ? scanner_.readToken(at_) : readToken(at_, scanner_.lineEnd(at_));
+    at_ = token.found() ? token.next : at_ + 1;
+    return token.found() || !isStrict_;
   }
 
   TextScanner& scanner_;
   const char* at_;
+  bool isStrict_;
   std::size_t depth_ = 0;
   std::array<char, kDeepestCollection> closers_ = {};
 };
@@ -99,7 +127,8 @@ class CollectionPasser {
 }  // namespace
 
 PassedCollection passOverCollection(TextScanner& scanner, const char* open) {
-  return CollectionPasser(scanner, open).pass();
+  const PassedCollection strictly = CollectionPasser(scanner, open, true).pass();
+  return strictly.isClosed ? strictly : CollectionPasser(scanner, open, false).pass();
 }
 
 }  // namespace orvanta::strings

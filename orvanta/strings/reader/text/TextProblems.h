@@ -1,12 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 
 namespace orvanta::strings {
 
-/// Hands problems over with their lines and columns, which are counted only when there are some,
+/// Reports problems with their lines and columns. These are counted only when there are problems,
 /// and once: problems must be added in the order of the text.
 class TextProblems {
  public:
@@ -14,12 +18,24 @@ class TextProblems {
   TextProblems(const char* begin, const ProblemCollector& collector) noexcept
       : collector_(collector), counted_(begin) {}
 
-  void add(const char* at, const char* message);
+  void add(const char* at, std::string_view message);
 
-  /// Whether anything was added.
+  /// Adds what was damaged when `text` was converted to UTF-8: it is reported in its turn.
+  void addDamage(const WholeUtf8& text);
+
+  /// Reports the damage that is left.
+  void finish();
+
+  /// Whether anything was reported.
   [[nodiscard]] bool any() const noexcept { return any_; }
 
  private:
+  struct Problem {
+    const char* at;
+    std::string message;
+  };
+
+  void report(const char* at, std::string_view message);
   void countTo(const char* at) noexcept;
 
   const ProblemCollector& collector_;
@@ -27,6 +43,8 @@ class TextProblems {
   std::size_t line_ = 1;
   std::size_t column_ = 1;
   bool any_ = false;
+  std::vector<Problem> damage_;  // In the order of the text.
+  std::size_t damageReported_ = 0;
 };
 
 }  // namespace orvanta::strings

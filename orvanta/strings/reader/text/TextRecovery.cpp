@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <orvanta/strings/reader/text/StatementSalvage.h>
 #include <orvanta/strings/reader/text/TextCollection.h>
 #include <orvanta/strings/reader/text/TextRecovery.h>
 
@@ -7,45 +8,27 @@ namespace orvanta::strings {
 
 namespace {
 
-constexpr const char* kStrayCharacter = "a stray control character";
-constexpr const char* kOpenComment = "a comment that is never closed; taken to end with its line";
 constexpr const char* kStraySemicolon = "a semicolon without a statement";
 constexpr const char* kStrayBrace = "a stray brace";
+constexpr const char* kBeforeBrace = "text before the opening brace";
 constexpr const char* kBehindBrace = "text behind the closing brace";
 constexpr const char* kMissingBrace = "the closing brace is missing";
-constexpr const char* kNoKey = "no statement begins here; skipped";
-constexpr const char* kNoSign = R"("=" or ";" is missing behind the key; statement skipped)";
-constexpr const char* kNoValue = "the value is missing; statement skipped";
 constexpr const char* kOtherValue = "the value is no text; statement skipped";
 constexpr const char* kOpenCollection = "a value that is no text and does not end; skipped";
-constexpr const char* kMissingSemicolon = "the semicolon is missing";
-constexpr const char* kNoSemicolon = "\";\" is missing behind the value; statement skipped";
+constexpr const char* kLostStatement = "no sound statement; skipped";
 constexpr const char* kBareQuote = "a quote without a backslash inside a value; taken as text";
-constexpr const char* kOpenString = "a string that is never closed; taken to end with its line";
-constexpr const char* kEndlessString = "a string that is never closed; statement skipped";
+constexpr const char* kLoneSurrogate = "half a surrogate pair; U+FFFD stands for it";
+constexpr const char* kTooDamaged = "too much damage; what follows is read line by line";
 
-TextToken rawText(const char* begin, const char* end) noexcept {
-  return {begin, end, end, true};
+bool isWordCharacter(char c) noexcept {
+  return isKind(c, kPlain | kWide) && c != '.' && c != '-' && c != ':' && c != '/';
 }
 
 }  // namespace
 
-TextRecovery::TextRecovery(std::string_view text, TextScanner& scanner, TextStatements& statements,
-                           TextProblems& problems)
-    : scanner_(scanner),
-      statements_(statements),
-      problems_(problems),
-      budget_(text.size()),
-      landmarks_(scanner, budget_),
-      end_(scanner.end()),
-      readTo_(text.data()) {}
-
 const char* TextRecovery::recover(const char* at, const char* previous) {
-  strays_.clear();
-  readTo_ = at;
-  const char* next = recoverHere(at, previous);
-  budget_.spend(next, readTo_);
-  return budget_.isUsedUp() && next < readTo_ ? landmarks_.nextStart(readTo_) : next;
+  const char* const next = recoverHere(at, previous);
+  return budget_.isUsedUp() ? readByLine(next) : readInDoubt(next);
 }
 
 const char* TextRecovery::recoverHere(const char* at, const char* previous) {
@@ -54,269 +37,252 @@ const char* TextRecovery::recoverHere(const char* at, const char* previous) {
     statements_.leaveBraces();
     return at;
   }
-  const char* next = skipIdle(at);
+  std::vector<Stray> strays;
+  const char* const next = skipIdleAndStrays(scanner_, at, strays);
   if (next != at) {
-    reportStrays(next);
+    reportStrays(strays, next);
     return next;
   }
   if (*at == ';' || *at == '{' || *at == '}') {
     return recoverMark(at);
   }
-  return recoverStatement({at, previous});
+  if (const char* const brace = tableBrace(at); brace != nullptr) {
+    problems_.add(at, kBeforeBrace);
+    return brace;
+  }
+  const DamagedStatement statement = readDamagedStatement(scanner_, at);
+  if (statement.end != nullptr) {
+    reportStrays(statement.strays, statement.end);
+    add(statement.key, statement.valueToken);
+    return statement.end;
+  }
+  const bool isCollection = statement.value != nullptr && statement.value != scanner_.end() &&
+                            beginsCollection(*statement.value);
+  return isCollection ? passCollection(statement) : recoverStatement(statement, previous);
 }
 
 void TextRecovery::finish() {
-  if (statements_.braces() == TextStatements::Braces::kOpen) {
-    problems_.add(end_, kMissingBrace);
+  if (expectsBrace()) {
+    problems_.add(scanner_.end(), kMissingBrace);
   }
 }
 
 const char* TextRecovery::recoverMark(const char* at) {
   problems_.add(at, *at == ';' ? kStraySemicolon : kStrayBrace);
-  const char* next = at + 1;
-  while (next != end_ && *next == *at) {
-    ++next;
-  }
-  return next;
+  return std::find_if(at, scanner_.end(), [&](char c) { return c != *at; });
 }
 
-const char* TextRecovery::recoverStatement(Damaged statement) {
-  statement.key = readToken(statement.begin);
-  if (!statement.key.found()) {
-    return giveUp(statement, statement.begin, isQuote(*statement.begin) ? kEndlessString : kNoKey);
+// The opening brace of a table in braces behind something else in its line; null without one.
+const char* TextRecovery::tableBrace(const char* at) {
+  if (statements_.count() > 0 || statements_.braces() != TextStatements::Braces::kNone) {
+    return nullptr;
   }
-  const char* sign = skipIdle(statement.key.next);
-  if (sign != end_ && *sign == ';') {
-    reportStrays(sign);
-    statements_.add(statement.key, statement.key);
-    return sign + 1;
+  const char* const brace = findCharacter('{', at, scanner_.lineEnd(at));
+  if (brace == nullptr) {
+    return nullptr;
   }
-  if (sign == end_ || *sign != '=') {
-    return giveUp(statement, sign, kNoSign);
-  }
-  statement.value = skipIdle(sign + 1);
-  return recoverValue(statement);
+  const PassedCollection table = passOverCollection(scanner_, brace);
+  budget_.spend(brace, table.end);
+  return table.isClosed && scanner_.skipAllIdle(table.end) == scanner_.end() ? brace : nullptr;
 }
 
-const char* TextRecovery::recoverValue(const Damaged& statement) {
-  if (statement.value == end_) {
-    return giveUp(statement, statement.value, kNoValue);
+const char* TextRecovery::recoverStatement(const DamagedStatement& statement,
+                                           const char* previous) {
+  const char* const end = nextStatement(statement.begin, statement);
+  // The same was read once before, in vain, by whoever stopped here.
+  budget_.spend(end, statement.readTo);
+  budget_.spend(end, statement.readTo);
+  if (budget_.isUsedUp()) {
+    return scanner_.lineEnd(statement.begin);
   }
-  const char first = *statement.value;
-  if (first == '<' || first == '(' || first == '{') {
-    return passCollection(statement);
+  const Salvage saved = salvage(scanner_, budget_, statement, end);
+  if (saved.value.found() && !isWholeText(statement, end)) {
+    reportStrays(statement.strays, saved.at);
+    problems_.add(saved.at, saved.message);
+    add(statement.key, saved.value);
+  } else if (!extendPrevious(statement.begin, end, previous)) {
+    problems_.add(saved.at, saved.message);
+    lose(statement.begin, end, saved.at);
   }
-  const TextToken value = readToken(statement.value);
-  if (isQuote(first)) {
-    return value.found() ? recoverString(statement, value) : recoverOpenString(statement, value);
-  }
-  return value.found() ? recoverPlain(statement, value)
-                       : giveUp(statement, statement.value, kNoValue);
+  return end;
 }
 
-const char* TextRecovery::recoverPlain(const Damaged& statement, const TextToken& value) {
-  const char* next = skipIdle(value.next);
-  if (next != end_ && *next == ';') {
-    reportStrays(next);
-    statements_.add(statement.key, value);
-    return next + 1;
-  }
-  if (next > scanner_.lineEnd(value.next) && landmarks_.isHead(next)) {
-    reportStrays(value.next);
-    problems_.add(value.next, kMissingSemicolon);
-    statements_.add(statement.key, value);
-    return value.next;
-  }
-  return giveUp(statement, value.next, kNoSemicolon);
-}
-
-const char* TextRecovery::recoverString(const Damaged& statement, const TextToken& value) {
-  const std::size_t straysBefore = strays_.size();
-  const char* next = skipIdle(value.next);
-  if (next != end_ && *next == ';') {
-    reportStrays(next);
-    statements_.add(statement.key, value);
-    return next + 1;
-  }
-  strays_.resize(straysBefore);
-  if (isSemicolonMissing(value.next, next)) {
-    reportStrays(value.next);
-    problems_.add(value.next, kMissingSemicolon);
-    statements_.add(statement.key, value);
-    return value.next;
-  }
-  return recoverOpenString(statement, value);
-}
-
-bool TextRecovery::isSemicolonMissing(const char* valueEnd, const char* next) {
-  if (next == end_) {
-    return true;
-  }
-  const bool nextLine = next > scanner_.lineEnd(valueEnd);
-  return landmarks_.isHead(next) && (nextLine || isQuote(*next) || *next == '}');
-}
-
-// The string is not closed where it should be: there is a quote too many, or one is missing. If
-// `value` was found, it ends with the next quote, of whatever string that is.
-const char* TextRecovery::recoverOpenString(const Damaged& statement, const TextToken& value) {
-  const char* begin = statement.value + 1;
-  const char* head = landmarks_.nextHead(begin);
-  const char* close = landmarks_.quoteThatEndsLine(*statement.value, begin);
-  if (close < head) {
-    reportStrays(begin);
-    problems_.add(value.found() ? std::min(value.end, close) : statement.value, kBareQuote);
-    statements_.add(statement.key, rawText(begin, close));
-    return std::find(close, end_, ';') + 1;
-  }
-  if (value.found() && value.next < head) {
-    return giveUp(statement, value.next, kNoSemicolon);
-  }
-  return takeLine(statement, head);
-}
-
-const char* TextRecovery::takeLine(const Damaged& statement, const char* head) {
-  const char* begin = statement.value + 1;
-  const char* contentEnd = landmarks_.contentEnd(begin, head);
-  if (head == end_ && contentEnd != scanner_.lineEnd(begin)) {
-    return giveUp(statement, statement.value, kEndlessString);
-  }
-  const char* end = contentEnd;
-  while (end != begin && isKind(end[-1], kBlank)) {
-    --end;
-  }
-  if (end != begin && end[-1] == ';') {
-    --end;
-  }
-  reportStrays(begin);
-  problems_.add(statement.value, kOpenString);
-  statements_.add(statement.key, rawText(begin, end));
-  return contentEnd;
-}
-
-const char* TextRecovery::passCollection(const Damaged& statement) {
-  const PassedCollection passed = budget_.isUsedUp()
-                                      ? PassedCollection{statement.value, false}
-                                      : passOverCollection(scanner_, statement.value);
-  readTo_ = std::max(readTo_, passed.end);
-  if (!passed.closed) {
-    return giveUp(statement, statement.value, kOpenCollection);
-  }
-  reportStrays(statement.value);
-  problems_.add(statement.value, kOtherValue);
-  sawOtherValue_ = true;
-  const char* next = scanner_.skipIdle(passed.end);
-  return next != end_ && *next == ';' ? next + 1 : passed.end;
-}
-
-const char* TextRecovery::giveUp(const Damaged& statement, const char* at, const char* message) {
-  const char* resume = statementInLine(statement.begin);
-  if (resume == nullptr) {
-    resume = extendPrevious(statement);
-    if (resume != nullptr) {
-      return resume;
-    }
-    resume = landmarks_.nextStart(statement.begin);
-  }
-  problems_.add(at <= resume ? at : statement.begin, message);
-  lostBytes_ += static_cast<std::size_t>(resume - statement.begin);
-  return resume;
+// Two words with "=" between them that are all there is may come from anywhere: an answer of a
+// server, say.
+bool TextRecovery::isWholeText(const DamagedStatement& statement, const char* end) const noexcept {
+  return end == scanner_.end() && statements_.count() == 0 && !isQuote(*statement.begin) &&
+         !isQuote(*statement.value);
 }
 
 // What is left of a value after a quote and a semicolon inside it: the statement before this one
-// on the line ended too early. Null when that does not explain what stands there.
-const char* TextRecovery::extendPrevious(const Damaged& statement) {
-  if (statement.previous == nullptr) {
-    return nullptr;
-  }
-  const TextToken key = readToken(statement.previous);
-  const char* sign = scanner_.skipIdle(key.next);
-  if (*sign != '=') {
-    return nullptr;
-  }
-  const char* open = scanner_.skipIdle(sign + 1);
-  const TextToken value = readToken(open);
-  if (!isQuote(*open) || scanner_.lineEnd(value.next) < statement.begin) {
-    return nullptr;
-  }
-  const char* close = landmarks_.quoteThatEndsLine(*open, statement.begin);
-  if (close >= scanner_.lineEnd(statement.begin) ||
-      std::find(statement.begin, close, '=') != close) {
-    return nullptr;
-  }
-  problems_.add(value.end, kBareQuote);
-  statements_.add(key, rawText(value.begin, close));
-  return std::find(close, end_, ';') + 1;
-}
-
-const char* TextRecovery::statementInLine(const char* at) {
-  const char* lineEnd = scanner_.lineEnd(at);
-  while ((at = std::find(at, lineEnd, ';')) != lineEnd) {
-    ++at;
-    while (at != lineEnd && isKind(*at, kBlank)) {
-      ++at;
-    }
-    if (at != lineEnd && isStatementInLine(at, lineEnd)) {
-      return at;
-    }
-  }
-  return nullptr;
-}
-
-bool TextRecovery::isStatementInLine(const char* at, const char* lineEnd) {
-  if (budget_.isUsedUp()) {
+// ended too early in its line. False when that does not explain what stands there.
+bool TextRecovery::extendPrevious(const char* begin, const char* end, const char* previous) {
+  const char* const lineEnd = scanner_.lineEnd(begin);
+  if (previous == nullptr || end < lineEnd) {
     return false;
   }
-  const TextToken key = strings::readToken(at, lineEnd);
-  if (!key.found()) {
-    budget_.spend(at, isQuote(*at) ? lineEnd : at);
+  const DamagedStatement statement = readDamagedStatement(scanner_, previous);
+  if (statement.value == nullptr || !isQuote(*statement.value) ||
+      scanner_.lineEnd(statement.valueToken.next) < begin) {
     return false;
   }
-  bool isWhole = isQuote(*at);
-  const char* next = scanner_.skipIdleUpTo(key.next, lineEnd);
-  if (next < lineEnd && *next == '=') {
-    const char* begin = scanner_.skipIdleUpTo(next + 1, lineEnd);
-    const TextToken value = begin < lineEnd ? strings::readToken(begin, lineEnd) : TextToken{};
-    next = value.found() ? scanner_.skipIdleUpTo(value.next, lineEnd) : lineEnd;
-    isWhole = true;
+  const char* close = lineEnd;
+  while (close != begin && *close != *statement.value) {
+    --close;
   }
-  isWhole = isWhole && next < lineEnd && *next == ';';
-  budget_.spend(at, isWhole ? at : next);
-  return isWhole;
+  const bool isText =
+      std::any_of(begin, close, isWordCharacter) &&
+      std::find_if(begin, close, [](char c) { return c == '=' || isQuote(c); }) == close;
+  const char* const semicolon = isText ? scanner_.skipAllIdle(close + 1) : end;
+  if (semicolon >= lineEnd || *semicolon != ';' || scanner_.skipAllIdle(semicolon + 1) < end) {
+    return false;
+  }
+  problems_.add(statement.valueToken.end, kBareQuote);
+  add(statement.key, {statement.value + 1, close, close + 1, true});
+  return true;
 }
 
-// Passes over stray characters and comments that are never closed, and takes note of them.
-const char* TextRecovery::skipIdle(const char* at) {
-  for (;;) {
+const char* TextRecovery::passCollection(const DamagedStatement& statement) {
+  const PassedCollection passed = passOverCollection(scanner_, statement.value);
+  if (finder_.lacksEnd(passed, expectsBrace())) {
+    problems_.add(statement.value, kOpenCollection);
+    budget_.spend(statement.value, passed.end);
+    const char* const end = nextBesideCollection(statement.value, statement);
+    doubt_ = *statement.value == '<' ? doubt_ : Doubt::kUntilBrace;
+    lose(statement.begin, end, statement.value);
+    return end;
+  }
+  reportStrays(statement.strays, statement.value);
+  problems_.add(statement.value, kOtherValue);
+  sawOtherValue_ = true;
+  const char* const next = scanner_.skipAllIdle(passed.end);
+  if (next == scanner_.end() || *next == ';') {
+    return next == scanner_.end() ? next : next + 1;
+  }
+  return nextBesideCollection(passed.end - 1, statement);
+}
+
+// Where to go on behind a collection that does not end where it should: if its statement began a
+// line, at the next one that does and is indented no further, lest it be part of the collection.
+// Without one, anywhere; but not inside a collection that was opened at the end of its line.
+const char* TextRecovery::nextBesideCollection(const char* from,
+                                               const DamagedStatement& statement) {
+  const char* const first = nextStatement(from, statement);
+  const std::optional<std::size_t> before = indentation(statement.begin);
+  if (!before) {
+    return first;
+  }
+  const char* next = first;
+  while (next != scanner_.end()) {
+    const std::optional<std::size_t> after = indentation(next);
+    if (after && *after <= *before) {
+      return next;
+    }
+    next = finder_.next(next, statement, expectsBrace()).at;
+  }
+  const bool isLastInLine =
+      scanner_.skipAllIdle(statement.value + 1) >= scanner_.lineEnd(statement.value);
+  return isLastInLine || budget_.isUsedUp() ? next : first;
+}
+
+// Finds where to go on behind a damaged statement, and how far to trust what is found.
+const char* TextRecovery::nextStatement(const char* from, const DamagedStatement& statement) {
+  const StatementStart next = finder_.next(from, statement, expectsBrace());
+  if (next.at == scanner_.end() || doubt_ == Doubt::kUntilBrace) {
+    return next.at;
+  }
+  const std::optional<std::size_t> before = indentation(statement.begin);
+  const std::optional<std::size_t> after = indentation(next.at);
+  if (before && after && *after > *before) {
+    doubt_ = Doubt::kWhileIndented;
+    doubtIndentation_ = *before;
+  } else if (!next.isCertain && doubt_ == Doubt::kNone) {
+    doubt_ = Doubt::kOneStatement;
+  }
+  return next.at;
+}
+
+// Reads statements that may belong to a lost one, as long as that is so.
+const char* TextRecovery::readInDoubt(const char* at) {
+  while (doubt_ != Doubt::kNone) {
     at = scanner_.skipIdle(at);
-    readTo_ = std::max(readTo_, at);
-    if (at == end_) {
-      return at;
+    if (at == scanner_.end() || endsDoubt(at)) {
+      break;
     }
-    if (isKind(*at, kStray)) {
-      strays_.push_back({at, kStrayCharacter});
-      while (at != end_ && isKind(*at, kStray)) {
-        ++at;
-      }
-    } else if (scanner_.beginsComment(at)) {
-      strays_.push_back({at, kOpenComment});
-      at = scanner_.lineEnd(at);
-    } else {
-      return at;
+    const char* const next = statements_.readTentatively(scanner_, at);
+    if (next == nullptr) {
+      break;
     }
+    at = next;
+    doubt_ = doubt_ == Doubt::kOneStatement ? Doubt::kNone : doubt_;
+  }
+  return at;
+}
+
+bool TextRecovery::endsDoubt(const char* at) {
+  bool ends = false;
+  if (doubt_ == Doubt::kWhileIndented) {
+    const std::optional<std::size_t> blanks = indentation(at);
+    ends = blanks && *blanks <= doubtIndentation_;
+  } else if (doubt_ == Doubt::kUntilBrace) {
+    ends = *at == '}';
+  }
+  doubt_ = ends ? Doubt::kNone : doubt_;
+  return ends;
+}
+
+// Every line by itself, as far as its statements are sound: what takes no looking ahead.
+const char* TextRecovery::readByLine(const char* at) {
+  const char* const end = scanner_.end();
+  problems_.add(at, kTooDamaged);
+  while (at != end && !statements_.full()) {
+    const char* const lineEnd = scanner_.lineEnd(at);
+    TextScanner line(std::string_view(at, lineEnd));
+    const char* const stop = statements_.read(line, at);
+    lose(stop, lineEnd, lineEnd);
+    at = lineEnd + lineBreakAt({lineEnd, end});
+  }
+  return end;
+}
+
+// The number of blanks before `at` in its line; absent when something else stands there.
+std::optional<std::size_t> TextRecovery::indentation(const char* at) noexcept {
+  const char* blank = at;
+  while (blank != scanner_.begin() && (blank[-1] == ' ' || blank[-1] == '\t')) {
+    --blank;
+  }
+  budget_.spend(blank, at);
+  const bool isFirst = blank == scanner_.begin() || isKind(blank[-1], kLineBreak);
+  return isFirst ? std::optional(static_cast<std::size_t>(at - blank)) : std::nullopt;
+}
+
+void TextRecovery::add(const TextToken& key, const TextToken& value) {
+  if (!statements_.add(key, value)) {
+    problems_.add(value.end, kLoneSurrogate);
   }
 }
 
-TextToken TextRecovery::readToken(const char* at) {
-  const TextToken token = scanner_.readToken(at);
-  readTo_ = std::max(readTo_, token.found() ? token.next : at);
-  return token;
-}
-
-void TextRecovery::reportStrays(const char* before) {
-  for (const Stray& stray : strays_) {
+void TextRecovery::reportStrays(const std::vector<Stray>& strays, const char* before) {
+  for (const Stray& stray : strays) {
     if (stray.at < before) {
       problems_.add(stray.at, stray.message);
     }
+  }
+}
+
+// Every line of it that begins with a string was meant to be a statement. `reported` is the place
+// of the problem that tells of the first.
+void TextRecovery::lose(const char* begin, const char* end, const char* reported) {
+  for (const char* line = scanner_.lineEnd(begin); line < end; line = scanner_.lineEnd(line)) {
+    line = scanner_.skipAllIdle(line);
+    if (line < end && line > reported && isQuote(*line) &&
+        strings::readToken(line, scanner_.lineEnd(line)).found()) {
+      problems_.add(line, kLostStatement);
+    }
+  }
+  loss_.bytes += static_cast<std::size_t>(end - begin);
+  for (std::string_view rest(begin, end); !rest.empty(); rest.remove_prefix(1)) {
+    loss_.noise += isKind(rest[0], kControl) || rest.starts_with("\uFFFD") ? 1 : 0;
   }
 }
 

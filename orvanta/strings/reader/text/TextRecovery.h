@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
-#include <vector>
 
-#include <orvanta/strings/reader/text/TextLandmarks.h>
+#include <orvanta/strings/reader/text/DamagedStatement.h>
+#include <orvanta/strings/reader/text/StatementFinder.h>
 #include <orvanta/strings/reader/text/TextProblems.h>
 #include <orvanta/strings/reader/text/TextStatements.h>
 
@@ -13,75 +14,81 @@ namespace orvanta::strings {
 /// Takes over where a statement is not sound: saves of it what can be saved, reports it, and finds
 /// the place where reading can go on.
 ///
-/// What it saves:
-/// - A value with bare quotes inside: it ends at the `";` that ends a line.
-/// - A string that is never closed: it ends with its line if statements follow.
-/// - A statement without its semicolon, if the text ends or another statement follows.
-/// - A statement with control characters between its tokens.
-/// Whatever else is wrong costs the statement. So does a value that is no text.
+/// A damaged statement reaches to the next one, as `StatementFinder` finds it; `salvage` judges
+/// what stands between the two. A value that is no text costs its statement, and nothing inside it
+/// is read.
+///
+/// Where what follows might still belong to a lost statement, it is read tentatively: its entries
+/// yield to every other one with their key.
 class TextRecovery {
  public:
   /// All of `text` is there; the others must outlive this.
   TextRecovery(std::string_view text, TextScanner& scanner, TextStatements& statements,
-               TextProblems& problems);
+               TextProblems& problems)
+      : scanner_(scanner),
+        statements_(statements),
+        problems_(problems),
+        budget_(text.size()),
+        finder_(scanner, budget_) {}
 
   /// Goes on at `at`, where `statements` stopped; `previous` is the beginning of the statement
-  /// before it, if that was sound, else null. Gives the place for `statements` to go on at.
+  /// before it if that was sound, else null. Gives the place for `statements` to go on at.
   [[nodiscard]] const char* recover(const char* at, const char* previous);
 
   /// Reports what is wrong with the end of the text.
   void finish();
 
-  /// How many bytes belonged to no statement.
-  [[nodiscard]] std::size_t lostBytes() const noexcept { return lostBytes_; }
+  /// What belonged to no statement.
+  struct Loss {
+    std::size_t bytes = 0;
+    std::size_t noise = 0;  ///< How many of them stand for no character of a text.
+  };
+  [[nodiscard]] const Loss& loss() const noexcept { return loss_; }
 
   /// Whether a statement was lost only because its value is no text.
   [[nodiscard]] bool sawOtherValue() const noexcept { return sawOtherValue_; }
 
  private:
-  // A statement as far as it could be read.
-  struct Damaged {
-    const char* begin;
-    const char* previous;
-    TextToken key = {};
-    const char* value = nullptr;  // Where the value begins.
-  };
-  struct Stray {
-    const char* at;
-    const char* message;
+  /// How long what follows may belong to a lost statement.
+  enum class Doubt {
+    kNone,
+    kOneStatement,
+    kWhileIndented,  ///< By more than the lost statement.
+    kUntilBrace,
   };
 
   [[nodiscard]] const char* recoverHere(const char* at, const char* previous);
   [[nodiscard]] const char* recoverMark(const char* at);
-  [[nodiscard]] const char* recoverStatement(Damaged statement);
-  [[nodiscard]] const char* recoverValue(const Damaged& statement);
-  [[nodiscard]] const char* recoverPlain(const Damaged& statement, const TextToken& value);
-  [[nodiscard]] const char* recoverString(const Damaged& statement, const TextToken& value);
-  [[nodiscard]] const char* recoverOpenString(const Damaged& statement, const TextToken& value);
-  [[nodiscard]] const char* takeLine(const Damaged& statement, const char* head);
-  [[nodiscard]] const char* passCollection(const Damaged& statement);
-  [[nodiscard]] const char* giveUp(const Damaged& statement, const char* at, const char* message);
-  [[nodiscard]] const char* extendPrevious(const Damaged& statement);
+  [[nodiscard]] const char* tableBrace(const char* at);
+  [[nodiscard]] const char* recoverStatement(const DamagedStatement& statement,
+                                             const char* previous);
+  [[nodiscard]] const char* passCollection(const DamagedStatement& statement);
+  [[nodiscard]] bool isWholeText(const DamagedStatement& statement, const char* end) const noexcept;
+  [[nodiscard]] bool extendPrevious(const char* begin, const char* end, const char* previous);
 
-  [[nodiscard]] bool isSemicolonMissing(const char* valueEnd, const char* next);
-  [[nodiscard]] const char* statementInLine(const char* at);
-  [[nodiscard]] bool isStatementInLine(const char* at, const char* lineEnd);
-  // These move over the text and take note of how far it was read.
-  [[nodiscard]] const char* skipIdle(const char* at);
-  [[nodiscard]] TextToken readToken(const char* at);
+  [[nodiscard]] const char* nextStatement(const char* from, const DamagedStatement& statement);
+  [[nodiscard]] const char* nextBesideCollection(const char* from,
+                                                 const DamagedStatement& statement);
+  [[nodiscard]] bool endsDoubt(const char* at);
+  [[nodiscard]] const char* readInDoubt(const char* at);
+  [[nodiscard]] const char* readByLine(const char* at);
+  [[nodiscard]] std::optional<std::size_t> indentation(const char* at) noexcept;
 
-  void reportStrays(const char* before);
+  void add(const TextToken& key, const TextToken& value);
+  void reportStrays(const std::vector<Stray>& strays, const char* before);
+  void lose(const char* begin, const char* end, const char* reported);
+  [[nodiscard]] bool expectsBrace() const noexcept {
+    return statements_.braces() == TextStatements::Braces::kOpen;
+  }
 
   TextScanner& scanner_;
   TextStatements& statements_;
   TextProblems& problems_;
   LookAheadBudget budget_;
-  TextLandmarks landmarks_;
-  const char* end_;
-  const char* readTo_;  // How far the statement at hand was read, however it ended.
-  // What is wrong between the tokens of the statement at hand, reported if that is saved.
-  std::vector<Stray> strays_;
-  std::size_t lostBytes_ = 0;
+  StatementFinder finder_;
+  Doubt doubt_ = Doubt::kNone;
+  std::size_t doubtIndentation_ = 0;
+  Loss loss_;
   bool sawOtherValue_ = false;
 };
 

@@ -1,6 +1,3 @@
-#include <cstddef>
-#include <string_view>
-
 #include <orvanta/strings/reader/text/TextScanner.h>
 
 namespace orvanta::strings {
@@ -11,10 +8,12 @@ namespace {
 // paragraph separator, and a byte-order mark left over from joined files.
 constexpr std::string_view kWideBlanks[] = {"\u0085", "\u00A0", "\u2028", "\u2029", "\uFEFF"};
 
-// The inside and the end of the comment that stands before every statement of a downloaded table.
+// The inside and the end of the comment before every statement of a downloaded table.
 constexpr std::string_view kEmptyComment = " */";
 
+constexpr std::string_view kCommentBegin = "/*";
 constexpr std::string_view kCommentEnd = "*/";
+constexpr std::string_view kLineCommentBegin = "//";
 
 std::size_t wideBlankAt(std::string_view text) noexcept {
   for (const std::string_view blank : kWideBlanks) {
@@ -25,21 +24,21 @@ std::size_t wideBlankAt(std::string_view text) noexcept {
   return 0;
 }
 
+// Whether another comment seems to begin inside the one from `begin` to `end`.
+bool holdsComment(const char* begin, const char* end) noexcept {
+  constexpr std::size_t kShortest = 6;
+  const std::string_view comment(begin, end);
+  return comment.size() >= kShortest &&
+         comment.find(kCommentBegin, kCommentBegin.size()) != std::string_view::npos;
+}
+
 }  // namespace
 
-const char* TextScanner::skipIdleUpTo(const char* at, const char* limit) noexcept {
-  while (at < limit) {
+template <bool kPassesNested>
+const char* TextScanner::skipRest(const char* at) noexcept {
+  while (at != end_) {
     const char* before = at;
-    if (isKind(*at, kBlank)) {
-      ++at;
-    } else if (beginsComment(at)) {
-      const char* behind = skipComment(at);
-      at = behind == nullptr ? at : behind;
-    } else if (beginsLineComment(at)) {
-      at = lineEnd(at);
-    } else if (isKind(*at, kWide)) {
-      at += wideBlankAt({at, end_});
-    }
+    at = skipOne<kPassesNested>(at);
     if (at == before) {
       break;
     }
@@ -47,13 +46,34 @@ const char* TextScanner::skipIdleUpTo(const char* at, const char* limit) noexcep
   return at;
 }
 
+template const char* TextScanner::skipRest<false>(const char* at) noexcept;
+template const char* TextScanner::skipRest<true>(const char* at) noexcept;
+
+template <bool kPassesNested>
+const char* TextScanner::skipOne(const char* at) noexcept {
+  if (isKind(*at, kBlank)) {
+    return at + 1;
+  }
+  if (isKind(*at, kWide)) {
+    return at + wideBlankAt({at, end_});
+  }
+  if (std::string_view(at, end_).starts_with(kLineCommentBegin)) {
+    return lineEnd(at);
+  }
+  if (!beginsComment(at)) {
+    return at;
+  }
+  const char* behind = skipComment(at);
+  return behind == nullptr || (!kPassesNested && holdsComment(at, behind)) ? at : behind;
+}
+
 const char* TextScanner::skipComment(const char* at) noexcept {
-  const char* inside = at + 2;
+  const char* inside = at + kCommentMark;
   if (std::string_view(inside, end_).starts_with(kEmptyComment)) {
     return inside + kEmptyComment.size();
   }
   const char* end = commentEnds_.first(inside);
-  return end == end_ ? nullptr : end + kCommentEnd.size();
+  return end == end_ ? nullptr : end + kCommentMark;
 }
 
 const char* TextScanner::findCommentEnd(const char* from, const char* to) noexcept {
@@ -62,10 +82,12 @@ const char* TextScanner::findCommentEnd(const char* from, const char* to) noexce
 }
 
 const char* TextScanner::findLineEnd(const char* from, const char* to) noexcept {
-  while (from != to && !isKind(*from, kLineBreak)) {
-    ++from;
+  for (; from != to; ++from) {
+    if (isKind(*from, kLineBreak | kWideBreak) && lineBreakAt({from, to}) > 0) {
+      return from;
+    }
   }
-  return from == to ? nullptr : from;
+  return nullptr;
 }
 
 }  // namespace orvanta::strings

@@ -8,30 +8,33 @@
 
 namespace orvanta::strings {
 
-/// Moves over a piece of UTF-8 text: what stands between tokens, and the tokens.
+/// Moves over a piece of UTF-8 text: the white space and comments between tokens, and the tokens.
 class TextScanner {
  public:
   /// The text must outlive the scanner.
   explicit TextScanner(std::string_view text) noexcept
-      : end_(text.data() + text.size()),
-        commentEnds_(text.data(), end_),
-        lineEnds_(text.data(), end_),
-        backslashes_(text.data(), end_) {}
+      : begin_(text.data()),
+        end_(text.data() + text.size()),
+        commentEnds_(begin_, end_),
+        lineEnds_(begin_, end_),
+        backslashes_(begin_, end_) {}
 
+  [[nodiscard]] const char* begin() const noexcept { return begin_; }
   [[nodiscard]] const char* end() const noexcept { return end_; }
 
-  /// Behind the white space and the comments at `at`. Stops at a comment that is never closed.
+  /// Behind the white space and the comments at `at`. Stops at a comment that is never closed, and
+  /// at one with another comment's beginning inside: the end of one before it may be missing.
   [[nodiscard]] const char* skipIdle(const char* at) noexcept {
     while (at != end_ && isKind(*at, kBlank)) {
       ++at;
     }
-    return at == end_ || (*at != '/' && !isKind(*at, kWide)) ? at : skipIdleUpTo(at, end_);
+    return at == end_ || (*at != '/' && !isKind(*at, kWide)) ? at : skipRest<false>(at);
   }
 
-  /// The same, but not on from `limit` or beyond: a comment may lead there, never further.
-  [[nodiscard]] const char* skipIdleUpTo(const char* at, const char* limit) noexcept;
+  /// The same, but stops only at a comment that is never closed.
+  [[nodiscard]] const char* skipAllIdle(const char* at) noexcept { return skipRest<true>(at); }
 
-  /// The token at `at`, quoted or not; none where none begins, or a quote is not closed.
+  /// The token at `at`; none where none begins, or where a quote is not closed.
   [[nodiscard]] TextToken readToken(const char* at) noexcept {
     if (at == end_ || !isQuote(*at)) {
       return strings::readToken(at, end_);
@@ -48,9 +51,6 @@ class TextScanner {
   [[nodiscard]] bool beginsComment(const char* at) const noexcept {
     return end_ - at >= 2 && at[0] == '/' && at[1] == '*';
   }
-  [[nodiscard]] bool beginsLineComment(const char* at) const noexcept {
-    return end_ - at >= 2 && at[0] == '/' && at[1] == '/';
-  }
 
   /// Behind the comment that begins at `at`; null when it is never closed.
   [[nodiscard]] const char* skipComment(const char* at) noexcept;
@@ -59,16 +59,24 @@ class TextScanner {
   [[nodiscard]] const char* lineEnd(const char* at) noexcept { return lineEnds_.first(at); }
 
  private:
+  static constexpr std::size_t kCommentMark = 2;
+
   [[nodiscard]] static const char* findCommentEnd(const char* from, const char* to) noexcept;
   [[nodiscard]] static const char* findLineEnd(const char* from, const char* to) noexcept;
   [[nodiscard]] static const char* findBackslash(const char* from, const char* to) noexcept {
     return findCharacter('\\', from, to);
   }
 
+  template <bool kPassesNested>
+  [[nodiscard]] const char* skipRest(const char* at) noexcept;
+  template <bool kPassesNested>
+  [[nodiscard]] const char* skipOne(const char* at) noexcept;
+
+  const char* begin_;
   const char* end_;
   RememberedSearch<findCommentEnd, 2> commentEnds_;
-  RememberedSearch<findLineEnd> lineEnds_;
-  RememberedSearch<findBackslash> backslashes_;
+  RememberedSearch<findLineEnd, 3> lineEnds_;
+  RememberedSearch<findBackslash, 1> backslashes_;
 };
 
 }  // namespace orvanta::strings

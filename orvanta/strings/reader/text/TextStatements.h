@@ -2,13 +2,12 @@
 
 #include <cstddef>
 
-#include <orvanta/strings/StringTable.h>
 #include <orvanta/strings/StringTableBuilder.h>
 #include <orvanta/strings/reader/text/TextScanner.h>
 
 namespace orvanta::strings {
 
-/// The statements of a strings file, as long as nothing is wrong with them.
+/// The statements of a strings file, as long as they are sound.
 ///
 ///     file      = statements | "{" statements "}"
 ///     statement = key "=" value ";" | key ";"
@@ -24,10 +23,17 @@ class TextStatements {
   /// what is no sound statement, or is not all there.
   [[nodiscard]] const char* read(TextScanner& scanner, const char* at);
 
-  /// Adds an entry that was found another way.
-  void add(const TextToken& key, const TextToken& value);
+  /// Reads one statement at `at` and gives its end; null, with nothing read, where none is sound.
+  /// A tentative entry yields to any other with its key.
+  [[nodiscard]] const char* readTentatively(TextScanner& scanner, const char* at) {
+    return readStatement(scanner, at, StringTableBuilder::Standing::kTentative);
+  }
 
-  /// Where the last statement begins that `read` has read; null before the first.
+  /// Adds an entry that was found another way. False when a surrogate of its escapes was alone, for
+  /// which U+FFFD stands.
+  bool add(const TextToken& key, const TextToken& value);
+
+  /// The beginning of the last statement that `read` has read; null before the first.
   [[nodiscard]] const char* last() const noexcept { return last_; }
 
   [[nodiscard]] std::size_t count() const noexcept { return count_; }
@@ -40,9 +46,15 @@ class TextStatements {
   [[nodiscard]] bool full() const noexcept { return full_; }
 
  private:
+  using Standing = StringTableBuilder::Standing;
+
   // Both give the end of what they read, null where it is not sound.
-  [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at);
+  [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at, Standing standing);
   [[nodiscard]] const char* readBrace(const char* at) noexcept;
+
+  enum class Damaged { kRefuse, kAccept };
+  // False when there is damage in the escapes, which is accepted or not, or when no entry fits.
+  bool put(const TextToken& key, const TextToken& value, Standing standing, Damaged damaged);
 
   StringTableBuilder& table_;
   const char* last_ = nullptr;

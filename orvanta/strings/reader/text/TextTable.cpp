@@ -1,6 +1,4 @@
-#include <memory>
-
-#include <orvanta/strings/encoding/Utf8Validity.h>
+#include <orvanta/strings/reader/text/NotATable.h>
 #include <orvanta/strings/reader/text/TextProblems.h>
 #include <orvanta/strings/reader/text/TextRecovery.h>
 #include <orvanta/strings/reader/text/TextStatements.h>
@@ -11,55 +9,36 @@ namespace orvanta::strings {
 
 namespace {
 
-// Of a text that begins with something else than a statement, one part in this many must be
-// statements, or they are taken to be there by chance. Of what begins as object notation does,
-// which may hold any text between its quotes, more must be.
-constexpr std::size_t kLeastPart = 16;
+// Of a text that begins as object notation does, which may hold anything between its quotes, so
+// much must be statements.
 constexpr std::size_t kLeastPartOfObjects = 2;
+
+// A text that begins with anything else than a statement is no text if next to nothing of it is
+// statements and so many of the lost bytes are control characters or invalid.
+constexpr std::size_t kLeastPartOfNoise = 16;
 
 constexpr const char* kNotATable = "this is no strings file";
 
-// Where reading stands: an offset into the UTF-8 text, and that of the statement before it.
+// How far reading got: an offset into the UTF-8 text, and that of the statement before it.
 struct Progress {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
   std::size_t at = 0;
   std::size_t previous = kNone;
-  bool done = false;
+  bool isDone = false;  // And nothing is to be reported.
 };
-
-bool beginsMarkup(std::string_view text) noexcept {
-  if (text.size() < 2 || text[0] != '<') {
-    return false;
-  }
-  const char next = text[1];
-  return next == '!' || next == '?' || next == '/' || (next >= 'a' && next <= 'z') ||
-         (next >= 'A' && next <= 'Z');
-}
-
-// "[" or "{", then a quoted key and a colon.
-bool beginsObjectNotation(std::string_view text, TextScanner& scanner) noexcept {
-  const char* at = scanner.skipIdle(text.data());
-  if (at == scanner.end() || (*at != '{' && *at != '[')) {
-    return false;
-  }
-  if (*at == '[') {
-    return true;
-  }
-  const TextToken key = scanner.readToken(scanner.skipIdle(at + 1));
-  const char* sign = key.found() ? scanner.skipIdle(key.next) : scanner.end();
-  return sign != scanner.end() && *sign == ':';
-}
 
 // Reads a text that is all there, from where `progress` stands.
 class WholeText {
  public:
-  WholeText(std::string_view text, TextStatements& statements, const ProblemCollector& problems)
-      : text_(text),
+  WholeText(const WholeUtf8& text, TextStatements& statements, const ProblemCollector& problems)
+      : text_(text.view()),
         statements_(statements),
-        scanner_(text),
-        problems_(text.data(), problems),
-        recovery_(text, scanner_, statements, problems_) {}
+        scanner_(text_),
+        problems_(text_.data(), problems),
+        recovery_(text_, scanner_, statements, problems_) {
+    problems_.addDamage(text);
+  }
 
   bool read(Progress progress) {
     const char* at = text_.data() + progress.at;
@@ -71,22 +50,22 @@ class WholeText {
       if (at == scanner_.end() || statements_.full()) {
         break;
       }
-      if (statements_.count() != countBefore) {
-        previous = statements_.last();
-      }
+      previous = statements_.count() != countBefore ? statements_.last() : previous;
       if (!recover(at, previous)) {
         return false;
       }
       previous = nullptr;
     }
     recovery_.finish();
-    return isTable();
+    const bool isSound = !problems_.any();
+    problems_.finish();
+    return isSound || isTable();
   }
 
  private:
   bool recover(const char*& at, const char* previous) {
     const bool isFirst = statements_.count() == 0 && !problems_.any();
-    if (isFirst && beginsMarkup({at, scanner_.end()})) {
+    if (isFirst && (beginsMarkup({at, scanner_.end()}) || beginsList(scanner_))) {
       problems_.add(at, kNotATable);
       return false;
     }
@@ -95,15 +74,19 @@ class WholeText {
     return true;
   }
 
-  [[nodiscard]] bool isTable() noexcept {
+  [[nodiscard]] bool isTable() {
     if (statements_.count() == 0) {
-      return !problems_.any() || recovery_.sawOtherValue();
+      return recovery_.sawOtherValue();
     }
-    return !beginsBadly_ || text_.size() - recovery_.lostBytes() >= text_.size() / leastPart();
-  }
-
-  [[nodiscard]] std::size_t leastPart() noexcept {
-    return beginsObjectNotation(text_, scanner_) ? kLeastPartOfObjects : kLeastPart;
+    const TextRecovery::Loss& loss = recovery_.loss();
+    const std::size_t kept = text_.size() - loss.bytes;
+    if (!beginsBadly_) {
+      return true;
+    }
+    if (beginsObjectNotation(scanner_)) {
+      return kept >= text_.size() / kLeastPartOfObjects;
+    }
+    return kept >= text_.size() / kLeastPartOfNoise || loss.noise < loss.bytes / kLeastPartOfNoise;
   }
 
   std::string_view text_;
@@ -114,8 +97,7 @@ class WholeText {
   bool beginsBadly_ = false;
 };
 
-// Reads sound statements out of a window that moves through the text; gives where that had to
-// stop.
+// Reads sound statements out of a window that moves through the text, as far as that goes.
 Progress readThroughWindow(EncodedText text, TextStatements& statements) {
   TextWindow window(text);
   Progress progress;
@@ -130,8 +112,10 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
           window.offset() + static_cast<std::size_t>(statements.last() - lines.data());
     }
     progress.at = window.offset() + consumed;
-    progress.done = window.atEnd() && consumed == lines.size();
-    if (window.atEnd() || !window.advance(consumed)) {
+    const bool isAllRead = window.atEnd() && consumed == lines.size();
+    progress.isDone =
+        isAllRead && !window.isDamaged() && statements.braces() != TextStatements::Braces::kOpen;
+    if (window.atEnd() || statements.full() || !window.advance(consumed)) {
       return progress;
     }
   }
@@ -141,16 +125,17 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
 
 bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems) {
   TextStatements statements(table);
-  if (text.encoding == TextEncoding::kUtf8 && isValidUtf8(text.bytes)) {
-    return WholeText(text.bytes, statements, problems).read({});
-  }
-  const Progress progress = readThroughWindow(text, statements);
-  if (statements.full() ||
-      (progress.done && statements.braces() != TextStatements::Braces::kOpen)) {
-    return true;
+  Progress progress;
+  const bool isUtf8 =
+      text.encoding == TextEncoding::kUtf8 || text.encoding == TextEncoding::kBrokenUtf8;
+  if (!isUtf8) {
+    progress = readThroughWindow(text, statements);
+    if (statements.full() || progress.isDone) {
+      return true;
+    }
   }
   const WholeUtf8 whole(text);
-  return WholeText(whole.view(), statements, problems).read(progress);
+  return WholeText(whole, statements, problems).read(progress);
 }
 
 }  // namespace orvanta::strings

@@ -23,11 +23,11 @@ struct TextToken {
   return c == '"' || c == '\'';
 }
 
-/// The token at `at`, quoted or not; none where none begins, or a quote is not closed before `end`.
+/// The token at `at`; none where none begins, or where a quote is not closed before `end`.
 [[nodiscard]] TextToken readToken(const char* at, const char* end) noexcept;
 
-/// The same, where `at` is known to be a quote, and the first quote of its kind behind it (null for
-/// none) and the first backslash behind it (`end` for none) have been looked up.
+/// The same for the quote at `open`, where the first quote of its kind behind it (null for none)
+/// and the first backslash behind it (`end` for none) are known.
 [[nodiscard]] TextToken readQuoted(const char* open, const char* close, const char* backslash,
                                    const char* end) noexcept;
 
@@ -38,14 +38,5 @@ struct TextToken {
                       : static_cast<const char*>(
                             std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
 }
-
-/// Writes the text that a quoted string stands for and gives its end. It is never longer than
-/// `raw`.
-///
-///     \n \t \r \a \b \f \v    the control character
-///     \U0041                  the UTF-16 unit with this number, of one to four digits
-///     \101                    the character with this octal number in the NeXTSTEP set
-///     \ and anything else     that, so \" \' \\ and a line break too
-char* resolveEscapes(std::string_view raw, char* out) noexcept;
 
 }  // namespace orvanta::strings

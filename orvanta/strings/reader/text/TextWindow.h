@@ -10,7 +10,7 @@
 namespace orvanta::strings {
 
 /// A piece of a text as UTF-8 that moves through the text, small enough to stay in the processor's
-/// cache: what is in another encoding need never be there as a whole.
+/// cache. Text in another encoding is never converted as a whole.
 class TextWindow {
  public:
   explicit TextWindow(EncodedText text);
@@ -18,14 +18,19 @@ class TextWindow {
   /// The lines in the window; at the end of the text, all that is left. Valid until `advance`.
   [[nodiscard]] std::string_view lines() const noexcept { return {bytes_.get(), linesSize_}; }
 
-  /// Where `lines` stand in the whole text.
+  /// The offset of `lines` in the whole text.
   [[nodiscard]] std::size_t offset() const noexcept { return offset_; }
 
   /// Whether `lines` reach to the end of the text.
   [[nodiscard]] bool atEnd() const noexcept { return transcoder_.atEnd(); }
 
-  /// Drops `consumed` bytes of `lines` and fills up. False, with nothing done, when that would
-  /// bring too little that is new: something does not fit into a window.
+  /// Whether a character was damaged so far, or is torn at the end of the text.
+  [[nodiscard]] bool isDamaged() const noexcept {
+    return transcoder_.replacements() > 0 || transcoder_.isTorn();
+  }
+
+  /// Drops `consumed` bytes of `lines` and fills up. False, with nothing done, when less than half
+  /// of the window would be new: a statement or comment does not fit into it.
   [[nodiscard]] bool advance(std::size_t consumed) noexcept;
 
  private:

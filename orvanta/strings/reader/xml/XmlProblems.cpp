@@ -1,24 +1,26 @@
 #include <algorithm>
 
-#include <orvanta/strings/reader/text/TextProblems.h>
 #include <orvanta/strings/reader/xml/XmlProblems.h>
 
 namespace orvanta::strings {
 
-void XmlProblems::add(std::size_t offset, const char* message) {
-  if (collector_) {
-    problems_.push_back({offset, message});
-  }
+XmlProblems::XmlProblems(const WholeUtf8& text, const ProblemCollector& collector)
+    : begin_(text.view().data()), inOrder_(begin_, collector) {
+  inOrder_.addDamage(text);
 }
 
 void XmlProblems::handOver() {
   std::stable_sort(problems_.begin(), problems_.end(),
                    [](const Problem& a, const Problem& b) { return a.offset < b.offset; });
-  TextProblems inOrder(utf8_.data(), collector_);
   for (const Problem& problem : problems_) {
-    inOrder.add(utf8_.data() + problem.offset, problem.message);
+    inOrder_.add(begin_ + problem.offset, problem.message);
   }
   problems_.clear();
+}
+
+void XmlProblems::finish() {
+  handOver();
+  inOrder_.finish();
 }
 
 }  // namespace orvanta::strings

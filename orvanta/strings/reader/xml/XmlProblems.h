@@ -1,24 +1,28 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
 #include <vector>
 
-#include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/strings/encoding/TextEncoding.h>
+#include <orvanta/strings/reader/text/TextProblems.h>
 
 namespace orvanta::strings {
 
-/// Gathers where a text was found damaged, in any order, and hands it on in the order of the text.
-/// Lines and columns are worked out then, in one pass; without a collector nothing is kept.
+/// Reports problems of an XML text, by offset. A few may be added out of order before they are
+/// handed over together.
 class XmlProblems {
  public:
-  XmlProblems(std::string_view utf8, const ProblemCollector& collector)
-      : utf8_(utf8), collector_(collector) {}
+  /// Both must outlive this.
+  XmlProblems(const WholeUtf8& text, const ProblemCollector& collector);
 
   /// `message` must live as long as this object.
-  void add(std::size_t offset, const char* message);
+  void add(std::size_t offset, const char* message) { problems_.push_back({offset, message}); }
 
+  /// Reports what was added, in the order of the text. Nothing before it may be added later.
   void handOver();
+
+  /// Reports all that is left.
+  void finish();
 
  private:
   struct Problem {
@@ -26,8 +30,8 @@ class XmlProblems {
     const char* message;
   };
 
-  std::string_view utf8_;
-  const ProblemCollector& collector_;
+  const char* begin_;
+  TextProblems inOrder_;
   std::vector<Problem> problems_;
 };
 

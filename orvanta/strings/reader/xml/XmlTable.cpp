@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include <orvanta/strings/reader/xml/XmlEncoding.h>
 #include <orvanta/strings/reader/xml/XmlNesting.h>
 #include <orvanta/strings/reader/xml/XmlProblems.h>
 #include <orvanta/strings/reader/xml/XmlScanner.h>
@@ -20,8 +21,13 @@ constexpr std::string_view kValue = "string";
 constexpr const char* kNoList = "no property list";
 constexpr const char* kStrayText = "text outside of a key or value";
 constexpr std::string_view kWhiteSpace = " \t\r\n";
+constexpr std::string_view kComment = "<!--";
 constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
-                                                         "<!--"};
+                                                         "<dict"};
+
+bool endsName(char c) noexcept {
+  return kWhiteSpace.find(c) != std::string_view::npos || c == '>' || c == '/';
+}
 
 bool endsDictionary(const XmlToken& token) noexcept {
   return token.closes(kDictionary) || token.closes(kList);
@@ -56,11 +62,12 @@ class XmlTableReader {
 
   bool enterDictionary() {
     const XmlToken list = nextTag();
-    if (!list.opens(kList) || list.selfClosing) {
+    const bool isList = list.opens(kList) && !list.selfClosing;
+    if (!isList && !list.opens(kDictionary)) {
       problems_.add(list.offset, kNoList);
       return false;
     }
-    const XmlToken dictionary = nextTag();
+    const XmlToken dictionary = isList ? nextTag() : list;
     if (!dictionary.opens(kDictionary)) {
       problems_.add(dictionary.offset, "a property list without a dictionary at its top");
       return false;
@@ -82,10 +89,10 @@ class XmlTableReader {
         reportStrayText(token);
         return true;
       case XmlPiece::kLiteral:
-        problems_.add(token.offset, kStrayText);
+        addStray(token.offset, kStrayText);
         return true;
       case XmlPiece::kBroken:
-        problems_.add(token.offset, "a '<' that begins no whole tag");
+        addStray(token.offset, "a '<' that begins no whole tag");
         return true;
       case XmlPiece::kClosing:
         return readClosing(token);
@@ -98,7 +105,14 @@ class XmlTableReader {
   void reportStrayText(const XmlToken& token) {
     const std::size_t blank = token.text.find_first_not_of(kWhiteSpace);
     if (blank != std::string_view::npos) {
-      problems_.add(token.offset + blank, kStrayText);
+      addStray(token.offset + blank, kStrayText);
+    }
+  }
+
+  // Between two elements only the first problem is reported.
+  void addStray(std::size_t offset, const char* message) {
+    if (!std::exchange(isStrayReported_, true)) {
+      problems_.add(offset, message);
     }
   }
 
@@ -110,7 +124,7 @@ class XmlTableReader {
     if (token.text == kDictionary && !isClosed_) {
       closeDictionary(token.offset);
     } else {
-      problems_.add(token.offset, "a closing tag without its opening tag");
+      addStray(token.offset, "a closing tag without its opening tag");
     }
     return true;
   }
@@ -129,17 +143,20 @@ class XmlTableReader {
   }
 
   bool readOpening(const XmlToken& token) {
+    isStrayReported_ = false;
     if (isClosed_) {
       problems_.add(closedAt_, "the dictionary ends before its last pair");
       isClosed_ = false;
     }
     if (token.text == kKey) {
       dropKey();
+      problems_.handOver();
       keyAt_ = token.offset;
       held_ = readText(token, key_) ? Key::kHeld : Key::kLost;
       return true;
     }
     const Key owner = std::exchange(held_, Key::kNone);
+    problems_.handOver();
     if (owner == Key::kNone) {
       problems_.add(token.offset, "a value without a key");
     }
@@ -195,11 +212,15 @@ class XmlTableReader {
   }
 
   bool appendData(const XmlToken& token, XmlText& text) {
-    const std::optional<std::size_t> unknown = text.appendData(token.text);
-    if (unknown) {
-      problems_.add(token.offset + *unknown, "a reference to an entity that is not known");
+    const XmlText::BadReferences bad = text.appendData(token.text);
+    if (bad.toNoCharacter) {
+      problems_.add(token.offset + *bad.toNoCharacter,
+                    "a reference to no character; U+FFFD stands for it");
     }
-    return !unknown;
+    if (bad.unknown) {
+      problems_.add(token.offset + *bad.unknown, "a reference to an entity that is not known");
+    }
+    return !bad.unknown;
   }
 
   // After damage inside an element: goes on behind its end or, where that is missing, before what
@@ -246,6 +267,7 @@ class XmlTableReader {
   XmlText value_;
   Key held_ = Key::kNone;
   std::size_t keyAt_ = 0;
+  bool isStrayReported_ = false;
   bool isClosed_ = false;
   std::size_t closedAt_ = 0;
 };
@@ -255,19 +277,22 @@ class XmlTableReader {
 bool looksLikeXmlTable(std::string_view utf8) noexcept {
   const std::size_t begin = std::min(utf8.find_first_not_of(kWhiteSpace), utf8.size());
   const std::string_view text = utf8.substr(begin);
-  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
-                     [&](std::string_view beginning) { return text.starts_with(beginning); });
+  return text.starts_with(kComment) ||
+         std::any_of(kBeginnings.begin(), kBeginnings.end(), [&](std::string_view beginning) {
+           return text.starts_with(beginning) &&
+                  (text.size() == beginning.size() || endsName(text[beginning.size()]));
+         });
 }
 
-bool readXmlTable(std::string_view utf8, StringTableBuilder& table,
-                  const ProblemCollector& problems) {
-  XmlProblems found(utf8, problems);
-  const bool isXml = looksLikeXmlTable(utf8);
-  if (!isXml) {
-    found.add(0, kNoList);
+bool readXmlTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems) {
+  const DeclaredText declared = asDeclared(text);
+  const WholeUtf8 whole(declared.text);
+  XmlProblems found(whole, problems);
+  if (!declared.isKnown) {
+    found.add(declared.nameAt, "an encoding that is not known");
   }
-  const bool isTable = isXml && XmlTableReader(utf8, table, found).read();
-  found.handOver();
+  const bool isTable = declared.isKnown && XmlTableReader(whole.view(), table, found).read();
+  found.finish();
   return isTable;
 }
 

@@ -2,13 +2,13 @@
 
 #include <string_view>
 
-#include <orvanta/strings/StringTable.h>
 #include <orvanta/strings/StringTableBuilder.h>
+#include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 
 namespace orvanta::strings {
 
-/// True when `utf8` begins with what only XML begins with, white space aside.
+/// True when `utf8`, white space aside, begins as an XML property list may.
 [[nodiscard]] bool looksLikeXmlTable(std::string_view utf8) noexcept;
 
 /// Adds the pairs of an XML property list whose outermost value is a dictionary of texts.
@@ -22,16 +22,19 @@ namespace orvanta::strings {
 ///     </dict>
 ///     </plist>
 ///
-/// The document type is skipped, never fetched. Of the entities only the five predefined ones and
-/// numeric references are known, any other costs its pair: nothing can be made to expand. A
-/// reference to no character gives U+FFFD. Line ends become line feeds, as XML has it.
+/// The `plist` element may be missing. Bytes without a mark are read in the encoding that the
+/// document declares: a Unicode one, ISO-8859-1 or windows-1252; any other is refused.
 ///
-/// Damage costs the pair that it hits and is reported; problems are handed over at the end, in the
-/// order of the file. Time is linear in the size of the text.
+/// The document type is skipped, never fetched. Only the five predefined entities and numeric
+/// references are known; any other costs its pair, so that nothing expands. A reference to no
+/// character gives U+FFFD and is reported. Line ends become line feeds.
+///
+/// Damage costs the pair that it hits and is reported, in the order of the file. Time and memory
+/// are linear in the size of the text.
 ///
 /// False, with the reason reported, when there is no property list or it is no dictionary; nothing
 /// was added then.
-[[nodiscard]] bool readXmlTable(std::string_view utf8, StringTableBuilder& table,
+[[nodiscard]] bool readXmlTable(EncodedText text, StringTableBuilder& table,
                                 const ProblemCollector& problems);
 
 }  // namespace orvanta::strings

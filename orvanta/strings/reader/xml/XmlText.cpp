@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <orvanta/strings/reader/xml/XmlText.h>
+#include <orvanta/text/HexDigit.h>
 #include <orvanta/text/Utf8.h>
 
 namespace orvanta::strings {
@@ -34,37 +35,26 @@ void appendLineEnd(std::string& out, std::string_view& rest) {
   rest.remove_prefix(rest.starts_with("\r\n") ? 2 : 1);
 }
 
-constexpr std::uint32_t kNoDigit = 16;
-
-std::uint32_t digitValue(char digit) noexcept {
-  constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
-  const std::size_t found = kDigits.find(digit);
-  if (found == std::string_view::npos) {
-    return kNoDigit;
-  }
-  return static_cast<std::uint32_t>(found < kNoDigit ? found : found - 6);
-}
-
-// "&#10;" or "&#xA;" at the front of `rest`. What stands for no character, NUL included, gives
-// U+FFFD; so does a reference without digits or without its end, up to where it breaks off.
-void appendNumericReference(std::string& out, std::string_view& rest) {
-  const bool hexadecimal = rest.starts_with("&#x");
-  const std::uint32_t base = hexadecimal ? 16 : 10;
-  rest.remove_prefix(hexadecimal ? 3 : 2);
+// "&#10;" or "&#xA;" at the front of `rest`. U+FFFD, and false, for what stands for no character,
+// NUL included, and for a reference without digits or without its end, up to where it breaks off.
+bool appendNumericReference(std::string& out, std::string_view& rest) {
+  const bool isHexadecimal = rest.starts_with("&#x");
+  const std::uint32_t base = isHexadecimal ? 16 : 10;
+  rest.remove_prefix(isHexadecimal ? 3 : 2);
   std::uint32_t codePoint = 0;
   for (; !rest.empty() && digitValue(rest.front()) < base; rest.remove_prefix(1)) {
     codePoint = std::min(codePoint * base + digitValue(rest.front()), kBeyondUnicode);
   }
-  const bool ended = rest.starts_with(';');
-  rest.remove_prefix(ended ? 1 : 0);
-  utf8::append(out, ended && codePoint != 0 ? codePoint : utf8::kReplacement);
+  const bool isEnded = rest.starts_with(';');
+  rest.remove_prefix(isEnded ? 1 : 0);
+  const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+  const bool isCharacter = isEnded && codePoint != 0 && codePoint != kBeyondUnicode && !isSurrogate;
+  utf8::append(out, isCharacter ? codePoint : utf8::kReplacement);
+  return isCharacter;
 }
 
-bool appendReference(std::string& out, std::string_view& rest) {
-  if (rest.starts_with("&#")) {
-    appendNumericReference(out, rest);
-    return true;
-  }
+// A predefined entity at the front of `rest`; false where there is none.
+bool appendEntity(std::string& out, std::string_view& rest) {
   for (const auto& [name, character] : kPredefined) {
     if (rest.starts_with(name)) {
       out.push_back(character);
@@ -102,22 +92,28 @@ void XmlText::makeOwn() {
   }
 }
 
-std::optional<std::size_t> XmlText::appendData(std::string_view raw) {
+XmlText::BadReferences XmlText::appendData(std::string_view raw) {
+  BadReferences bad;
   if (takeWhole(raw, kSpecialInData)) {
-    return std::nullopt;
+    return bad;
   }
   makeOwn();
   for (std::string_view rest = raw; !rest.empty();) {
     const std::size_t plain = std::min(rest.find_first_of(kSpecialInData), rest.size());
     own_.append(rest.substr(0, plain));
     rest.remove_prefix(plain);
+    const std::size_t at = raw.size() - rest.size();
     if (rest.starts_with('\r')) {
       appendLineEnd(own_, rest);
-    } else if (!rest.empty() && !appendReference(own_, rest)) {
-      return raw.size() - rest.size();
+    } else if (rest.starts_with("&#")) {
+      const bool isCharacter = appendNumericReference(own_, rest);
+      bad.toNoCharacter = isCharacter || bad.toNoCharacter ? bad.toNoCharacter : at;
+    } else if (!rest.empty() && !appendEntity(own_, rest)) {
+      bad.unknown = at;
+      break;
     }
   }
-  return std::nullopt;
+  return bad;
 }
 
 void XmlText::appendLiteral(std::string_view raw) {

@@ -7,15 +7,20 @@
 
 namespace orvanta::strings {
 
-/// The text of one element, put together from its pieces. A piece that needs no change is not
-/// copied as long as it is the only one.
+/// The text of one element, joined from its pieces. A piece that needs no change is not copied as
+/// long as it is the only one.
 class XmlText {
  public:
   void clear() noexcept;
 
-  /// Appends character data with its references resolved. Gives the offset in `raw` of the first
-  /// reference to an entity that is not known, absent when there is none.
-  std::optional<std::size_t> appendData(std::string_view raw);
+  /// Offsets of the first bad references in character data.
+  struct BadReferences {
+    std::optional<std::size_t> unknown;        ///< An entity that is not known.
+    std::optional<std::size_t> toNoCharacter;  ///< U+FFFD stands for it.
+  };
+
+  /// Appends character data with its references resolved, up to the first that is not known.
+  BadReferences appendData(std::string_view raw);
 
   /// Appends the inside of a CDATA section, in which nothing is a reference.
   void appendLiteral(std::string_view raw);

@@ -31,13 +31,18 @@ TEST(BinaryTable, ReadsTexts) {
       row("count of 4 bytes", longMarker(0x5, 3, 2) + "abc", "abc"),
       row("count of 16 bytes", longMarker(0x5, 3, 4) + "abc", "abc"),
       row("UTF-8 in place of ASCII", asciiObject("12345678\u00E9"), "12345678\u00E9"),
-      row("stray bytes in place of ASCII", asciiObject("\xE9t\xC3"), "\uFFFDt\uFFFD"),
+      {"stray bytes in place of ASCII",
+       BinaryList().pair(asciiObject("a"), asciiObject("\xE9t\xC3")).bytes(), "a=\uFFFDt\uFFFD",
+       "0:0"},
       row("UTF-16, nothing", utf16Object(u""), ""),
       row("UTF-16, ASCII in blocks and a rest", utf16Object(u"abcde\0\x7F"s), "abcde\0\x7F"s),
       row("UTF-16, every length", utf16Object(u"\x80\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
           "\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
-      row("UTF-16, lone surrogates", utf16Object(u"\xDC00z\xD800y\xD800\xD800\xDC00x\xDBFF"),
-          "\uFFFDz\uFFFDy\uFFFD\U00010000x\uFFFD"),
+      {"UTF-16, lone surrogates",
+       BinaryList()
+           .pair(asciiObject("a"), utf16Object(u"\xDC00z\xD800y\xD800\xD800\xDC00x\xDBFF"))
+           .bytes(),
+       "a=\uFFFDz\uFFFDy\uFFFD\U00010000x\uFFFD", "0:0"},
   });
 }
 
@@ -107,6 +112,7 @@ TEST(BinaryTable, RefusesABrokenFrame) {
       row("offsets in the magic", withTrailer(24, bigEndian(7, 8))),
       row("offsets in the trailer", withTrailer(24, bigEndian(sound.size() - 31, 8))),
       row("offsets out of range", withTrailer(24, huge)),
+      row("no key is a text", BinaryList().pair("\x10\x01", asciiObject("a")).bytes()),
       row("array on top", list.bytes("\xA1"s + bigEndian(0, 2))),
       row("dictionary that is cut off", list.bytes("\xD2"s + bigEndian(0, 6))),
       row("dictionary without count", list.bytes("\xDF"s)),
@@ -116,6 +122,17 @@ TEST(BinaryTable, RefusesABrokenFrame) {
   EXPECT_EQ(readTable(std::string(sound).replace(6, 2, "15")).pairs, kNoTable) << "other version";
   for (std::size_t size = 1; size < sound.size(); ++size) {
     EXPECT_EQ(readTable(std::string_view(sound).substr(0, size)).pairs, kNoTable) << size;
+  }
+}
+
+TEST(BinaryTable, NamesTheBeginningOfTheKeyThatIsLost) {
+  for (const std::size_t size : {80, 81}) {
+    const BinaryList list = BinaryList().pair(asciiObject(std::string(size, 'x')), "\x09");
+    std::string message;
+    static_cast<void>(readStringTable(
+        list.bytes(), [&](const TableProblem& problem) { message = problem.message; }));
+    EXPECT_NE(message.find("\"" + std::string(80, 'x') + (size > 80 ? "...\"" : "\"")),
+              std::string::npos);
   }
 }
 

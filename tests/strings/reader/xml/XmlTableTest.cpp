@@ -33,6 +33,8 @@ TEST(XmlTable, TellsPropertyListsFromOtherDocuments) {
       {"comment without end", "<?xml version='1.0'?><!-- " + plist, "good=G"},
       {"attributes", "<plist a='>' b = \"/>\" c><dict d='e'>" + kGood + "</dict></plist>",
        "good=G"},
+      {"without a list", "<?xml version='1.0'?><dict>" + kGood + "</dict>", "good=G"},
+      {"a dictionary alone", "<dict>" + kGood, "good=G", "1:40"},
       {"hypertext with a declaration", "<?xml version='1.0'?><html>" + plist + "</html>", kNoTable,
        "1:22"},
       {"array on top", "<plist><array>" + plist + "</array></plist>", kNoTable, "1:8"},
@@ -40,6 +42,24 @@ TEST(XmlTable, TellsPropertyListsFromOtherDocuments) {
       {"empty list", "<plist/><dict>" + kGood + "</dict>", kNoTable, "1:1"},
       {"cut off", "<plist>", kNoTable, "1:8"},
       {"text form", R"("<plist><dict>" = "a";)", "<plist><dict>=a"},
+  });
+}
+
+TEST(XmlTable, DecodesWhatTheDocumentDeclares) {
+  const auto row = [](const char* name, const std::string& encoding, const char* text) {
+    const std::string list = "<dict><key>a</key><string>\x80\xE9</string></dict>";
+    return TableRow{name, "<?xml version='1.0' encoding=" + encoding + "?>" + list, text};
+  };
+  const std::string utf8 = document("<key>a</key><string>\u00E9</string>");
+  checkTables({
+      row("Latin-1", "'ISO-8859-1'", "a=\u0080\u00E9"),
+      row("Latin-1 in lower case", "\"iso-8859-1\"", "a=\u0080\u00E9"),
+      row("windows-1252", "'windows-1252'", "a=\u20AC\u00E9"),
+      {"Unicode", "<?xml encoding='UTF-16'?>" + utf8, "a=\u00E9"},
+      {"a mark", "\xEF\xBB\xBF<?xml encoding='ISO-8859-1'?>" + utf8, "a=\u00E9"},
+      {"no name", "<?xml encoding=?>" + utf8, "a=\u00E9"},
+      {"another one", "<?xml encoding = 'Shift_JIS'?>" + utf8, kNoTable, "1:19"},
+      {"UTF-7", "<?xml encoding='utf-7'?>" + utf8, kNoTable, "1:17"},
   });
 }
 
@@ -52,10 +72,11 @@ TEST(XmlTable, ReadsTexts) {
       row("white space is kept", " \t a\n b ", " \t a\n b "),
       row("predefined entities", "&lt;a&gt; &amp;amp; &quot;&apos;", "<a> &amp; \"'"),
       row("numeric references", "&#65;&#x42;&#x1f600;&#xE9;&#0067;", "AB\U0001F600\u00E9C"),
-      row("references to no character", "&#0;|&#xD800;|&#x110000;|&#99999999999999999999;",
-          "\uFFFD|\uFFFD|\uFFFD|\uFFFD"),
-      row("malformed references", "&#;|&#x;|&#12z|&#xg;|&#",
-          "\uFFFD|\uFFFD|\uFFFDz|\uFFFDg;|\uFFFD"),
+      {"references to no character",
+       document("<key>a</key><string>&#0;|&#xD800;|&#x110000;|&#99999999999999999999;</string>"),
+       "a=\uFFFD|\uFFFD|\uFFFD|\uFFFD", "1:48"},
+      {"malformed references", document("<key>a</key><string>b&#;|&#x;|&#12z|&#xg;|&#</string>"),
+       "a=b\uFFFD|\uFFFD|\uFFFDz|\uFFFDg;|\uFFFD", "1:49"},
       row("line ends", "a\r\nb\rc\n\rd&#13;", "a\nb\nc\n\nd\r"),
       row("literal section", "a<![CDATA[<b>&amp;\r\n]]]]>c", "a<b>&amp;\n]]c"),
       row("pieces", "a<!-- </string> -->b<?c </string>?>d<![CDATA[]]>&#101;", "abde"),
@@ -95,7 +116,7 @@ TEST(XmlTable, LosesOnlyThePairThatIsDamaged) {
       row("markup in a key", "<key>a<br/></key><string>b</string>", "2:7"),
       row("sign in a value", key + "<string>b < c</string>", "2:23"),
       row("unfinished tag", key + "<string", "2:1 2:13"),
-      row("open quote in a tag", key + "<string a='>b</string>", "2:1 2:13 2:26"),
+      row("open quote in a tag", key + "<string a='>b</string>", "2:1 2:13"),
       row("own entity", key + "<string>b&c;d&e;</string>", "2:22"),
       row("own entity in a key", "<key>&b;</key><string>c</string>", "2:6"),
       row("bare ampersand", key + "<string>b & c</string>", "2:23"),
@@ -115,7 +136,7 @@ TEST(XmlTable, KeepsWhatStandsAroundABrokenFrame) {
       {"inner dictionary without end", begin + "<key>a</key><dict><key>b</key></dict></plist>",
        "good=G", "3:46 3:71"},
       {"stray end", begin + "</array></dict></plist>", "good=G", "3:34"},
-      {"stray text", begin + "?<![CDATA[<]]>\n</dict>", "good=G", "3:34 3:35"},
+      {"stray text", begin + "?<![CDATA[<]]>\n</dict>", "good=G", "3:34"},
       {"text behind the list", begin + "</dict></plist><", "good=G"},
   });
 }

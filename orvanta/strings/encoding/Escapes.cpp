@@ -1,0 +1,118 @@
+#include <cstring>
+
+#include <orvanta/strings/encoding/Escapes.h>
+#include <orvanta/strings/encoding/NextStepCharacters.h>
+#include <orvanta/text/HexDigit.h>
+#include <orvanta/text/Utf8.h>
+
+namespace orvanta::strings {
+
+namespace {
+
+constexpr char kUnitEscape = 'U';
+constexpr unsigned kOctal = 8;
+constexpr unsigned kHexadecimal = 16;
+constexpr int kUnitDigits = 4;
+constexpr int kOctalDigits = 3;
+
+struct Number {
+  char32_t value;
+  const char* next;
+};
+
+Number readNumber(const char* at, const char* end, unsigned base, int mostDigits) noexcept {
+  Number number = {0, at};
+  while (number.next != end && number.next - at < mostDigits && digitValue(*number.next) < base) {
+    number.value = number.value * base + digitValue(*number.next);
+    ++number.next;
+  }
+  return number;
+}
+
+// The unit of which the digits begin at `at`, joined with the one after it if the two are a pair of
+// surrogates.
+Number readUnits(const char* at, const char* end) noexcept {
+  const Number unit = readNumber(at, end, kHexadecimal, kUnitDigits);
+  const bool isHigh = (unit.value & 0xFC00) == 0xD800;
+  if (isHigh && end - unit.next > 2 && unit.next[0] == '\\' && unit.next[1] == kUnitEscape) {
+    const Number low = readNumber(unit.next + 2, end, kHexadecimal, kUnitDigits);
+    if ((low.value & 0xFC00) == 0xDC00) {
+      return {0x10000 + ((unit.value - 0xD800) << 10) + (low.value - 0xDC00), low.next};
+    }
+  }
+  return unit;
+}
+
+bool isSurrogate(char32_t unit) noexcept {
+  return (unit & 0xFFFFF800) == 0xD800;
+}
+
+char namedEscape(char c) noexcept {
+  switch (c) {
+    case 'n':
+      return '\n';
+    case 't':
+      return '\t';
+    case 'r':
+      return '\r';
+    case 'a':
+      return '\a';
+    case 'b':
+      return '\b';
+    case 'f':
+      return '\f';
+    case 'v':
+      return '\v';
+    default:
+      return c;
+  }
+}
+
+// Resolves what follows a backslash; moves `out` on and gives the end of the escape.
+const char* resolveEscape(const char* at, const char* end, ResolvedText& out) noexcept {
+  if (*at == kUnitEscape) {
+    const Number units = readUnits(at + 1, end);
+    out.end = utf8::encode(units.value, out.end);
+    out.hasLoneSurrogate = out.hasLoneSurrogate || isSurrogate(units.value);
+    return units.next;
+  }
+  const Number octal = readNumber(at, end, kOctal, kOctalDigits);
+  if (octal.next != at) {
+    out.end = utf8::encode(nextStepCharacter(octal.value), out.end);
+    return octal.next;
+  }
+  *out.end++ = namedEscape(*at);
+  return at + 1;
+}
+
+}  // namespace
+
+ResolvedText resolveEscapes(std::string_view raw, char* out) noexcept {
+  ResolvedText resolved = {out, false};
+  while (!raw.empty()) {
+    const std::size_t plain = std::min(raw.find('\\'), raw.size());
+    std::memcpy(resolved.end, raw.data(), plain);
+    resolved.end += plain;
+    raw.remove_prefix(plain);
+    if (raw.size() == 1) {
+      *resolved.end++ = '\\';
+      break;
+    }
+    if (!raw.empty()) {
+      const char* const end = raw.data() + raw.size();
+      const char* const next = resolveEscape(raw.data() + 1, end, resolved);
+      raw = {next, static_cast<std::size_t>(end - next)};
+    }
+  }
+  return resolved;
+}
+
+bool isNumericEscape(char c) noexcept {
+  return c == kUnitEscape || digitValue(c) < kOctal;
+}
+
+bool isEscapeForItself(char c) noexcept {
+  return !isNumericEscape(c) && namedEscape(c) == c;
+}
+
+}  // namespace orvanta::strings

@@ -1,0 +1,22 @@
+#include <array>
+
+#include <orvanta/strings/encoding/SingleByteCharacters.h>
+
+namespace orvanta::strings {
+
+namespace {
+
+// The bytes from 0x80 to 0x9F, from the Unicode Consortium's mapping file CP1252.TXT.
+constexpr std::array<char16_t, 32> kControls = {
+    0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178,
+};
+
+}  // namespace
+
+char32_t windows1252Character(unsigned char byte) noexcept {
+  return byte < 0x80 || byte >= 0xA0 ? byte : kControls[byte - 0x80];
+}
+
+}  // namespace orvanta::strings

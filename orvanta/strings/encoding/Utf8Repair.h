@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+
+#include <orvanta/text/Utf8.h>
+
+namespace orvanta::strings {
+
+/// Where a conversion stopped, in both texts.
+struct Transcoded {
+  const char* in;
+  char* out;
+};
+
+/// Where a conversion had to put U+FFFD for what is no character.
+struct Replacements {
+  std::size_t count = 0;
+  const char* first = nullptr;  ///< In the output.
+
+  /// Writes one and gives its end.
+  char* put(char* out) noexcept {
+    first = count == 0 ? out : first;
+    ++count;
+    return utf8::encode(utf8::kReplacement, out);
+  }
+};
+
+/// Copies UTF-8, with U+FFFD for invalid sequences, and stops where less than `utf8::kLongest`
+/// bytes of room are left. The output is up to three times as long as the input.
+[[nodiscard]] Transcoded repairUtf8(const char* in, const char* inEnd, char* out,
+                                    const char* outEnd, Replacements& replacements) noexcept;
+
+}  // namespace orvanta::strings

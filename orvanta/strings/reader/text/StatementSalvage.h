@@ -1,0 +1,24 @@
+#pragma once
+
+#include <orvanta/strings/reader/text/DamagedStatement.h>
+#include <orvanta/strings/reader/text/LookAheadBudget.h>
+
+namespace orvanta::strings {
+
+/// What can be saved of a damaged statement.
+struct Salvage {
+  TextToken value;      ///< None when the statement is lost.
+  const char* at;       ///< Where it is damaged,
+  const char* message;  ///< and how.
+};
+
+/// Judges a damaged statement that reaches to `end`, where the next one begins. Saved are
+///
+/// - a value with bare quotes inside: it ends at the first quote behind which, a semicolon aside,
+///   only white space and comments are left;
+/// - a string that is never closed: it ends with its line;
+/// - a value without its semicolon.
+[[nodiscard]] Salvage salvage(TextScanner& scanner, LookAheadBudget& budget,
+                              const DamagedStatement& statement, const char* end);
+
+}  // namespace orvanta::strings

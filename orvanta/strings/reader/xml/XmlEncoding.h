@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+
+#include <orvanta/strings/encoding/TextEncoding.h>
+
+namespace orvanta::strings {
+
+/// A text in the encoding that its XML declaration names.
+struct DeclaredText {
+  EncodedText text;
+  bool isKnown = true;     ///< False for an encoding that cannot be read.
+  std::size_t nameAt = 0;  ///< Where the encoding's name stands in the UTF-8 text.
+};
+
+/// A byte-order mark and zero bytes tell more than a declaration, which may have been copied from
+/// elsewhere. Otherwise the declaration decides:
+///
+///     <?xml version="1.0" encoding="ISO-8859-1"?>
+[[nodiscard]] DeclaredText asDeclared(EncodedText text) noexcept;
+
+}  // namespace orvanta::strings
