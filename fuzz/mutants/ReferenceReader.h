@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvanta::fuzz {
+
+/// One statement of a strings file, with the range of its characters.
+struct Statement {
+  std::size_t begin = 0;  ///< Of the key.
+  std::size_t end = 0;    ///< Behind the semicolon.
+  std::size_t keyEnd = 0;
+  std::size_t valueBegin = 0;  ///< Equals `valueEnd` where the key is its own value.
+  std::size_t valueEnd = 0;
+  std::string key;
+  std::string value;
+  bool isQuoted = true;  ///< The key.
+  bool isText = true;    ///< False for a value that is data, an array or a dictionary.
+};
+
+struct Reading {
+  std::vector<Statement> statements;  ///< Up to the first fault.
+  bool isSound = true;
+};
+
+/// Reads UTF-8 text by the letter of the format, one character at a time, and stops at the first
+/// fault. Shares no code with the library: it is the oracle of the mutation tests.
+[[nodiscard]] Reading readByTheLetter(std::string_view text);
+
+}  // namespace orvanta::fuzz
