@@ -1,6 +1,6 @@
 // Kills a process that keeps updating one table, at random moments, and reads what is left: the
-// whole table of one update or of another, never a torn one, and nothing that is taken for a
-// language. Prints the count; ends with 1 when a table was torn or a leftover was not swept.
+// whole table of one update or of another, never a torn one, and no further language. Prints the
+// counts; ends with 1 when a table was torn or the next update left a temporary file behind.
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -67,8 +67,8 @@ int main(int argc, char** argv) {
   std::mt19937 random(std::random_device{}());
   std::uniform_int_distribution<int> microseconds(500, 40'000);
   int counts[kGenerations + 1] = {};
-  int unswept = 0;
   int leftovers = 0;
+  int unswept = 0;
   for (int kill = 0; kill < kills; ++kill) {
     const pid_t writer = fork();
     if (writer == 0) {
@@ -81,8 +81,9 @@ int main(int argc, char** argv) {
     leftovers += test::tablesBelow(app.cacheFolder()) > 1 ? 1 : 0;
     OVStringCache cache;
     const bool alone = cache.cachedLanguages().size() == 1;
+    platform::Platform::current().bundles->refreshTables();
     ++counts[isWhole(cache, 0) && alone ? 0 : isWhole(cache, 1) && alone ? 1 : kGenerations];
-    cache.updateStrings(test::payloadOf({}), "main", "app");
+    cache.updateStrings(generations[0], "main", "app");
     unswept += test::tablesBelow(app.cacheFolder()) != 1 ? 1 : 0;
   }
   std::cout << kills << " kills: " << counts[0] << " old, " << counts[1] << " new, "
