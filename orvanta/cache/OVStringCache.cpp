@@ -183,7 +183,7 @@ StringList OVStringCache::cachedLanguageCodes() {
   return codesOf(cachedLanguages());
 }
 
-// The codes can be set because they are properties, but a read always makes them afresh.
+// Properties with a setter whose value is never used: each read builds the list.
 void OVStringCache::setAvailableLanguageCodes(const StringList& /*codes*/) noexcept {}
 void OVStringCache::setCachedLanguageCodes(const StringList& /*codes*/) noexcept {}
 

@@ -20,10 +20,10 @@ namespace orvanta {
 /// What `indexOfFirstAvailableCachedLanguage` answers when no language is available.
 inline constexpr std::intptr_t OVLocaleNotAvailable = 1000;
 
-/// The comment of a table entry that nobody commented. For applications; the library writes none.
+/// The usual comment of a table entry without one. For applications; the library writes none.
 inline constexpr std::string_view defaultComment = "No comment provided by engineer.";
 
-/// How one language fared in an update.
+/// The result of an update for one language.
 struct StringsUpdate {
   enum class Result {
     written,  ///< The new table is in place.
@@ -39,8 +39,8 @@ struct StringsUpdate {
   String reason;
 };
 
-/// The catalogue of the languages that the application can run in, and the cache of downloaded
-/// tables on disk:
+/// The catalogue of the languages that the application can use, and the cache of downloaded tables
+/// on disk:
 ///
 ///     <caches directory>/OrvantaLocalizations/<language>.lproj/Localizable.strings
 ///
@@ -56,7 +56,8 @@ class ORVANTA_EXPORT OVStringCache {
   OVStringCache& operator=(const OVStringCache&) = delete;
   ~OVStringCache();
 
-  /// The cache folder, found and made at the first read; absent when the platform has no caches.
+  /// The cache folder, located and made at the first read; absent when the platform has no caches
+  /// directory.
   [[nodiscard]] const URL& cacheDirectoryURL() ORVANTA_LIFETIME_BOUND;
   void setCacheDirectoryURL(URL url);
 
@@ -68,17 +69,17 @@ class ORVANTA_EXPORT OVStringCache {
   [[nodiscard]] bool stringsFileExistsForBundle(const platform::Bundle& bundle) const;
 
   /// The downloaded languages, under their records' `appleLocaleName`. A dictionary that was set
-  /// is given back as it stands; setting an absent one makes the next read build it again.
+  /// is given back unchanged; setting an absent one makes the next read build it again.
   [[nodiscard]] OVLocaleDictionary cachedLanguages();
   void setCachedLanguages(OVLocaleDictionary languages);
 
-  /// The shipped languages overlaid by the downloaded ones: under one key the downloaded one
-  /// holds. Set and reset as `cachedLanguages` is.
+  /// The shipped and the downloaded languages; under a key that both have, the downloaded one. Set
+  /// and reset as `cachedLanguages` is.
   [[nodiscard]] OVLocaleDictionary availableLanguages();
   void setAvailableLanguages(OVLocaleDictionary languages);
 
-  /// The `orvantaLocaleName` of every available language, in no particular order; made at every
-  /// call. A list that is set is never read.
+  /// The `orvantaLocaleName` of every available language, in no particular order; built at every
+  /// call. A list that is set is ignored.
   [[nodiscard]] StringList availableLanguageCodes();
   void setAvailableLanguageCodes(const StringList& codes) noexcept;
 
@@ -125,7 +126,8 @@ class ORVANTA_EXPORT OVStringCache {
   /// Forgets the catalogue, so that the next read sees what is on disk then.
   void refreshCache() noexcept;
 
-  /// Empties the platform's cache folder (making it if it had gone) and forgets the catalogue.
+  /// Empties the platform's cache folder, which is made if it is missing, and forgets the
+  /// catalogue.
   void clearCache();
 
  private:

@@ -12,26 +12,26 @@ namespace orvanta {
 /// The name of the cache folder inside the platform's caches directory.
 inline constexpr std::string_view cacheDirectoryName = "OrvantaLocalizations";
 
-/// The steps that the string cache is made of. Each takes what it acts on as its first argument;
-/// on an absent one it does nothing and gives absent.
+/// The file and text operations of the string cache. Each takes what it acts on as its first
+/// argument; with an absent one it does nothing and gives absent.
 namespace OVStringCacheUtilities {
 
 /// The URL of the cache folder, which is made if it can be; absent when the platform has no caches
 /// directory. Ends in "/".
 [[nodiscard]] ORVANTA_EXPORT URL cacheDirectoryURL();
 
-/// Asks for the folder and its parents to be made, whether or not it is there; a failure is
-/// ignored and shows in what is tried next.
+/// Makes the folder and its parents if they are missing. A failure is ignored; the next operation
+/// on the folder meets it.
 ORVANTA_EXPORT void createDirectoryIfNeeded(const URL& directory);
 
-/// The same for the folder that a file stands in.
+/// The same for a file's parent folder.
 ORVANTA_EXPORT void createDirectoryIfNeededForFile(const URL& file);
 
-/// The URL of the folder that a file stands in.
+/// The URL of a file's parent folder.
 [[nodiscard]] ORVANTA_EXPORT URL directoryFromFileURL(const URL& file);
 
-/// Deletes every entry of the folder, hidden ones included, but not the folder. An entry that
-/// cannot be deleted is logged and left.
+/// Deletes every entry of the folder, hidden ones included, and keeps the folder. An entry that
+/// cannot be deleted is logged and skipped.
 ORVANTA_EXPORT void clearFilesFromDirectory(const URL& directory);
 
 /// The URL of a language's table below the folder, with the identifier copied into it as it is.

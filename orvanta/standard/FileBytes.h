@@ -17,8 +17,8 @@ struct FileBytes {
   [[nodiscard]] std::string_view view() const noexcept { return {data.get(), size}; }
 };
 
-/// Reads the file at `path`, which had `expectedSize` bytes a moment ago. Absent when it cannot be
-/// read to its end, and when it is larger than any string table can be.
+/// Reads the file at `path`, whose size may have changed since it was `expectedSize`. Absent when
+/// it cannot be read to its end, is larger than a string table may be, or finds no memory.
 [[nodiscard]] std::optional<FileBytes> readWholeFile(platform::FileManager& files,
                                                      const String& path,
                                                      std::uint64_t expectedSize);

@@ -66,7 +66,9 @@ Status walk(std::vector<PendingFolder> pending, const platform::FileManager::Ent
       continue;
     }
     const URL url = folder.url.URLByAppendingPathComponent(entry.name.view(), entry.isDirectory);
-    visit(url, entry.isDirectory);
+    if (visit) {
+      visit(url, entry.isDirectory);
+    }
     if (entry.isDirectory) {
       std::string path = folder.path + '/' + entry.name.str();
       platform::Folder::Listing listing = listFolder(path, FinalLink::refuse);

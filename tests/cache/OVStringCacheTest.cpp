@@ -26,7 +26,7 @@ std::vector<std::string> keysOf(const OVLocaleDictionary& languages) {
   return keys;
 }
 
-TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
+TEST(LanguageCatalogue, MergesShippedAndDownloadedLanguages) {
   TestApplication app({{"en", {}}, {"fr", {{"a", "shipped"}}}, {"pt-BR", {}}});
   std::filesystem::create_directories(app.bundle() / "bare.lproj");
   OVStringCache cache;
@@ -62,7 +62,7 @@ TEST(LanguageCatalogue, OverlaysWhatShipsWithWhatWasDownloaded) {
   EXPECT_EQ(cache.bundleForLanguage("fr")->localizedStringForKey("a"), "downloaded");
 }
 
-TEST(LanguageCatalogue, ReadsNothingTwiceAndTakesWhatIsSet) {
+TEST(LanguageCatalogue, IsMemoizedAndCanBeSet) {
   TestApplication app(test::Languages{{"en", {}}});
   OVStringCache cache;
   const OVLocaleDictionary first = cache.availableLanguages();
@@ -157,7 +157,7 @@ TEST(LanguageCatalogue, LooksUpExactlyOrCleaned) {
   EXPECT_EQ(OVStringCacheUtilities::cleanedString("\tEN-gb\n"), "en-gb");
 }
 
-TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
+TEST(CacheStorage, IsClearedWithoutFollowingLinks) {
   TestApplication app(test::Languages{{"en", {}}});
   app.download("fr", {});
   test::writeFile(app.cacheFolder() / ".hidden", "x");
@@ -175,6 +175,18 @@ TEST(CacheStorage, EmptiesItselfAndFollowsNoLink) {
   cache.clearCache();
   EXPECT_TRUE(std::filesystem::is_directory(app.cacheFolder()));
   EXPECT_TRUE(app.log.empty());
+}
+
+TEST(CacheStorage, MakesFoldersWithTheirParents) {
+  TestApplication app;
+  for (const char* path : {"a/b c/\u00E9", "x/./y/.", "not there/../z"}) {
+    const auto folder = app.caches() / path;
+    for (const char* when : {"new", "there already"}) {
+      OVStringCacheUtilities::createDirectoryIfNeededForFile(
+          URL::fileURLWithPath((folder / "file").string(), false));
+      EXPECT_TRUE(std::filesystem::is_directory(folder)) << path << ' ' << when;
+    }
+  }
 }
 
 TEST(CacheStorage, LogsWhatCannotBeDeleted) {

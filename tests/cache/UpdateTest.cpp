@@ -36,7 +36,7 @@ std::string utf16(std::string_view text) {
   return test::encode(test::kUtf16Little, text);
 }
 
-TEST(StringsFile, HoldsEveryPairAsItWasSent) {
+TEST(StringsFile, HoldsPairsUnescaped) {
   EXPECT_EQ(OVStringCacheUtilities::localizableStringsFile(
                 test::tableOf({{"a", "x"}, {"b", ""}, {"", "y"}, {"q", "say \"hi\"\\n"}})),
             "/* */\n\"a\" = \"x\";\n\n/* */\n\"q\" = \"say \"hi\"\\n\";\n\n");
@@ -86,7 +86,7 @@ TEST(StringsFile, IsSavedWhereItsURLSays) {
   EXPECT_EQ(test::tablesBelow(app.caches()), 1U);
 }
 
-TEST(CacheUpdate, WritesWhatItFindsAndLeavesTheRest) {
+TEST(CacheUpdate, WritesTablesAndKeepsOthers) {
   TestApplication app(test::Languages{{"en", {}}});
   OVStringCache cache;
   auto strings = payloadOf({{"fr", {{"a", "x"}, {"b", ""}}}, {"de", {}}, {"it", {{"c", ""}}}});
@@ -340,7 +340,7 @@ TEST(CacheUpdate, ShowsAtTheNextChangeOfLanguage) {
   EXPECT_EQ(localizer.localizedStringForKey("k"), "english") << "what was cleared is gone";
 }
 
-TEST(CacheUpdate, FollowsTheFolderThatIsSet) {
+TEST(CacheUpdate, UsesTheFolderThatIsSet) {
   TestApplication app;
   const auto elsewhere = app.caches() / "elsewhere";
   OVStringCache cache;

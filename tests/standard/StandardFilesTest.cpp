@@ -55,7 +55,7 @@ class StandardFiles : public testing::Test {
   std::shared_ptr<platform::FileManager> files_ = makeFileManager({});
 };
 
-TEST_F(StandardFiles, TellWhatIsThere) {
+TEST_F(StandardFiles, TellItemKinds) {
   test::writeFile(at("file \u00E9"), "12345");
   fs::create_directory(at("folder"));
   fs::create_symlink("file \u00E9", at("link"));
@@ -90,8 +90,7 @@ TEST_F(StandardFiles, TellWhatIsThere) {
   EXPECT_EQ(files_->stampOfFileAtPath(path("link"))->size, 5U);
 }
 
-// Paths and names that name nothing: no operation may take them for something else.
-TEST_F(StandardFiles, KnowNothingAtWhatIsNoPath) {
+TEST_F(StandardFiles, RefuseWhatIsNoPathOrName) {
   test::writeFile(at("file"), "x");
   const std::string cutByNul = at("file").native() + std::string("\0x", 2);
   for (const String& none : {String(), String(""), String("file"), String("."), String(cutByNul),
@@ -122,7 +121,7 @@ TEST_F(StandardFiles, KnowNothingAtWhatIsNoPath) {
   EXPECT_EQ(test::contentsOf(at("file")), "x");
 }
 
-TEST_F(StandardFiles, StampTellsStatesApart) {
+TEST_F(StandardFiles, GiveAnotherStampToAnotherState) {
   test::writeFile(at("file"), "one");
   const auto first = files_->stampOfFileAtPath(path("file"));
   EXPECT_EQ(first, files_->stampOfFileAtPath(path("file")));
@@ -135,7 +134,7 @@ TEST_F(StandardFiles, StampTellsStatesApart) {
   EXPECT_NE(files_->stampOfFileAtPath(path("file")), second) << "another time";
 }
 
-TEST_F(StandardFiles, RefuseToPutOrTakeWhatCannotBe) {
+TEST_F(StandardFiles, FailWithTheSystemsError) {
   constexpr int kAny = -1;
   test::writeFile(at("file"), "kept");
   fs::create_directory(at("folder"));
@@ -176,7 +175,7 @@ TEST_F(StandardFiles, RefuseToPutOrTakeWhatCannotBe) {
   EXPECT_FALSE(fs::exists(at("nowhere")));
 }
 
-TEST_F(StandardFiles, ListAFolderAndVisitWhatIsNotHiddenInIt) {
+TEST_F(StandardFiles, ListAFolderAndVisitWhatIsNotHidden) {
   test::writeFile(at("in/T \u00E9.strings"), "");
   test::writeFile(at("in/a/b/c/d"), "");
   test::writeFile(at("in/.hidden/x"), "");
@@ -277,7 +276,7 @@ TEST_F(StandardFiles, ReadWhatWasWritten) {
   EXPECT_EQ(read, "a" + bytes);
 }
 
-TEST_F(StandardFiles, ReadAFileThatIsNotAsLongAsExpected) {
+TEST_F(StandardFiles, ReadAFileWhoseSizeChanges) {
   const std::string bytes = "twelve bytes";
   test::writeFile(at("file"), bytes);
   for (const std::uint64_t expected : {0U, 1U, 5U, 11U, 12U, 13U, 100U}) {
@@ -343,7 +342,7 @@ TEST_F(StandardFiles, TellShortageFromEmptiness) {
   EXPECT_EQ(visited, 1U);
 }
 
-TEST_F(StandardFiles, LeaveNoDescriptorToOtherPrograms) {
+TEST_F(StandardFiles, CloseDescriptorsOnExec) {
   test::writeFile(at("file"), "x");
   fs::create_directory(at("sub"));
   const auto folder = open("");
@@ -363,7 +362,7 @@ TEST_F(StandardFiles, LeaveNoDescriptorToOtherPrograms) {
 }
 
 // Somebody exchanges a folder with a link, or moves it away, while the tree around it is removed.
-TEST_F(StandardFiles, RemoveNothingBehindALinkThatComesMeanwhile) {
+TEST_F(StandardFiles, RemoveNothingOutsideWhileFoldersAreExchanged) {
   constexpr int kRounds = 60;
   for (const bool byMoving : {false, true}) {
     std::atomic<bool> isOver{false};
