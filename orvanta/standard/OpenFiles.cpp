@@ -154,9 +154,7 @@ Status removeUnlessLocked(int folder, const std::string& name) {
     case Lock::taken:
       break;
   }
-  // The process that held the lock may have renamed the file meanwhile.
-  return isStillAt(folder, name, file.get()) ? statusOfCall(::unlinkat(folder, name.c_str(), 0))
-                                             : Status();
+  return statusOfCall(::unlinkat(folder, name.c_str(), 0));
 }
 
 }  // namespace orvanta::standard

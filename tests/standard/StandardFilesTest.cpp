@@ -2,6 +2,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -250,7 +251,7 @@ TEST_F(StandardFiles, RemoveTreesOfAnyDepth) {
 
 // See `fsync` and `flock` below.
 std::vector<ino_t> synced;
-bool othersLockFirst = false;
+std::function<void(int file)> beforeLock;
 
 TEST_F(StandardFiles, ReadWhatWasWritten) {
   const std::string bytes(3'000'000, 'b');
@@ -315,10 +316,17 @@ TEST_F(StandardFiles, LeaveLockedFilesAlone) {
   EXPECT_EQ(codeOf(folder->removeFileUnlessLocked("used")), 0);
   EXPECT_FALSE(fs::exists(at("used")));
 
-  othersLockFirst = true;
-  EXPECT_EQ(codeOf(folder->createFile("locked").status), EAGAIN) << "without waiting";
-  othersLockFirst = false;
+  int other = -1;
+  beforeLock = [&](int file) {
+    other = ::open(("/proc/self/fd/" + std::to_string(file)).c_str(), O_RDONLY | O_CLOEXEC);
+    ::syscall(SYS_flock, other, LOCK_EX);
+  };
+  EXPECT_EQ(codeOf(folder->createFile("locked").status), EAGAIN);
   EXPECT_FALSE(fs::exists(at("locked")));
+  ::close(other);
+  beforeLock = [&](int /*file*/) { fs::remove(at("removed")); };
+  EXPECT_EQ(codeOf(folder->createFile("removed").status), EAGAIN);
+  beforeLock = {};
 }
 
 TEST_F(StandardFiles, TellShortageFromEmptiness) {
@@ -398,7 +406,7 @@ TEST_F(StandardFiles, RemoveNothingOutsideWhileFoldersAreExchanged) {
 }  // namespace orvanta::standard
 
 // In place of the C library's functions, for all tests of this program. `fsync` notes the file and
-// spares the wait for the disk; `flock` can let another process lock the file first.
+// spares the wait for the disk; `flock` lets a test act before it, and never waits.
 extern "C" int fsync(int file) {
   struct stat status {};
   const int result = ::fstat(file, &status);
@@ -407,15 +415,9 @@ extern "C" int fsync(int file) {
 }
 
 extern "C" int flock(int file, int operation) noexcept {
-  if (!orvanta::standard::othersLockFirst) {
-    return static_cast<int>(::syscall(SYS_flock, file, operation));
+  EXPECT_NE(operation & LOCK_NB, 0) << "would wait";
+  if (orvanta::standard::beforeLock) {
+    orvanta::standard::beforeLock(file);
   }
-  const int other = ::open(("/proc/self/fd/" + std::to_string(file)).c_str(), O_RDONLY | O_CLOEXEC);
-  ::syscall(SYS_flock, other, LOCK_EX);
-  // Instead of waiting for ever.
-  const long result = (operation & LOCK_NB) == 0 ? 0 : ::syscall(SYS_flock, file, operation);
-  const int error = errno;
-  ::close(other);
-  errno = error;
-  return static_cast<int>(result);
+  return static_cast<int>(::syscall(SYS_flock, file, operation | LOCK_NB));
 }
