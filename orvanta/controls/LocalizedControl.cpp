@@ -17,68 +17,56 @@ MainQueue& mainQueue() {
   return *Platform::current().mainQueue;
 }
 
-// A handle of its own: whoever is called back may change the language.
-StringList currentLocales() {
-  return Localizer::sharedLocalizer().currentLocales();
-}
-
 }  // namespace
 
-LocalizedControl::LocalizedControl(std::shared_ptr<void> driven, LocaleOnTheWay onTheWay)
+LocalizedControl::LocalizedControl(std::shared_ptr<void> driven, CarriedLocale carriedLocale)
     : driven_(std::move(driven)),
       anchor_(std::make_shared<MainThreadAnchor>(*this)),
-      onTheWay_(onTheWay) {}
+      carriedLocale_(carriedLocale) {}
 
 LocalizedControl::~LocalizedControl() {
-  Platform::current().notifications->removeObserver(this);
-  anchor_->letGo();
+  if (observed_ != nullptr) {
+    observed_->removeObserver(this);
+  }
+  anchor_->reset();
 }
 
 void LocalizedControl::handleOVPreferredLocaleDidChangeNotification(
     const platform::Notification* /*notification*/) {
-  const StringList locales = currentLocales();
-  if (!locales.empty()) {
-    refreshOnMainThread(locales.front());
-  }
+  refreshForCurrentLocale(anchor_, carriedLocale_);
+}
+
+void LocalizedControl::refreshForCurrentLocale(const std::shared_ptr<MainThreadAnchor>& anchor,
+                                               CarriedLocale carriedLocale) {
+  const bool keepsLocale = carriedLocale == CarriedLocale::kept || mainQueue().isMainThread();
+  onMainThread(anchor, [keepsLocale](LocalizedControl& control) {
+    // Read here, because the main thread may change the language meanwhile. A handle of its own,
+    // because a toolkit's control may change it inside the refresh.
+    const StringList locales = Localizer::sharedLocalizer().currentLocales();
+    if (!locales.empty()) {
+      control.refresh(keepsLocale ? locales.front() : String(), Hold(control));
+    }
+  });
 }
 
 void LocalizedControl::refreshOnMainThread(const String& locale) {
-  if (mainQueue().isMainThread()) {
-    refreshHere(locale);
-    return;
-  }
-  const String carried = onTheWay_ == LocaleOnTheWay::kept ? locale : String();
-  onMainThread([this, &carried] { refreshHere(carried); });
+  const bool keepsLocale = carriedLocale_ == CarriedLocale::kept || mainQueue().isMainThread();
+  const String carried = keepsLocale ? locale : String();
+  onMainThread(anchor_,
+               [&carried](LocalizedControl& control) { control.refresh(carried, Hold(control)); });
 }
 
-void LocalizedControl::followLanguage() {
-  Hold(*this).takeSteps([&] { handleOVPreferredLocaleDidChangeNotification(nullptr); },
-                        [&] { observeLanguageChanges(); });
+void LocalizedControl::onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
+                                    const std::function<void(LocalizedControl&)>& step) {
+  mainQueue().performOnMainThreadAndWait([&anchor, &step] {
+    if (LocalizedControl* control = anchor->control()) {
+      step(*control);
+    }
+  });
 }
 
-void LocalizedControl::observeLanguageChanges() {
-  // The handler holds the anchor, not the control: on another thread the control may die at any
-  // moment. What it needs of the control there, it takes with it.
-  Platform::current().notifications->addObserver(
-      this, String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
-      [anchor = anchor_, onTheWay = onTheWay_](const platform::Notification& /*notification*/) {
-        const StringList locales = currentLocales();
-        if (locales.empty()) {
-          return;
-        }
-        if (mainQueue().isMainThread()) {
-          if (LocalizedControl* control = anchor->control()) {
-            control->refreshHere(locales.front());
-          }
-          return;
-        }
-        const String carried = onTheWay == LocaleOnTheWay::kept ? locales.front() : String();
-        mainQueue().performOnMainThreadAndWait([&] {
-          if (LocalizedControl* control = anchor->control()) {
-            control->refreshHere(carried);
-          }
-        });
-      });
+void LocalizedControl::onMainThread(const std::function<void()>& step) const {
+  onMainThread(anchor_, [&step](LocalizedControl& /*control*/) { step(); });
 }
 
 void LocalizedControl::later(std::function<void()> step) const {
@@ -91,12 +79,21 @@ void LocalizedControl::later(std::function<void()> step) const {
       });
 }
 
-void LocalizedControl::onMainThread(const std::function<void()>& step) const {
-  mainQueue().performOnMainThreadAndWait([anchor = anchor_, &step] {
-    if (anchor->control() != nullptr) {
-      step();
-    }
-  });
+void LocalizedControl::followLanguage() {
+  Hold(*this).takeSteps([&] { handleOVPreferredLocaleDidChangeNotification(nullptr); },
+                        [&] { observeLanguageChanges(); });
+}
+
+void LocalizedControl::observeLanguageChanges() {
+  // Platforms are never freed.
+  observed_ = Platform::current().notifications.get();
+  // The handler holds the anchor, not the control: it may be called on another thread while the
+  // control is being destroyed.
+  observed_->addObserver(
+      this, String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,
+      [anchor = anchor_, carriedLocale = carriedLocale_](const platform::Notification&) {
+        refreshForCurrentLocale(anchor, carriedLocale);
+      });
 }
 
 bool LocalizedControl::isKey(const String& text) {

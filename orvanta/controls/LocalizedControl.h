@@ -17,18 +17,18 @@ namespace orvanta {
 
 /// The pattern that the localized controls share.
 ///
-/// A control remembers how it was designed: its text as a key, when the text proves to be one, and
-/// its font and alignment in any case. It then refreshes itself once and again after each change of
-/// language: strings by their remembered keys, font and alignment from the remembered ones.
+/// A control remembers its designed state: its text as a key, if the text has a translation, and
+/// its font and alignment in any case. It refreshes itself at once and after each change of
+/// language: strings from the remembered keys, font and alignment from the remembered ones.
 ///
-///     designed ──configure──▶ remembers ──▶ refresh ──▶ observes
-///                                             ▲            │ language changed
-///                                             └────────────┘
+///     designed ──configure──▶ remembers ──▶ refreshes ──▶ observes
+///                                              ▲             │ language changed
+///                                              └─────────────┘
 ///
 /// Made, used and destroyed on the main thread. A notification may be posted, and a refresh be
-/// called, on any thread: it is carried to the main thread and waited for. A control that has died
-/// by then is not touched; one that dies in the middle, because the toolkit's control called the
-/// application, is not touched any more.
+/// called, on any thread: it runs on the main thread, and the caller waits. A control that was
+/// destroyed before that is not touched. One that is destroyed in the middle of a refresh, by the
+/// application that a toolkit's control has called, is not touched any more.
 class ORVANTA_EXPORT LocalizedControl {
  public:
   LocalizedControl(const LocalizedControl&) = delete;
@@ -79,32 +79,32 @@ class ORVANTA_EXPORT LocalizedControl {
   void handleOVPreferredLocaleDidChangeNotification(const platform::Notification* notification);
 
  protected:
-  /// What becomes of the locale when a refresh is carried to the main thread.
-  enum class LocaleOnTheWay { kept, lost };
+  /// Whether a refresh that is called off the main thread keeps its locale on the main thread.
+  enum class CarriedLocale { kept, dropped };
 
-  /// `driven` is the toolkit's control. It is let go of last, when nothing can reach this any more.
-  LocalizedControl(std::shared_ptr<void> driven, LocaleOnTheWay onTheWay);
+  /// `driven` is the toolkit's control. It is released after everything else.
+  LocalizedControl(std::shared_ptr<void> driven, CarriedLocale carriedLocale);
 
   class Hold;
 
-  /// The refresh itself, on the main thread, its steps taken in `hold`.
+  /// The refresh itself, on the main thread. Its steps are taken with `hold`.
   virtual void refresh(const String& locale, const Hold& hold) = 0;
 
-  /// Refreshes on the main thread, at once when this is it; returns when that is done.
+  /// Refreshes on the main thread and returns when that is done.
   void refreshOnMainThread(const String& locale);
 
   /// Refreshes once, and registers with the notification centre; once more at every call.
   void followLanguage();
 
-  /// Keeps what is driven while the toolkit is at work on it, and knows whether the control still
-  /// lives afterwards. One does for a whole refresh.
+  /// Keeps the toolkit's control alive while it is being called, and knows whether the localized
+  /// control is still alive afterwards. One serves a whole refresh.
   class Hold {
    public:
     explicit Hold(const LocalizedControl& control)
         : driven_(control.driven_), anchor_(control.anchor_) {}
     [[nodiscard]] bool controlLives() const noexcept { return anchor_->control() != nullptr; }
 
-    /// Takes the steps in their order, as long as the control lives.
+    /// Takes the steps in their order, as long as the localized control is alive.
     template <typename... Steps>
     void takeSteps(const Steps&... steps) const {
       static_cast<void>(((steps(), controlLives()) && ...));
@@ -115,10 +115,10 @@ class ORVANTA_EXPORT LocalizedControl {
     std::shared_ptr<const MainThreadAnchor> anchor_;
   };
 
-  /// Runs `step` at a later turn of the main thread, unless the control has died by then.
+  /// Runs `step` at a later turn of the main thread, unless the control was destroyed before.
   void later(std::function<void()> step) const;
 
-  /// Runs `step` on the main thread, unless the control has died by then, and waits for it.
+  /// Runs `step` on the main thread, unless the control was destroyed before, and waits for it.
   void onMainThread(const std::function<void()>& step) const;
 
   /// Whether a designed text is a key: it has a translation that is not empty and not itself.
@@ -127,21 +127,27 @@ class ORVANTA_EXPORT LocalizedControl {
   /// The text of a key in the current language.
   [[nodiscard]] static String localized(const String& key);
 
-  /// Speaks the texts of the remembered keys of label and hint, where those are not empty.
+  /// Sets the texts of the remembered keys of spoken label and hint, where those are not empty.
   void refreshAccessibility(platform::Accessible& control, const Hold& hold) const;
 
-  /// Draws in the remembered font and alignment as the locale wants them.
+  /// Sets font and alignment: what the locale makes of the remembered ones.
   void refreshStyle(platform::TextStyle& style, const String& locale, const Hold& hold) const;
 
   void rememberStyle(const platform::TextStyle& style);
 
  private:
-  void refreshHere(const String& locale) { refresh(locale, Hold(*this)); }
+  // The one way to the main thread. `anchor` by value: the control, and its own anchor, may go
+  // while another thread waits here.
+  static void onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
+                           const std::function<void(LocalizedControl&)>& step);
+  static void refreshForCurrentLocale(const std::shared_ptr<MainThreadAnchor>& anchor,
+                                      CarriedLocale carriedLocale);
   void observeLanguageChanges();
 
   std::shared_ptr<void> driven_;
   std::shared_ptr<MainThreadAnchor> anchor_;
-  LocaleOnTheWay onTheWay_;
+  platform::NotificationCenter* observed_ = nullptr;
+  CarriedLocale carriedLocale_;
   String originalKey_;
   String originalAccessibilityLabel_;
   String originalAccessibilityHint_;

@@ -4,18 +4,17 @@ namespace orvanta {
 
 class LocalizedControl;
 
-/// What other threads, later turns and steps under way hold of a control, in place of the control.
-///
-/// A control is touched, and dies, on the main thread alone. Who wants something of it from
-/// elsewhere takes a step to the main thread, and finds there whether the control still lives.
+/// A weak back-pointer to a control, for notification handlers, queued steps and refreshes under
+/// way. Copied on any thread, but dereferenced on the main thread only, where controls are used and
+/// destroyed.
 class MainThreadAnchor {
  public:
   explicit MainThreadAnchor(LocalizedControl& control) noexcept : control_(&control) {}
 
-  /// The control, or null once it has died. On the main thread only.
+  /// The control; null once it was destroyed.
   [[nodiscard]] LocalizedControl* control() const noexcept { return control_; }
-  /// On the main thread only.
-  void letGo() noexcept { control_ = nullptr; }
+  /// To be called when the control is destroyed.
+  void reset() noexcept { control_ = nullptr; }
 
  private:
   LocalizedControl* control_;

@@ -23,7 +23,7 @@ const UILocalizedButton::ControlStates& defaultStates() {
 }  // namespace
 
 UILocalizedButton::UILocalizedButton(const std::shared_ptr<platform::Button>& button)
-    : LocalizedControl(button, LocaleOnTheWay::lost), button_(*button) {}
+    : LocalizedControl(button, CarriedLocale::dropped), button_(*button) {}
 
 void UILocalizedButton::awakeFromNib() {
   if (configurationIsDeferred()) {
@@ -56,7 +56,7 @@ const UILocalizedButton::ControlStates& UILocalizedButton::controlStates() {
 
 void UILocalizedButton::setTitlesFromKey(const String& key) {
   const String title = localized(key);
-  // A handle of its own: the application may set another list while it is told of a title.
+  // A handle of its own: the application may set another list inside `setTitle`.
   const ControlStates states = controlStates();
   const Hold hold(*this);
   for (const platform::ControlState state : *states) {
@@ -78,7 +78,7 @@ void UILocalizedButton::refresh(const String& locale, const Hold& hold) {
 }
 
 void UILocalizedButton::refreshStrings(const Hold& hold) {
-  // Twice on purpose, with the same result: whoever watches the titles sees each set two times.
+  // Each title is set twice on purpose; observers of the toolkit's button see both.
   hold.takeSteps([&] { setTitlesFromKey(originalKey()); }, [&] { setTitlesFromKey(originalKey()); },
                  [&] { refreshAccessibility(button_, hold); });
 }

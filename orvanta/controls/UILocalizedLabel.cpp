@@ -12,7 +12,7 @@ constexpr std::string_view kDefaultText = "Label";
 }  // namespace
 
 UILocalizedLabel::UILocalizedLabel(const std::shared_ptr<platform::Label>& label)
-    : LocalizedControl(label, LocaleOnTheWay::kept), label_(*label) {}
+    : LocalizedControl(label, CarriedLocale::kept), label_(*label) {}
 
 std::unique_ptr<UILocalizedLabel> UILocalizedLabel::initLocalizedWithFrame(
     const platform::Rect& frame, const LabelMaker& initWithFrame) {

@@ -2,7 +2,6 @@
 
 #include <orvanta/controls/UILocalizedTextField.h>
 #include <orvanta/locale/SystemInfo.h>
-#include <orvanta/platform/Platform.h>
 
 namespace orvanta {
 
@@ -22,7 +21,7 @@ constexpr PlaceholderMarker kMarkers[] = {
 }  // namespace
 
 UILocalizedTextField::UILocalizedTextField(const std::shared_ptr<platform::TextField>& field)
-    : LocalizedControl(field, LocaleOnTheWay::kept), field_(*field) {}
+    : LocalizedControl(field, CarriedLocale::kept), field_(*field) {}
 
 void UILocalizedTextField::awakeFromNib() {
   const String text = field_.text();
@@ -37,17 +36,14 @@ void UILocalizedTextField::awakeFromNib() {
 }
 
 void UILocalizedTextField::initializePlaceholder() {
-  if (platform::Platform::current().mainQueue->isMainThread()) {
-    localizePlaceholder();
-  } else {
-    onMainThread([this] { localizePlaceholder(); });
-  }
+  onMainThread([this] { localizePlaceholder(); });
 }
 
 void UILocalizedTextField::localizePlaceholder() {
   if (!SystemInfo::isTVOS()) {
     return;
   }
+  const Hold hold(*this);
   const String placeholder = field_.placeholder();
   for (const PlaceholderMarker& marker : kMarkers) {
     if (placeholder == marker.placeholder) {
@@ -55,7 +51,7 @@ void UILocalizedTextField::localizePlaceholder() {
       return;
     }
   }
-  // By what the field shows now, which at load time is what was remembered.
+  // The key is what the field shows now; when it was just loaded, that is the remembered one.
   if (!originalPlaceholder_.empty()) {
     field_.setPlaceholder(localized(placeholder));
   }

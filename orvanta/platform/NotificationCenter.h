@@ -15,8 +15,8 @@ struct Notification {
   Dictionary<StringList> userInfo;
 };
 
-/// Hands notifications to whoever registered for them. Guards itself: every operation may be
-/// called from any thread, also from inside a handler.
+/// Hands notifications to whoever registered for them. Thread-safe: every operation may be called
+/// from any thread, also inside a handler.
 class ORVANTA_EXPORT NotificationCenter {
  public:
   using Handler = std::function<void(const Notification&)>;
@@ -27,17 +27,21 @@ class ORVANTA_EXPORT NotificationCenter {
 
   /// Registers `handler` for notifications called `name` from the sender `object`, from any sender
   /// when that is null. `observer` only names the registration for `removeObserver`; one observer
-  /// may register several times, and is then told as many times.
+  /// may register several times, and its handlers are then all called. Throws `std::bad_alloc`, and
+  /// has then registered nothing.
   virtual void addObserver(const void* observer, const String& name, const void* object,
                            Handler handler) = 0;
 
-  /// Ends every registration of `observer`. No handler of it begins after this returns; one that
-  /// another thread has already begun may still be running.
-  virtual void removeObserver(const void* observer) = 0;
+  /// Ends every registration of `observer`. A post on this thread, or one that begins later, calls
+  /// no handler of it any more. A post that is under way on another thread may still be in such a
+  /// handler, or be about to enter it: what a handler uses must outlive that, or be reached through
+  /// something that does.
+  virtual void removeObserver(const void* observer) noexcept = 0;
 
-  /// Runs the handlers in the order of their registration, on the calling thread, before it
-  /// returns. What registers meanwhile is not told of this notification; what is removed
-  /// meanwhile is not told any more.
+  /// Calls the handlers in the order of their registration, on the calling thread, before it
+  /// returns. A handler that is registered meanwhile is not called for this notification; one that
+  /// is removed meanwhile is not called any more. If handlers throw, the others are called all the
+  /// same, and then the first exception is rethrown to the caller.
   virtual void postNotification(const Notification& notification) = 0;
 
  protected:

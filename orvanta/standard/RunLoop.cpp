@@ -1,34 +1,36 @@
 #include <condition_variable>
 #include <cstdint>
-#include <deque>
-#include <future>
+#include <list>
 #include <mutex>
 #include <optional>
 #include <thread>
 #include <utility>
 
 #include <orvanta/standard/RunLoop.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta::standard {
 
 namespace {
 
-// The steps that wait for their turn. Outlives the loop while a call is under way: a step may let
-// go of the loop that runs it, and a thread may wait for a step when the loop goes.
+// The queued steps. Shared with the calls that are under way, because a step may destroy the loop
+// that runs it, and a loop may be destroyed while a thread waits for a step.
 class StepQueue {
  public:
   using Step = platform::MainQueue::Step;
   using Ticket = std::uint64_t;
 
-  // Drops the step when no more will run.
+  // Drops the step when the queue is closed.
   void push(Step step) {
     std::shared_ptr<const std::function<void()>> hook;
+    std::list<Step> added;
+    added.push_back(std::move(step));
     {
       const std::scoped_lock lock(mutex_);
       if (closed_) {
         return;
       }
-      steps_.push_back(std::move(step));
+      steps_.splice(steps_.end(), added);
       hook = wakeUpHook_;
     }
     changed_.notify_all();
@@ -37,7 +39,7 @@ class StepQueue {
     }
   }
 
-  // Steps that are pushed from now on have this ticket or a later one.
+  // A step that is pushed from now on has this ticket or a later one.
   Ticket nextTicket() {
     const std::scoped_lock lock(mutex_);
     return firstTicket_ + steps_.size();
@@ -48,8 +50,8 @@ class StepQueue {
     return !steps_.empty() && firstTicket_ < end ? std::optional(takeFirst()) : std::nullopt;
   }
 
-  // The next step as soon as there is one. None on a call of `quit`, which it uses up, and when no
-  // more will run.
+  // Waits for the next step. None after a call of `quit`, which is thereby consumed, and when the
+  // queue is closed.
   std::optional<Step> waitForStep() {
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [&] { return quit_ || closed_ || !steps_.empty(); });
@@ -70,8 +72,9 @@ class StepQueue {
     wakeUpHook_.swap(shared);
   }
 
-  void close() {
-    std::deque<Step> dropped;
+  // Drops all steps, those to come included. Allocates nothing: called by destructors.
+  void close() noexcept {
+    std::list<Step> dropped;  // Destroyed without the lock.
     const std::scoped_lock lock(mutex_);
     closed_ = true;
     dropped.swap(steps_);
@@ -88,11 +91,46 @@ class StepQueue {
 
   std::mutex mutex_;
   std::condition_variable changed_;
-  std::deque<Step> steps_;
+  std::list<Step> steps_;  // Adding one cannot fail under the lock, nor can closing.
   Ticket firstTicket_ = 0;
   bool quit_ = false;
   bool closed_ = false;
   std::shared_ptr<const std::function<void()>> wakeUpHook_;
+};
+
+// What a thread waits for that has queued a step.
+class Completion {
+ public:
+  void set() {
+    {
+      const std::scoped_lock lock(mutex_);
+      isSet_ = true;
+    }
+    changed_.notify_all();
+  }
+  void wait() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [&] { return isSet_; });
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  bool isSet_ = false;
+};
+
+// Completes when the queued step that holds it is destroyed: after it has run or thrown, and also
+// when it was dropped.
+class CompletesAtEnd {
+ public:
+  explicit CompletesAtEnd(std::shared_ptr<Completion> completion)
+      : completion_(std::move(completion)) {}
+  CompletesAtEnd(const CompletesAtEnd&) = delete;
+  CompletesAtEnd& operator=(const CompletesAtEnd&) = delete;
+  ~CompletesAtEnd() { completion_->set(); }
+
+ private:
+  std::shared_ptr<Completion> completion_;
 };
 
 class StandardRunLoop final : public RunLoop {
@@ -115,13 +153,10 @@ class StandardRunLoop final : public RunLoop {
       step();
       return;
     }
-    // The promise is kept by the step in the queue alone: it ends the wait when the step has run,
-    // has thrown, and also when it was dropped.
-    auto promise = std::make_shared<std::promise<void>>();
-    const std::future<void> ended = promise->get_future();
+    const auto completion = std::make_shared<Completion>();
     const auto queue = queue_;
-    queue->push([&step, promise = std::move(promise)] { step(); });
-    ended.wait();
+    queue->push([&step, end = std::make_shared<CompletesAtEnd>(completion)] { step(); });
+    completion->wait();
   }
 
   void run() override {
@@ -148,35 +183,44 @@ class StandardRunLoop final : public RunLoop {
     queue_->setWakeUpHook(std::move(hook));
   }
 
-  void close() { queue_->close(); }
+  void close() noexcept { queue_->close(); }
 
  private:
   const std::thread::id mainThread_ = std::this_thread::get_id();
   const std::shared_ptr<StepQueue> queue_ = std::make_shared<StepQueue>();
 };
 
-// The loop object itself is never freed: threads and static objects may use it until the end.
 const std::shared_ptr<StandardRunLoop>& mainLoop() {
-  static const auto* const loop =
-      new std::shared_ptr<StandardRunLoop>(std::make_shared<StandardRunLoop>());
+  static NoDestructor<const std::shared_ptr<StandardRunLoop>> loop(
+      std::make_shared<StandardRunLoop>());
   return *loop;
 }
 
-// Made while the library is loaded, because the thread that loads it is taken for the main thread.
-// A program that loads the library at run time from another thread gives the platform a loop of
-// its own. When the process ends, whoever still waits for the main thread is let go.
-struct MainLoopOfProcess {
-  MainLoopOfProcess() { static_cast<void>(mainLoop()); }
-  MainLoopOfProcess(const MainLoopOfProcess&) = delete;
-  MainLoopOfProcess& operator=(const MainLoopOfProcess&) = delete;
-  ~MainLoopOfProcess() { mainLoop()->close(); }
+struct ClosesMainLoop {
+  ClosesMainLoop() = default;
+  ClosesMainLoop(const ClosesMainLoop&) = delete;
+  ClosesMainLoop& operator=(const ClosesMainLoop&) = delete;
+  ~ClosesMainLoop() { mainLoop()->close(); }
 };
-const MainLoopOfProcess mainLoopOfProcess;
+
+// Takes the thread that loads the library for the main thread, and closes the loop when that thread
+// ends. `exit` destroys the thread-local objects of the main thread before every static object: one
+// whose destructor joins a thread that waits for the main thread is not dead-locked.
+bool takeThisThreadForMain() {
+  static_cast<void>(mainLoop());
+  thread_local const ClosesMainLoop closesMainLoop;
+  static_cast<void>(closesMainLoop);
+  return true;
+}
+
+// The one object of the library that needs code at start-up: the identity of the main thread is not
+// known before.
+[[maybe_unused]] const bool isMainThreadKnown = takeThisThreadForMain();
 
 }  // namespace
 
 const std::shared_ptr<RunLoop>& RunLoop::main() {
-  static const auto* const loop = new std::shared_ptr<RunLoop>(mainLoop());
+  static NoDestructor<const std::shared_ptr<RunLoop>> loop(mainLoop());
   return *loop;
 }
 

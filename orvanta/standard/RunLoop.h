@@ -12,10 +12,16 @@ namespace orvanta::standard {
 ///
 /// With a loop of its own an application calls `run`. With a host loop (GLib, SDL, a game's frame)
 /// it sets a wake-up hook that asks the host for a turn, and calls `runPending` in that turn.
+///
+/// An exception that a step throws leaves `run` or `runPending` at once; the steps behind it stay
+/// queued.
 class ORVANTA_EXPORT RunLoop : public platform::MainQueue {
  public:
   /// The loop of the process's main thread, which the standard platform uses unless it is given
-  /// another one.
+  /// another one. The thread that loads the library counts as the main thread; a program that loads
+  /// it later, on another thread, gives its platform a loop from `make`. Closed when that thread
+  /// ends, and at the beginning of `exit` on it: threads that wait for a step are released, and
+  /// steps are dropped from then on.
   [[nodiscard]] static const std::shared_ptr<RunLoop>& main();
 
   /// A loop whose main thread is the calling thread.
@@ -30,7 +36,8 @@ class ORVANTA_EXPORT RunLoop : public platform::MainQueue {
   /// waiting. On the main thread only.
   virtual std::size_t runPending() = 0;
 
-  /// `hook` is called, on the thread that queues, whenever a step is queued. It must not block.
+  /// `hook` is called, on the thread that queues, whenever a step is queued. It must not block, and
+  /// what it throws reaches whoever queued.
   virtual void setWakeUpHook(std::function<void()> hook) = 0;
 };
 

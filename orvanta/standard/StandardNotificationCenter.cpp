@@ -1,7 +1,9 @@
 #include <atomic>
 #include <cstddef>
+#include <exception>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -26,64 +28,98 @@ struct Registration {
   const void* const object;
   std::atomic<bool> alive{true};
   Handler handler;
+  // Set, under the lock, once `ReleasedHandlers` has the registration, whose link this is.
+  bool isReleased = false;
+  std::shared_ptr<Registration> nextReleased;
 };
 
-using Registrations = std::vector<std::shared_ptr<Registration>>;
-
-// What a post walks through is a list that nobody changes: while posts are under way, the first
-// change makes a copy. A registration that ends only dies in its place, since taking it out would
-// cost a walk; the dead are taken out together, once they are the larger half.
-class NamedRegistrations {
+// Registrations that nobody calls any more. Their handlers are destroyed with the object, which
+// must outlive the lock: what handlers hold may call the centre. Linked by the registrations
+// themselves, because nothing may fail for want of memory where a registration ends.
+class ReleasedHandlers {
  public:
-  [[nodiscard]] bool empty() const { return list_->size() == dead_ && posts_ == 0; }
+  ReleasedHandlers() = default;
+  ReleasedHandlers(const ReleasedHandlers&) = delete;
+  ReleasedHandlers& operator=(const ReleasedHandlers&) = delete;
 
-  void add(std::shared_ptr<Registration> registration) {
-    detach();
-    list_->push_back(std::move(registration));
-  }
-
-  // What is left over goes to `remains`, to be destroyed where no lock is held.
-  void bury(Registration& registration, std::vector<Handler>& remains) {
-    registration.alive = false;
-    ++dead_;
-    if (posts_ == 0) {
-      remains.push_back(std::exchange(registration.handler, nullptr));
-      if (2 * dead_ > list_->size()) {
-        takeOutTheDead(remains);
-      }
+  ~ReleasedHandlers() {
+    while (first_ != nullptr) {
+      const std::shared_ptr<Registration> registration = std::move(first_);
+      first_ = std::move(registration->nextReleased);
+      registration->handler = nullptr;
     }
   }
 
-  std::shared_ptr<const Registrations> beginPost() {
-    ++posts_;
-    isWalkedThrough_ = true;
-    return list_;
-  }
-
-  // The list that `beginPost` gave must be let go of before.
-  void endPost(std::vector<Handler>& remains) {
-    if (--posts_ > 0) {
-      return;
-    }
-    isWalkedThrough_ = false;
-    if (dead_ > 0) {
-      takeOutTheDead(remains);
+  void add(const std::shared_ptr<Registration>& registration) noexcept {
+    if (!std::exchange(registration->isReleased, true)) {
+      registration->nextReleased = std::exchange(first_, registration);
     }
   }
 
  private:
-  void detach() {
-    if (std::exchange(isWalkedThrough_, false)) {
+  std::shared_ptr<Registration> first_;
+};
+
+using Registrations = std::vector<std::shared_ptr<Registration>>;
+
+// The registrations for one name, in their order. A post walks through a list that is not changed
+// meanwhile: the first addition during a post makes a copy (copy-on-write). A registration that
+// ends becomes a tombstone; tombstones are erased together once they are more than half of the
+// list, so that the cost of an end is amortized.
+class NamedRegistrations {
+ public:
+  [[nodiscard]] bool empty() const noexcept { return list_->size() == dead_ && posts_ == 0; }
+
+  // Makes room for one more, so that `add` cannot fail.
+  void reserveOne() {
+    if (isWalked_) {
       list_ = std::make_shared<Registrations>(*list_);
+      isWalked_ = false;
+    }
+    if (list_->size() == list_->capacity()) {
+      list_->reserve(2 * list_->size() + 1);
+    }
+  }
+  void add(std::shared_ptr<Registration> registration) noexcept {
+    list_->push_back(std::move(registration));
+  }
+
+  void end(const std::shared_ptr<Registration>& registration, ReleasedHandlers& released) noexcept {
+    registration->alive = false;
+    ++dead_;
+    if (posts_ > 0) {
+      return;
+    }
+    released.add(registration);
+    if (2 * dead_ > list_->size()) {
+      eraseDead(released);
     }
   }
 
-  void takeOutTheDead(std::vector<Handler>& remains) {
+  std::shared_ptr<const Registrations> beginPost() noexcept {
+    ++posts_;
+    isWalked_ = true;
+    return list_;
+  }
+
+  // The list that `beginPost` gave must have been let go of.
+  void endPost(ReleasedHandlers& released) noexcept {
+    if (--posts_ > 0) {
+      return;
+    }
+    isWalked_ = false;
+    if (dead_ > 0) {
+      eraseDead(released);
+    }
+  }
+
+ private:
+  void eraseDead(ReleasedHandlers& released) noexcept {
     std::erase_if(*list_, [&](const std::shared_ptr<Registration>& registration) {
       if (registration->alive) {
         return false;
       }
-      remains.push_back(std::move(registration->handler));
+      released.add(registration);
       return true;
     });
     dead_ = 0;
@@ -91,8 +127,8 @@ class NamedRegistrations {
 
   std::shared_ptr<Registrations> list_ = std::make_shared<Registrations>();
   std::size_t dead_ = 0;
-  std::size_t posts_ = 0;
-  bool isWalkedThrough_ = false;
+  std::size_t posts_ = 0;  // Under way.
+  bool isWalked_ = false;  // By one of them.
 };
 
 class StandardNotificationCenter final : public platform::NotificationCenter {
@@ -104,19 +140,19 @@ class StandardNotificationCenter final : public platform::NotificationCenter {
     }
     auto registration = std::make_shared<Registration>(name, object, std::move(handler));
     const std::scoped_lock lock(mutex_);
-    byName_[name].add(registration);
-    byObserver_.emplace(observer, std::move(registration));
+    NamedRegistrations& named = byName_[name];
+    named.reserveOne();
+    byObserver_.emplace(observer, registration);
+    named.add(std::move(registration));
   }
 
-  void removeObserver(const void* observer) override {
-    // Outlives the lock: what handlers hold may come back here as it is destroyed.
-    std::vector<Handler> remains;
+  void removeObserver(const void* observer) noexcept override {
+    ReleasedHandlers released;
     const std::scoped_lock lock(mutex_);
     const auto [first, last] = byObserver_.equal_range(observer);
     for (auto entry = first; entry != last; ++entry) {
-      Registration& registration = *entry->second;
-      const auto named = byName_.find(registration.name);
-      named->second.bury(registration, remains);
+      const auto named = byName_.find(entry->second->name);
+      named->second.end(entry->second, released);
       if (named->second.empty()) {
         byName_.erase(named);
       }
@@ -126,15 +162,24 @@ class StandardNotificationCenter final : public platform::NotificationCenter {
 
   void postNotification(const platform::Notification& notification) override {
     const Post post(*this, notification.name);
+    std::exception_ptr thrown;
     for (const std::shared_ptr<Registration>& registration : post.registrations()) {
-      if (registration->wants(notification)) {
-        registration->handler(notification);
+      if (!registration->wants(notification)) {
+        continue;
       }
+      try {
+        registration->handler(notification);
+      } catch (...) {
+        thrown = thrown == nullptr ? std::current_exception() : thrown;
+      }
+    }
+    if (thrown != nullptr) {
+      std::rethrow_exception(thrown);
     }
   }
 
  private:
-  // A post under way, also one that a handler's exception ends.
+  // A post under way.
   class Post {
    public:
     Post(StandardNotificationCenter& center, const String& name) : center_(center), name_(name) {
@@ -152,18 +197,18 @@ class StandardNotificationCenter final : public platform::NotificationCenter {
         return;
       }
       registrations_.reset();
-      std::vector<Handler> remains;
+      ReleasedHandlers released;
       const std::scoped_lock lock(center_.mutex_);
       const auto named = center_.byName_.find(name_);
-      named->second.endPost(remains);
+      named->second.endPost(released);
       if (named->second.empty()) {
         center_.byName_.erase(named);
       }
     }
 
-    [[nodiscard]] const Registrations& registrations() const {
-      static const Registrations none;
-      return registrations_ == nullptr ? none : *registrations_;
+    [[nodiscard]] std::span<const std::shared_ptr<Registration>> registrations() const noexcept {
+      return registrations_ == nullptr ? std::span<const std::shared_ptr<Registration>>()
+                                       : std::span(*registrations_);
     }
 
    private:

@@ -87,13 +87,14 @@ TEST_F(ControlThreads, APostIsAppliedBeforeItReturns) {
   EXPECT_EQ(button_.fontName(), "CorbetSansKufiArabic");
 }
 
-TEST_F(ControlThreads, AHandlerCalledOffMainWithoutALocaleDoesNotEvenWait) {
+TEST_F(ControlThreads, AHandlerCalledOffMainWithoutALocaleDoesNothing) {
   Localizer::sharedLocalizer().setPreferredLocales({});
-  std::thread([&] {
+  label_.diary->forget();
+  offMain([&] {
     LocalizedApplication::post();
     label_.localized->handleOVPreferredLocaleDidChangeNotification(nullptr);
-  }).join();
-  EXPECT_EQ(app_.loop->runPending(), 0U);
+  });
+  EXPECT_EQ(label_.diary->take(), "");
 }
 
 TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
@@ -129,15 +130,20 @@ TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
   }
 }
 
-TEST_F(ControlThreads, ControlsComeAndGoWhileOthersPost) {
+TEST_F(ControlThreads, ControlsAndLanguagesChangeWhileOthersPostAndRefresh) {
   constexpr int kThreads = 3;
   constexpr int kPosts = 100;
+  Localizer& localizer = Localizer::sharedLocalizer();
   std::atomic<int> posting = kThreads;
   std::vector<std::thread> threads;
   while (threads.size() < kThreads) {
     threads.emplace_back([&] {
       for (int post = 0; post < kPosts; ++post) {
         LocalizedApplication::post();
+        label_.localized->handleOVPreferredLocaleDidChangeNotification(nullptr);
+        button_.localized->handleOVPreferredLocaleDidChangeNotification(nullptr);
+        field_.refreshFor("ar");
+        field_.localized->initializePlaceholder();
       }
       --posting;
     });
@@ -145,6 +151,7 @@ TEST_F(ControlThreads, ControlsComeAndGoWhileOthersPost) {
   std::vector<std::unique_ptr<test::DesignedLabel>> labels(7);
   std::vector<std::unique_ptr<test::DesignedButton>> buttons(5);
   for (std::size_t turn = 0; posting > 0; ++turn) {
+    localizer.updatePreferredLocales({turn % 2 == 0 ? "de" : "fr"}, turn % 3 == 0 ? "CH" : nullptr);
     auto& label = labels[turn % labels.size()];
     label = std::make_unique<test::DesignedLabel>(kDesign);
     label->localized->awakeFromNib();
@@ -159,6 +166,7 @@ TEST_F(ControlThreads, ControlsComeAndGoWhileOthersPost) {
   for (std::thread& thread : threads) {
     thread.join();
   }
+  app_.speak({"fr"});
   for (const auto& label : labels) {
     if (label != nullptr) {
       EXPECT_EQ(label->shown().text, "titre");

@@ -103,8 +103,10 @@ TYPED_TEST(LocalizedControls, FollowTheLocaleInFontAndAlignmentKeyOrNot) {
       EXPECT_EQ(control.shown().alignment, row.alignment) << row.locale << ", " << text;
     }
     control.localized->setOriginalFont(nullptr);
+    control.localized->setOriginalAlignment(TextAlignment::right);
     this->app_.speak({"ar"});
     EXPECT_EQ(control.fontName(), "none") << "an absent font is passed through";
+    EXPECT_EQ(control.shown().alignment, TextAlignment::left);
   }
 }
 

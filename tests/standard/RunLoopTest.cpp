@@ -1,4 +1,5 @@
 #include <atomic>
+#include <cstdlib>
 #include <functional>
 #include <future>
 #include <stdexcept>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <orvanta/standard/RunLoop.h>
 
@@ -158,6 +160,34 @@ TEST(RunLoop, LetsGoOfWaitingThreadsWhenItEnds) {
   loop.reset();
   waiting.join();
   EXPECT_FALSE(ran);
+}
+
+// A static object, made after the first use of the library, that joins a thread which waits for the
+// main one.
+class JoinsAtExit {
+ public:
+  explicit JoinsAtExit(std::thread thread) : thread_(std::move(thread)) {}
+  JoinsAtExit(const JoinsAtExit&) = delete;
+  JoinsAtExit& operator=(const JoinsAtExit&) = delete;
+  ~JoinsAtExit() { thread_.join(); }
+
+ private:
+  std::thread thread_;
+};
+
+TEST(RunLoopDeathTest, LetsGoOfWaitingThreadsBeforeStaticObjectsGo) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  const auto program = [] {
+    alarm(20);
+    const auto loop = RunLoop::main();
+    loop->dispatchAsync([] {});
+    static JoinsAtExit joins(std::thread([loop] {
+      loop->performOnMainThreadAndWait([] {});
+      loop->performOnMainThreadAndWait([] {});
+    }));
+    std::exit(0);
+  };
+  EXPECT_EXIT(program(), testing::ExitedWithCode(0), "");
 }
 
 TEST(RunLoop, MayEndInsideAStep) {

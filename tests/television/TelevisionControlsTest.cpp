@@ -124,6 +124,22 @@ TEST(Placeholder, IsLocalizedAtTheLoad) {
   }
 }
 
+TEST(Placeholder, MayDestroyTheFieldThatItIsSetOn) {
+  const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
+  for (const char* placeholder : {"email.p", "hint"}) {
+    test::DesignedTextField control({"title", {}, {}});
+    control.localized->awakeFromNib();
+    control.watched->setPlaceholder(placeholder);
+    control.localized->setOriginalPlaceholder("hint");
+    control.watched.reset();
+    control.diary->forget();
+    control.diary->afterwards = [&](const std::string& /*entry*/) { control.localized.reset(); };
+    control.localized->initializePlaceholder();
+    EXPECT_EQ(control.localized, nullptr) << placeholder;
+    EXPECT_EQ(control.diary->take().find("placeholder placeholder="), 0U) << placeholder;
+  }
+}
+
 TEST(PlaceholderThread, IsTheMainOneBeforeTheRefreshAndWhenAsked) {
   const LocalizedApplication app(test::languagesToSpeak(), {"fr"});
   test::DesignedTextField control({"title", {}, {}});
