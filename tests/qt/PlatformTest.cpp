@@ -54,6 +54,26 @@ class PlatformTest : public QObject {
     QCOMPARE(order, (std::vector{1, 2, 3}));
   }
 
+  void writesNumbersAsTheLanguageDoes() {
+    const struct {
+      const char* locale;
+      const char* plain;
+      const char* written;
+    } rows[] = {
+        {"en", "-1234567.50", "-1,234,567.50"},
+        {"fr", "1234.5", "1\u202F234,5"},
+        {"de-AT", "0.25", "0,25"},
+        {"ar-EG", "1203", "١٬٢٠٣"},
+        {"en", "100000000000000000000000", "100000000000000000000000"},
+        {"xx", "1234.50", "1234.50"},
+    };
+    for (const auto& row : rows) {
+      QCOMPARE(QString::fromStdString(
+                   Platform::current().locales->localizedNumber(row.plain, row.locale)),
+               QString::fromUtf8(row.written));
+    }
+  }
+
   void hasTwoArabicFacesThatLookDifferent() {
     const auto regular = utilities::ArabicFontWithSize(20, false);
     const auto bold = utilities::ArabicFontWithSize(20, true);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <orvanta/qt/platform/QtFonts.h>
+#include <orvanta/qt/platform/QtLocaleData.h>
 #include <orvanta/qt/platform/QtMainQueue.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 #include <orvanta/qt/platform/QtPlatformCheck.h>
@@ -54,7 +55,12 @@ platform::Platform makeQtPlatform(standard::StandardOptions options,
   if (replacements.mainQueue == nullptr) {
     replacements.mainQueue = makeQtMainQueue();
   }
-  return standard::makeStandardPlatform(options, std::move(replacements));
+  const bool areLocalesReplaced = replacements.locales != nullptr;
+  platform::Platform platform = standard::makeStandardPlatform(options, std::move(replacements));
+  if (!areLocalesReplaced) {
+    platform.locales = makeQtLocaleData(std::move(platform.locales));
+  }
+  return platform;
 }
 
 }  // namespace orvanta::qt

@@ -6,9 +6,9 @@
 
 namespace orvanta::qt {
 
-/// The standard platform with what Qt knows better: fonts, a main queue on Qt's event loop, the
-/// system's version, and the device's languages where the options do not name them. Members that
-/// are present in `replacements` are taken instead.
+/// The standard platform with what Qt knows better: fonts, a main queue on Qt's event loop, numbers
+/// as QLocale writes them, the system's version, and the device's languages where the options do
+/// not name them. Members that are present in `replacements` are taken instead.
 ///
 /// To be called on the thread of the application object, which may be made before or after. Fonts
 /// need it.
