@@ -14,3 +14,5 @@
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/locale/SystemInfo.h>
 #include <orvanta/locale/Version.h>
+#include <orvanta/messages/LocalizedMessages.h>
+#include <orvanta/messages/TextSnapshot.h>

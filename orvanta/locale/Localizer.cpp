@@ -1,4 +1,4 @@
-// The current language: start-up, change, look-up, and the plain properties.
+// The current language: start-up, change, and the plain properties.
 #include <utility>
 
 #include <orvanta/locale/Localizer.h>
@@ -62,8 +62,9 @@ void Localizer::adopt(const StringList& matched, const StringList& raw) {
   std::shared_ptr<Bundle> bundle = languageBundleForLocale(matched.front());
   Platform::current().bundles->refreshTables();
 
-  currentLanguageBundle_ = std::move(bundle);
+  setCurrentLanguageBundle(std::move(bundle));
   preferredLocales_ = matched;
+  adoptedRequest_ = raw;
   rightToLeftOrientation_ = rightToLeftOrientationForLocale(matched.front());
 
   Platform::current().mainQueue->dispatchAsync([change = std::move(change)] {
@@ -72,71 +73,11 @@ void Localizer::adopt(const StringList& matched, const StringList& raw) {
 }
 
 void Localizer::updatePreferredLocales(const StringList& languages, const String& country) {
-  currentLanguageBundle_ = nullptr;
+  setCurrentLanguageBundle(nullptr);
   originalLocales_ = country.isPresent() ? localesFromLanguages(languages, country) : languages;
   // A copy of the handle: a callback of a platform may set the property meanwhile.
   const StringList requested = originalLocales_;
   changeOrvantaLanguageToPreferredLocales(requested);
-}
-
-String Localizer::localizedStringForKey(const String& key) {
-  return hasBundleForLookUp() && key.isPresent() ? textOrKey(key.view(), key) : String();
-}
-
-String Localizer::localizedStringForKey(std::string_view key) {
-  return hasBundleForLookUp() ? textOrKey(key, key) : String();
-}
-
-// The usual look-up: both tables are in memory. Inline, without a virtual call or an allocation;
-// the benchmark's rows `hit` and `fallback` measure it.
-template <typename Key>
-[[gnu::always_inline]] inline String Localizer::textOrKey(std::string_view characters,
-                                                          const Key& key) {
-  if (defaultLocaleBundle_ == nullptr) {
-    // Also when the current language has the text: the first look-up fixes the memo.
-    static_cast<void>(defaultLocaleBundle());
-  }
-  const HashedKey hashed(characters);
-  const strings::StringTable* table = currentLanguageBundle_->loadedDefaultTable();
-  if (table == nullptr) {
-    return textOfBundlesOrKey(hashed, key);
-  }
-  std::string_view text = table->find(hashed);
-  if (text.data() == nullptr) {
-    table = defaultLocaleBundle_ == nullptr ? nullptr : defaultLocaleBundle_->loadedDefaultTable();
-    if (table == nullptr) {
-      return textOfBundlesOrKey(hashed, key);
-    }
-    text = table->find(hashed);
-    if (text.empty()) {
-      // An empty English text is an empty default value, which gives way to the key.
-      return String(key);
-    }
-  }
-  return table->handleTo(text);
-}
-
-// The same where a table is not in memory yet, or a bundle keeps its texts elsewhere.
-template <typename Key>
-String Localizer::textOfBundlesOrKey(HashedKey hashed, const Key& key) {
-  // Handles of its own: an application's bundle may change the language inside the call.
-  const std::shared_ptr<Bundle> current = currentLanguageBundle_;
-  const std::shared_ptr<Bundle> english = defaultLocaleBundle_;
-  String text = current->textForKey(hashed, {});
-  if (text.isAbsent() && english != nullptr && english != current) {
-    text = english->textForKey(hashed, {});
-    if (text.empty()) {
-      text = {};
-    }
-  }
-  return text.isAbsent() ? String(key) : text;
-}
-
-bool Localizer::hasBundleForLookUp() {
-  if (currentLanguageBundle_ == nullptr) {
-    useDefaultLocale();
-  }
-  return currentLanguageBundle_ != nullptr;
 }
 
 String Localizer::currentLocalesString() const {
@@ -175,15 +116,18 @@ void Localizer::setPreferredLocales(StringList locales) noexcept {
 
 void Localizer::setCurrentLanguageBundle(std::shared_ptr<Bundle> bundle) noexcept {
   currentLanguageBundle_ = std::move(bundle);
+  resetChain();
 }
 
 void Localizer::setMainBundle(std::shared_ptr<Bundle> bundle) noexcept {
   mainBundle_ = std::move(bundle);
+  resetChain();
 }
 
 void Localizer::setDefaultLocaleBundle(Bundle* bundle) noexcept {
   // Without a count: owns nothing.
   defaultLocaleBundle_ = std::shared_ptr<Bundle>(std::shared_ptr<Bundle>(), bundle);
+  resetChain();
 }
 
 void Localizer::setFallbackTable(FallbackTable table) noexcept {
@@ -199,6 +143,7 @@ OVStringCache& Localizer::stringCache() const {
 
 void Localizer::setStringCache(std::shared_ptr<OVStringCache> cache) noexcept {
   stringCache_ = std::move(cache);
+  resetChain();
 }
 
 }  // namespace orvanta

@@ -7,6 +7,9 @@
 #include <orvanta/Export.h>
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/locale/FallbackTable.h>
+#include <orvanta/locale/TextChain.h>
+#include <orvanta/locale/TextExplanation.h>
+#include <orvanta/locale/TextProblem.h>
 #include <orvanta/platform/AffineTransform.h>
 #include <orvanta/platform/Bundle.h>
 #include <orvanta/platform/Calendar.h>
@@ -85,6 +88,28 @@ class ORVANTA_EXPORT Localizer {
     return key == nullptr ? localizedStringForKey(String())
                           : localizedStringForKey(std::string_view(key));
   }
+
+  /// The text that `localizedStringForKey` gives, and where it comes from. Not reported to the
+  /// observer.
+  [[nodiscard]] TextExplanation explain(const String& key);
+
+  /// The tables that look-ups ask now, in their order; none when there is no bundle at all. Valid
+  /// until the language or a property changes.
+  [[nodiscard]] const TextChain& textChain() ORVANTA_LIFETIME_BOUND;
+
+  /// Called for each look-up that finds no text in the current language, and for each malformed
+  /// message, at once and on the thread that looks up. One observer at a time; none by default,
+  /// and an empty one removes it. It may look up, and set another observer.
+  void setTextObserver(TextObserver observer);
+  [[nodiscard]] bool hasTextObserver() const noexcept { return textObserver_ != nullptr; }
+  /// Calls the observer, if there is one.
+  void report(const TextProblem& problem) const;
+
+  /// Whether the table that the application ships for a language is asked for what a downloaded
+  /// one lacks, before English: a table downloaded for an older version of the application lacks
+  /// the keys of the new one. Off by default. An empty text of the shipped table stays empty.
+  [[nodiscard]] bool shippedTextsStandIn() const noexcept { return shippedTextsStandIn_; }
+  void setShippedTextsStandIn(bool standIn) noexcept;
 
   /// The current identifiers, `preferredLocales` itself.
   [[nodiscard]] const StringList& currentLocales() const noexcept ORVANTA_LIFETIME_BOUND {
@@ -193,23 +218,46 @@ class ORVANTA_EXPORT Localizer {
   // Stores the matched identifiers, of which there is one at least, and queues the notification
   // with them and the requested ones. `raw` may be `preferredLocales_` itself.
   void adopt(const StringList& matched, const StringList& raw);
-  // What `localeWithFallbacksApplied` gives, and its text with its hash.
+  // What `localeWithFallbacksApplied` gives, its text with its hash, and whether the table gave it.
   struct Resolved {
     String locale;
     HashedKey key;
+    bool isFromTable;
   };
   [[nodiscard]] Resolved resolve(const String& identifier) const;
   // Whether `languageBundleForLocale` would give one.
   [[nodiscard]] bool hasBundleFor(const Resolved& resolved) const;
-  // Goes back to the device's choice when there is no current bundle; false when that has none.
-  [[nodiscard]] bool hasBundleForLookUp();
-  // There must be a current bundle. `key` is what becomes the result when no language has a text.
+  // What one request comes to.
+  struct Match {
+    bool isAvailable = false;
+    String locale;
+    bool isFromTable = false;
+    bool isFromLanguagePart = false;
+  };
+  [[nodiscard]] Match match(const String& request) const;
+  void explainLocale(TextExplanation& explanation) const;
+
+  // The chain with English in it, where there is an English bundle. Null when there is no current
+  // bundle and the device's choice gives none.
+  [[nodiscard]] const TextChain* chainForLookUp();
+  [[nodiscard]] const TextChain* settleChain();
+  [[nodiscard]] TextChain makeChain() const;
+  void resetChain() noexcept;
+  [[nodiscard]] std::shared_ptr<platform::Bundle> shippedBundleFor(const TextLink& link) const;
+  // `key` is what becomes the result when no language has a text.
   template <typename Key>
-  [[nodiscard]] String textOrKey(std::string_view characters, const Key& key);
-  template <typename Key>
-  [[nodiscard]] String textOfBundlesOrKey(HashedKey hashed, const Key& key);
+  [[nodiscard]] String textOrKey(const TextChain& chain, std::string_view characters,
+                                 const Key& key) const;
+  void reportFallback(std::string_view key, TextSource source) const;
 
   bool rightToLeftOrientation_ = false;
+  bool shippedTextsStandIn_ = false;
+  // Whether `chain_` holds all that a look-up needs, English included. Whatever changes what it is
+  // made of resets it.
+  bool chainIsComplete_ = false;
+  TextChain chain_;
+  std::shared_ptr<const TextObserver> textObserver_;
+  StringList adoptedRequest_;
   StringList originalLocales_;
   StringList preferredLocales_;
   std::shared_ptr<platform::Bundle> currentLanguageBundle_;

@@ -25,8 +25,8 @@ Localizer::Resolved Localizer::resolve(const String& identifier) const {
   String trimmed = stringByTrimming(identifier, CharacterSet::whitespace);
   const HashedKey key(trimmed.view());
   const String* instead = trimmed.isAbsent() ? nullptr : fallbackTable().find(key);
-  return instead == nullptr ? Resolved{std::move(trimmed), key}
-                            : Resolved{*instead, HashedKey(instead->view())};
+  return instead == nullptr ? Resolved{std::move(trimmed), key, false}
+                            : Resolved{*instead, HashedKey(instead->view()), true};
 }
 
 String Localizer::languageOnlyFromString(const String& identifier) {
@@ -39,19 +39,26 @@ StringList Localizer::availableLocalesFromArray(const StringList& requested) con
   }
   StringList::Builder available(requested.size());
   for (const String& request : requested) {
-    Resolved resolved = resolve(request);
-    if (hasBundleFor(resolved)) {
-      available.add(std::move(resolved.locale));
-      continue;
-    }
-    // The language part of the request itself, not of what the table gave for it: "zh-TW" may
-    // so end in "zh-Hans".
-    resolved = resolve(languagePart(request));
-    if (resolved.locale != request && hasBundleFor(resolved)) {
-      available.add(std::move(resolved.locale));
+    Match found = match(request);
+    if (found.isAvailable) {
+      available.add(std::move(found.locale));
     }
   }
   return std::move(available).build();
+}
+
+Localizer::Match Localizer::match(const String& request) const {
+  Resolved resolved = resolve(request);
+  if (hasBundleFor(resolved)) {
+    return {true, std::move(resolved.locale), resolved.isFromTable, false};
+  }
+  // The language part of the request itself, not of what the table gave for it: "zh-TW" may so end
+  // in "zh-Hans".
+  resolved = resolve(languagePart(request));
+  if (resolved.locale != request && hasBundleFor(resolved)) {
+    return {true, std::move(resolved.locale), resolved.isFromTable, true};
+  }
+  return {};
 }
 
 bool Localizer::hasBundleFor(const Resolved& resolved) const {

@@ -11,6 +11,13 @@ String Bundle::localizedStringForKey(const String& key, const String& value,
   return lookUpResult(text, key, value);
 }
 
+std::shared_ptr<const strings::StringTable> Bundle::shareDefaultTable() const {
+  if (defaultTable_ == nullptr) {
+    static_cast<void>(textForKey(HashedKey(std::string_view()), {}));
+  }
+  return defaultTable_;
+}
+
 std::vector<String> Bundle::textsForKeys(std::span<const HashedKey> keys) const {
   std::vector<String> texts;
   texts.reserve(keys.size());

@@ -66,6 +66,9 @@ class ORVANTA_EXPORT Bundle {
       ORVANTA_LIFETIME_BOUND {
     return defaultTable_.get();
   }
+  /// That table, read now if it is not in memory yet, to be kept, and asked on any thread. Null for
+  /// a bundle that keeps its texts elsewhere.
+  [[nodiscard]] std::shared_ptr<const strings::StringTable> shareDefaultTable() const;
 
  protected:
   Bundle() = default;

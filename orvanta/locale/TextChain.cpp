@@ -1,0 +1,85 @@
+#include <algorithm>
+
+#include <orvanta/locale/OVLocale.h>
+#include <orvanta/locale/TextChain.h>
+#include <orvanta/text/PathString.h>
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::string_view kLanguageFolderExtension = ".lproj";
+constexpr std::string_view kLanguageOfOtherFolders = "en";
+
+String localeOf(const platform::Bundle& bundle) {
+  String named = bundle.textForKey(HashedKey(OVOrvantaLanguageAppleIDKey), {});
+  if (!named.empty()) {
+    return named;
+  }
+  const String path = bundle.bundlePath();
+  return path.view().ends_with(kLanguageFolderExtension)
+             ? path::stringByDeletingPathExtension(path::lastPathComponent(path))
+             : String::fromStatic(kLanguageOfOtherFolders);
+}
+
+// The next component of a path that says anything; empty at its end.
+std::string_view takeComponent(std::string_view& path) {
+  while (!path.empty()) {
+    const std::string_view component = path.substr(0, path.find('/'));
+    path.remove_prefix(std::min(component.size() + 1, path.size()));
+    if (!component.empty() && component != ".") {
+      return component;
+    }
+  }
+  return {};
+}
+
+bool isBelow(std::string_view folder, std::string_view path) {
+  std::string_view component = takeComponent(folder);
+  if (component.empty()) {
+    return false;
+  }
+  for (; !component.empty(); component = takeComponent(folder)) {
+    if (takeComponent(path) != component) {
+      return false;
+    }
+  }
+  return !takeComponent(path).empty();
+}
+
+}  // namespace
+
+const String& TextLink::locale() const& {
+  if (locale_.isAbsent() && bundle_ != nullptr) {
+    locale_ = localeOf(*bundle_);
+  }
+  return locale_;
+}
+
+bool TextLink::isDownloaded() const {
+  return cache_ != nullptr && bundle_ != nullptr &&
+         isBelow(cache_->cacheDirectoryURL().path().view(), bundle_->bundlePath().view());
+}
+
+void TextChain::add(TextLink link) {
+  const auto isSame = [&](const TextLink& other) { return other.bundle() == link.bundle(); };
+  if (link.bundle() != nullptr && std::none_of(links().begin(), links().end(), isSame)) {
+    links_[size_++] = std::move(link);
+  }
+}
+
+// Where a table is not in memory yet, or a bundle keeps its texts elsewhere. Asks copies of the
+// links, because an application's bundle may change the language, and with it this chain.
+TextChain::Found TextChain::findInBundles(const HashedKey& key, std::size_t first) const {
+  const TextChain held = *this;
+  for (std::size_t at = first; at < held.size_; ++at) {
+    const TextLink& link = held.links_[at];
+    String text = link.bundle()->textForKey(key, {});
+    if (isAnswer(link.source(), text.view())) {
+      return {std::move(text), link.source(), at};
+    }
+  }
+  return {{}, TextSource::key, held.size_};
+}
+
+}  // namespace orvanta

@@ -1,0 +1,289 @@
+#include <atomic>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/messages/LocalizedMessages.h>
+#include <orvanta/messages/TextSnapshot.h>
+
+#include "../support/TestApplication.h"
+
+namespace orvanta {
+namespace {
+
+const test::Languages kShipped = {
+    {"en",
+     {{"items", "{n, plural, one {# item} other {# items}} for {name}"},
+      {"only-english", "{n, plural, one {one} other {many}}"},
+      {"broken-french", "{n} in English"},
+      {"broken", "English {"},
+      {"empty-english", ""},
+      {"format", "%1$@ has %2$d"},
+      {"plain", "It's {0}"}}},
+    {"fr",
+     {{"items", "{n, plural, one {# article} other {# articles}} pour {name}"},
+      {"broken-french", "{n, plural, one {"},
+      {"broken", "{français"},
+      {"broken-alone", "{seul"},
+      {"empty-french", ""},
+      {"format", "%2$d pour %1$@"}}},
+    {"ar", {{"items", "{n, plural, zero {صفر} two {اثنان} few {# قليل} other {#}}، {name}"}}},
+};
+
+// What the observer was told, one word or two for each problem.
+class Observed {
+ public:
+  explicit Observed(Localizer& localizer) {
+    localizer.setTextObserver([this](const TextProblem& problem) {
+      static const char* const kNames[] = {"english", "key", "malformed"};
+      said_ += std::string(kNames[static_cast<int>(problem.kind)]) + ' ' + problem.key.str() + ' ' +
+               problem.locale.str();
+      if (problem.kind == TextProblem::Kind::malformedMessage) {
+        said_ += ' ' + std::to_string(problem.position);
+        EXPECT_FALSE(problem.reason.empty());
+      }
+      said_ += '\n';
+    });
+  }
+  std::string take() { return std::exchange(said_, {}); }
+
+ private:
+  std::string said_;
+};
+
+struct MessageRow {
+  const char* locale;
+  const char* key;
+  const char* message;
+  const char* problems;
+};
+
+TEST(LocalizedMessages, SpeakTheLanguageThatTheTextComesFrom) {
+  test::TestApplication app(kShipped);
+  Localizer localizer;
+  Observed observed(localizer);
+  const MessageRow rows[] = {
+      {"fr", "items", "0 article pour Ada", ""},
+      {"en", "items", "0 items for Ada", ""},
+      {"ar", "items", "صفر، \u2068Ada\u2069", ""},
+      {"fr-CA", "only-english", "many", "english only-english fr-CA\n"},
+      {"fr", "broken-french", "0 in English", "malformed broken-french fr 17\n"},
+      {"fr", "broken", "English {", "malformed broken fr 10\nmalformed broken en 9\n"},
+      {"fr", "broken-alone", "{seul", "malformed broken-alone fr 5\n"},
+      {"fr", "empty-french", "", ""},
+      {"fr", "empty-english", "empty-english", "key empty-english fr\n"},
+      {"fr", "{n, plural, one {a} other {b}}", "b", "key {n, plural, one {a} other {b}} fr\n"},
+      {"en", "no {key", "no {key", "key no {key en\n"},
+      {"ar", "plain", "It's 0", "english plain ar\n"},
+  };
+  for (const MessageRow& row : rows) {
+    localizer.changeOrvantaLanguageToPreferredLocales({row.locale});
+    const TextSnapshot snapshot = texts(localizer);
+    EXPECT_EQ(localizedMessageForKey(localizer, row.key, {0, {"n", 0}, {"name", "Ada"}}),
+              row.message)
+        << row.locale << ' ' << row.key;
+    EXPECT_EQ(observed.take(), row.problems) << row.locale << ' ' << row.key;
+    EXPECT_EQ(snapshot.localizedMessageForKey(row.key, {0, {"n", 0}, {"name", "Ada"}}), row.message)
+        << row.locale << ' ' << row.key << " in a snapshot";
+  }
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  EXPECT_EQ(localizedStringWithFormat(localizer, "format", {"Ada", 3}), "3 pour Ada");
+  EXPECT_EQ(localizedStringWithFormat(localizer, "%d clés", {3}), "3 clés");
+  EXPECT_EQ(observed.take(), "key %d clés fr\n");
+}
+
+TEST(LocalizedMessages, AreAbsentWithoutAnyBundle) {
+  test::TestApplication app;
+  Localizer localizer;
+  EXPECT_TRUE(localizedMessageForKey(localizer, "key", {}).isAbsent());
+  EXPECT_TRUE(localizedStringWithFormat(localizer, "key", {}).isAbsent());
+  EXPECT_TRUE(texts(localizer).localizedStringForKey("key").isAbsent());
+  EXPECT_TRUE(texts(localizer).localizedMessageForKey("key", {}).isAbsent());
+  EXPECT_TRUE(TextSnapshot().localizedStringForKey("key").isAbsent());
+  EXPECT_TRUE(localizer.explain("key").text.isAbsent());
+}
+
+TEST(TextObserver, MayLookUpAndReplaceItself) {
+  test::TestApplication app(kShipped);
+  Localizer localizer;
+  int calls = 0;
+  localizer.setTextObserver([&](const TextProblem&) {
+    ++calls;
+    localizer.setTextObserver({});
+    EXPECT_EQ(localizer.localizedStringForKey("nowhere"), "nowhere");
+  });
+  EXPECT_EQ(localizer.localizedStringForKey("missing"), "missing");
+  EXPECT_EQ(localizer.localizedStringForKey("missing"), "missing");
+  EXPECT_EQ(calls, 1);
+}
+
+struct ChainRow {
+  const char* key;
+  const char* text;
+  TextSource source;
+  const char* locale;
+  bool isDownloaded;
+};
+
+void expectExplained(Localizer& localizer, const ChainRow& row) {
+  const TextSnapshot snapshot = texts(localizer);
+  const TextExplanation explanation = localizer.explain(row.key);
+  EXPECT_EQ(localizer.localizedStringForKey(row.key), row.text) << row.key;
+  EXPECT_EQ(snapshot.localizedStringForKey(row.key), row.text) << row.key;
+  EXPECT_EQ(explanation.text, row.text) << row.key;
+  EXPECT_EQ(explanation.source, row.source) << row.key;
+  EXPECT_EQ(explanation.locale, row.locale) << row.key;
+  EXPECT_EQ(explanation.isDownloaded, row.isDownloaded) << row.key;
+  EXPECT_EQ(explanation.bundlePath.isPresent(), row.locale != nullptr) << row.key;
+}
+
+TEST(TextChain, AsksShippedTextsBeforeEnglishWhereTheyStandIn) {
+  test::TestApplication app(
+      {{"en", {{"a", "A"}, {"b", "B"}, {"d", ""}, {"e", "E"}, {"f", "F"}}},
+       {"fr", {{"a", "shipped a"}, {"b", "shipped b"}, {"d", "shipped d"}, {"c", ""}}}});
+  app.download("fr", {{"a", "new a"}});
+  app.download("en", {{"e", "new E"}, {"f", ""}});
+  Localizer localizer;
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr-CA"});
+  const ChainRow without[] = {{"a", "new a", TextSource::current, "fr", true},
+                              {"b", "b", TextSource::key, nullptr, false},
+                              {"e", "new E", TextSource::english, "en", true}};
+  for (const ChainRow& row : without) {
+    expectExplained(localizer, row);
+  }
+  localizer.setShippedTextsStandIn(true);
+  const ChainRow rows[] = {
+      {"a", "new a", TextSource::current, "fr", true},
+      {"b", "shipped b", TextSource::standIn, "fr", false},
+      {"c", "", TextSource::standIn, "fr", false},
+      {"d", "shipped d", TextSource::standIn, "fr", false},
+      {"e", "new E", TextSource::english, "en", true},
+      {"f", "F", TextSource::english, "en", false},
+      {"x", "x", TextSource::key, nullptr, false},
+  };
+  for (const ChainRow& row : rows) {
+    expectExplained(localizer, row);
+  }
+  localizer.changeOrvantaLanguageToPreferredLocales({"en"});
+  expectExplained(localizer, {"b", "B", TextSource::standIn, "en", false});
+}
+
+TEST(TextChain, TakesTheLocaleFromTheTableBeforeTheFolder) {
+  test::TestApplication app({{"en", {}},
+                             {"house-style",
+                              {{String(OVOrvantaLanguageAppleIDKey).str(), "pl"},
+                               {"n", "{n, plural, one {a} few {b} many {c} other {d}}"}}}});
+  Localizer localizer;
+  localizer.changeOrvantaLanguageToPreferredLocales({"house-style"});
+  EXPECT_EQ(localizedMessageForKey(localizer, "n", {{"n", 22}}), "b");
+  EXPECT_EQ(localizer.explain("n").locale, "pl");
+}
+
+TEST(Explanation, SaysHowTheCurrentLocaleCameAbout) {
+  test::TestApplication app({{"en", {}}, {"en-GB", {}}, {"fr", {}}, {"zh-Hans", {}}});
+  Localizer localizer;
+  const struct {
+    StringList requested;
+    const char* locale;
+    const char* request;
+    const char* fallbackRow;
+    const char* languagePart;
+  } rows[] = {
+      {{"xx", "fr"}, "fr", "fr", nullptr, nullptr},
+      {{"xx", "fr-CA"}, "fr-CA", "fr-CA", nullptr, "fr"},
+      {{" en-IE "}, "en-GB", " en-IE ", "en-IE", nullptr},
+      {{"en-NZ"}, "en-AU", "en-NZ", "en-NZ", "en"},
+      {{"zh-TW"}, "zh-Hans", "zh-TW", "zh", "zh"},
+      {{}, "en", "en", nullptr, nullptr},
+      {StringList::emptyList(), "en", nullptr, nullptr, nullptr},
+  };
+  for (const auto& row : rows) {
+    localizer.changeOrvantaLanguageToPreferredLocales(row.requested);
+    const TextExplanation explanation = localizer.explain("key");
+    EXPECT_EQ(explanation.currentLocale, row.locale);
+    EXPECT_EQ(explanation.request, row.request) << row.locale;
+    EXPECT_EQ(explanation.fallbackRow, row.fallbackRow) << row.locale;
+    EXPECT_EQ(explanation.languagePart, row.languagePart) << row.locale;
+  }
+}
+
+// Snapshots answer on two threads while the main thread changes languages, as it did before.
+TEST(TextSnapshotThreads, AnswerAsTheMainThreadDidWhenTheyWereTaken) {
+  test::TestApplication app(kShipped);
+  Localizer localizer;
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  const TextSnapshot french = texts(localizer);
+  const String expected =
+      localizedMessageForKey(localizer, "items", {{"n", 1.5}, {"name", "ليلى"}});
+  std::atomic<bool> isOver = false;
+  const auto ask = [&](const TextSnapshot& snapshot) {
+    int wrong = 0;
+    for (int round = 0; round < 200 || !isOver; ++round) {
+      wrong +=
+          snapshot.localizedMessageForKey("items", {{"n", 1.5}, {"name", "ليلى"}}) == expected &&
+                  snapshot.localizedStringForKey("nowhere") == "nowhere" &&
+                  snapshot.currentLocales() == StringList({"fr"})
+              ? 0
+              : 1;
+    }
+    EXPECT_EQ(wrong, 0);
+  };
+  std::thread first([&] { ask(french); });
+  std::thread second([&, copy = french] { ask(copy); });
+  for (int round = 0; round < 50; ++round) {
+    app.ship("fr", {{"items", "round " + std::to_string(round)}});
+    localizer.stringCache().refreshCache();
+    localizer.changeOrvantaLanguageToPreferredLocales({round % 2 == 0 ? "fr" : "en"});
+    static_cast<void>(localizer.localizedStringForKey("items"));
+    app.loop->runPending();
+  }
+  isOver = true;
+  first.join();
+  second.join();
+  EXPECT_EQ(localizedMessageForKey(localizer, "items", {{"n", 1}, {"name", "Ada"}}),
+            "1 item for Ada");
+}
+
+// A worker writes downloads through a cache of its own while the main thread looks up and changes
+// languages; then the main thread adopts them.
+TEST(DownloadThread, WritesTablesThatTheMainThreadThenAdopts) {
+  test::TestApplication app(kShipped);
+  Localizer localizer;
+  std::atomic<bool> isWritten = false;
+  std::thread worker([&] {
+    OVStringCache cache;
+    for (int round = 0; round < 10; ++round) {
+      StringsPayload table = StringsPayload::dictionary();
+      table.add("items", String("round " + std::to_string(round)));
+      StringsPayload download = StringsPayload::dictionary();
+      StringsPayload bundle = StringsPayload::dictionary();
+      StringsPayload names = StringsPayload::dictionary();
+      names.add("zantorData", table);
+      bundle.add("names", names);
+      StringsPayload payload = StringsPayload::dictionary();
+      payload.add("bundle", bundle);
+      download.add("it", payload);
+      download.add("fr", payload);
+      cache.updateStrings(download, "names", "bundle");
+    }
+    isWritten = true;
+  });
+  while (!isWritten) {
+    localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+    EXPECT_NE(localizer.localizedStringForKey("items"), "items");
+    localizer.changeOrvantaLanguageToPreferredLocales({"en"});
+    app.loop->runPending();
+  }
+  worker.join();
+  localizer.stringCache().refreshCache();
+  localizer.changeOrvantaLanguageToPreferredLocales({"it"});
+  EXPECT_EQ(localizer.localizedStringForKey("items"), "round 9");
+  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
+  EXPECT_EQ(localizer.localizedStringForKey("items"), "round 9");
+}
+
+}  // namespace
+}  // namespace orvanta
