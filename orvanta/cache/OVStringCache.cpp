@@ -207,6 +207,10 @@ std::shared_ptr<Bundle> OVStringCache::bundleForLanguage(const String& language)
   return bundle == nullptr ? nullptr : *bundle;
 }
 
+bool OVStringCache::hasBundleForLanguage(const HashedKey& language) {
+  return findBundle(language) != nullptr;
+}
+
 const std::shared_ptr<Bundle>* OVStringCache::findBundle(const HashedKey& language) {
   const auto under = [&](const HashedKey& key) -> const std::shared_ptr<Bundle>* {
     const OVLocale* locale = localeUnder(key, languages());

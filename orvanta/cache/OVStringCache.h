@@ -95,9 +95,7 @@ class ORVANTA_EXPORT OVStringCache {
   /// The bundle kept under exactly this identifier, else under its language part; else absent.
   [[nodiscard]] std::shared_ptr<platform::Bundle> bundleForLanguage(const String& language);
   /// Whether there is one.
-  [[nodiscard]] bool hasBundleForLanguage(const HashedKey& language) {
-    return findBundle(language) != nullptr;
-  }
+  [[nodiscard]] bool hasBundleForLanguage(const HashedKey& language);
 
   /// The string in the table of the cleaned identifier; absent when there is no such language. The
   /// language part is not tried.
@@ -132,10 +130,10 @@ class ORVANTA_EXPORT OVStringCache {
 
  private:
   // `availableLanguages` itself, valid until the catalogue changes.
-  const OVLocaleDictionary& languages();
-  void listCachedLanguages();
+  ORVANTA_HIDDEN const OVLocaleDictionary& languages();
+  ORVANTA_HIDDEN void listCachedLanguages();
   // Null when there is none; valid until the catalogue changes.
-  const std::shared_ptr<platform::Bundle>* findBundle(const HashedKey& language);
+  ORVANTA_HIDDEN const std::shared_ptr<platform::Bundle>* findBundle(const HashedKey& language);
 
   URL cacheDirectoryURL_;
   OVLocaleDictionary cachedLanguages_;

@@ -138,11 +138,11 @@ class ORVANTA_EXPORT LocalizedControl {
  private:
   // The one way to the main thread. `anchor` by value: the control, and its own anchor, may go
   // while another thread waits here.
-  static void onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
-                           const std::function<void(LocalizedControl&)>& step);
-  static void refreshForCurrentLocale(const std::shared_ptr<MainThreadAnchor>& anchor,
-                                      CarriedLocale carriedLocale);
-  void observeLanguageChanges();
+  ORVANTA_HIDDEN static void onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
+                                          const std::function<void(LocalizedControl&)>& step);
+  ORVANTA_HIDDEN static void refreshForCurrentLocale(
+      const std::shared_ptr<MainThreadAnchor>& anchor, CarriedLocale carriedLocale);
+  ORVANTA_HIDDEN void observeLanguageChanges();
 
   std::shared_ptr<void> driven_;
   std::shared_ptr<MainThreadAnchor> anchor_;

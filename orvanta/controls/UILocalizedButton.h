@@ -51,7 +51,7 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
   void refresh(const String& locale, const Hold& hold) override;
 
  private:
-  void refreshStrings(const Hold& hold);
+  ORVANTA_HIDDEN void refreshStrings(const Hold& hold);
 
   platform::Button& button_;
   ControlStates controlStates_;

@@ -44,7 +44,7 @@ class ORVANTA_EXPORT UILocalizedLabel : public LocalizedControl {
   void refresh(const String& locale, const Hold& hold) override;
 
  private:
-  void refreshStrings(const Hold& hold);
+  ORVANTA_HIDDEN void refreshStrings(const Hold& hold);
 
   platform::Label& label_;
 };

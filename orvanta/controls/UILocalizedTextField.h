@@ -45,8 +45,8 @@ class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
   void refresh(const String& locale, const Hold& hold) override;
 
  private:
-  void localizePlaceholder();
-  void refreshStrings(const Hold& hold);
+  ORVANTA_HIDDEN void localizePlaceholder();
+  ORVANTA_HIDDEN void refreshStrings(const Hold& hold);
 
   platform::TextField& field_;
   String originalPlaceholder_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <orvanta/Export.h>
 #include <orvanta/text/Dictionary.h>
 #include <orvanta/text/String.h>
 
@@ -9,6 +10,6 @@ namespace orvanta {
 using FallbackTable = Dictionary<String>;
 
 /// The built-in table. No value is itself a key, so that one step is final.
-[[nodiscard]] FallbackTable makeFallbackTable();
+[[nodiscard]] ORVANTA_EXPORT FallbackTable makeFallbackTable();
 
 }  // namespace orvanta

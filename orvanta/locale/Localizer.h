@@ -217,16 +217,16 @@ class ORVANTA_EXPORT Localizer {
  private:
   // Stores the matched identifiers, of which there is one at least, and queues the notification
   // with them and the requested ones. `raw` may be `preferredLocales_` itself.
-  void adopt(const StringList& matched, const StringList& raw);
+  ORVANTA_HIDDEN void adopt(const StringList& matched, const StringList& raw);
   // What `localeWithFallbacksApplied` gives, its text with its hash, and whether the table gave it.
   struct Resolved {
     String locale;
     HashedKey key;
     bool isFromTable;
   };
-  [[nodiscard]] Resolved resolve(const String& identifier) const;
+  [[nodiscard]] ORVANTA_HIDDEN Resolved resolve(const String& identifier) const;
   // Whether `languageBundleForLocale` would give one.
-  [[nodiscard]] bool hasBundleFor(const Resolved& resolved) const;
+  [[nodiscard]] ORVANTA_HIDDEN bool hasBundleFor(const Resolved& resolved) const;
   // What one request comes to.
   struct Match {
     bool isAvailable = false;
@@ -234,21 +234,22 @@ class ORVANTA_EXPORT Localizer {
     bool isFromTable = false;
     bool isFromLanguagePart = false;
   };
-  [[nodiscard]] Match match(const String& request) const;
-  void explainLocale(TextExplanation& explanation) const;
+  [[nodiscard]] ORVANTA_HIDDEN Match match(const String& request) const;
+  ORVANTA_HIDDEN void explainLocale(TextExplanation& explanation) const;
 
   // The chain with English in it, where there is an English bundle. Null when there is no current
   // bundle and the device's choice gives none.
-  [[nodiscard]] const TextChain* chainForLookUp();
-  [[nodiscard]] const TextChain* settleChain();
-  [[nodiscard]] TextChain makeChain() const;
-  void resetChain() noexcept;
-  [[nodiscard]] std::shared_ptr<platform::Bundle> shippedBundleFor(const TextLink& link) const;
+  [[nodiscard]] ORVANTA_HIDDEN const TextChain* chainForLookUp();
+  [[nodiscard]] ORVANTA_HIDDEN const TextChain* settleChain();
+  [[nodiscard]] ORVANTA_HIDDEN TextChain makeChain() const;
+  ORVANTA_HIDDEN void resetChain() noexcept;
+  [[nodiscard]] ORVANTA_HIDDEN std::shared_ptr<platform::Bundle> shippedBundleFor(
+      const TextLink& link) const;
   // `key` is what becomes the result when no language has a text.
   template <typename Key>
-  [[nodiscard]] String textOrKey(const TextChain& chain, std::string_view characters,
-                                 const Key& key) const;
-  void reportFallback(std::string_view key, TextSource source) const;
+  [[nodiscard]] ORVANTA_HIDDEN String textOrKey(const TextChain& chain, std::string_view characters,
+                                                const Key& key) const;
+  ORVANTA_HIDDEN void reportFallback(std::string_view key, TextSource source) const;
 
   bool rightToLeftOrientation_ = false;
   bool shippedTextsStandIn_ = false;

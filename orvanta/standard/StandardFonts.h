@@ -11,6 +11,6 @@ namespace orvanta::standard {
 /// It knows "System", the system's own face, and what is registered. A weight of at least 0.3
 /// (semibold on the device's scale) makes the system's face bold. A family has no other faces for
 /// `fontWithSymbolicTraits` to choose from, so that gives a rendition of the same name.
-[[nodiscard]] ORVANTA_EXPORT std::shared_ptr<platform::FontSystem> makeStandardFonts();
+[[nodiscard]] std::shared_ptr<platform::FontSystem> makeStandardFonts();
 
 }  // namespace orvanta::standard

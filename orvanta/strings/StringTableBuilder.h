@@ -9,7 +9,6 @@
 #include <string_view>
 #include <vector>
 
-#include <orvanta/Export.h>
 #include <orvanta/strings/StringTable.h>
 #include <orvanta/text/TextHash.h>
 
@@ -17,7 +16,7 @@ namespace orvanta::strings {
 
 /// Fills a table. Of a key that is added twice the last value holds, of the firm ones if there are
 /// any.
-class ORVANTA_EXPORT StringTableBuilder {
+class StringTableBuilder {
  public:
   /// A tentative entry yields to every firm one with its key, whichever was added first.
   enum class Standing { kFirm, kTentative };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <orvanta/Export.h>
 #include <orvanta/text/String.h>
 
 namespace orvanta {
@@ -16,6 +15,6 @@ enum class CharacterSet {
 /// `text` without the characters of `set` at both ends. The same object when nothing is removed,
 /// else a copy, which throws `std::bad_alloc`; absent when `text` is absent. Invalid UTF-8 is never
 /// removed.
-[[nodiscard]] ORVANTA_EXPORT String stringByTrimming(const String& text, CharacterSet set);
+[[nodiscard]] String stringByTrimming(const String& text, CharacterSet set);
 
 }  // namespace orvanta

@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <memory>
 
-#include <orvanta/Export.h>
-
 namespace orvanta {
 
 /// `size` bytes of the C heap, not initialised, to be released with `std::free` or resized with
@@ -14,7 +12,7 @@ namespace orvanta {
 ///
 /// For large sizes the system is asked for huge pages. New memory is cleared page by page as it is
 /// first touched, which with small pages took more time than all the rest of reading a table.
-[[nodiscard]] ORVANTA_EXPORT char* allocateBytes(std::size_t size) noexcept;
+[[nodiscard]] char* allocateBytes(std::size_t size) noexcept;
 
 /// The deleter of `Bytes`.
 struct FreeBytes {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <orvanta/Export.h>
 #include <orvanta/text/String.h>
 
 /// Path operations on text: they never look at a disk, and take paths and the texts of URLs alike.
@@ -8,18 +7,18 @@
 namespace orvanta::path {
 
 /// The part after the last "/", trailing "/" left out of account; "/" itself for the root.
-[[nodiscard]] ORVANTA_EXPORT String lastPathComponent(const String& text);
+[[nodiscard]] String lastPathComponent(const String& text);
 
 /// The text without its last component and the separator before it. The parent of a component right
 /// under the root is the root: "/", and in a "file:" URL the scheme, the authority and "/".
-[[nodiscard]] ORVANTA_EXPORT String stringByDeletingLastPathComponent(const String& text);
+[[nodiscard]] String stringByDeletingLastPathComponent(const String& text);
 
 /// The text without its last "." and what follows it. A component that begins or ends with its last
 /// "." has no extension.
-[[nodiscard]] ORVANTA_EXPORT String stringByDeletingPathExtension(const String& text);
+[[nodiscard]] String stringByDeletingPathExtension(const String& text);
 
 /// `folder` and `component` with one "/" between them.
-[[nodiscard]] ORVANTA_EXPORT String stringByAppendingPathComponent(const String& folder,
-                                                                   std::string_view component);
+[[nodiscard]] String stringByAppendingPathComponent(const String& folder,
+                                                    std::string_view component);
 
 }  // namespace orvanta::path

@@ -1,18 +1,29 @@
+#include <cstdlib>
 #include <iostream>
 
 #include <orvanta/orvanta.h>
 #include <orvanta/standard/StandardPlatform.h>
 
-// Prints the text of one key of the bundle given, in the language given.
-int main(int argc, char** argv) {
-  if (argc != 4) {
-    return 2;
+namespace {
+
+orvanta::String signIn() {
+  return orvanta::Localizer::sharedLocalizer().localizedStringForKey("signin.title");
+}
+
+/// Asks for a text while static objects are initialised, possibly before those of the library.
+struct Early {
+  Early() {
+    orvanta::platform::Platform::install(
+        orvanta::standard::makeStandardPlatform({.mainBundlePath = std::getenv("BUNDLE")}));
+    orvanta::Localizer::sharedLocalizer().updatePreferredLocales({"fr-CA"}, nullptr);
+    text = signIn();
   }
-  orvanta::platform::Platform::install(
-      orvanta::standard::makeStandardPlatform({.mainBundlePath = argv[1]}));
-  orvanta::Localizer& localizer = orvanta::Localizer::sharedLocalizer();
-  localizer.updatePreferredLocales({argv[2]}, nullptr);
-  std::cout << OrvantaLocalizerVersionNumber << ' ' << localizer.localizedStringForKey(argv[3])
-            << '\n';
+  orvanta::String text;
+} early;
+
+}  // namespace
+
+int main() {
+  std::cout << OrvantaLocalizerVersionNumber << ' ' << early.text << ' ' << signIn() << '\n';
   return 0;
 }

@@ -1,0 +1,9 @@
+# Installs what is needed to build an application into ${WORK_DIR}/prefix, by a detour, because an
+# installed tree may be moved.
+include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
+file(REMOVE_RECURSE ${WORK_DIR})
+foreach(component IN ITEMS Core Development Qt QtDevelopment)
+  must_run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component ${component}
+           --prefix ${WORK_DIR}/first)
+endforeach()
+file(RENAME ${WORK_DIR}/first ${WORK_DIR}/prefix)

@@ -1,0 +1,21 @@
+# The library inside another project, which builds it statically; then that static library installed
+# and found by another application.
+include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
+set(build ${WORK_DIR}/subproject)
+configure_and_build(${CMAKE_CURRENT_LIST_DIR}/subproject ${build}
+                    -DLIBRARY_SOURCE_DIR=${SOURCE_DIR} -DORVANTA_INSTALL=ON
+                    -DORVANTA_BUILD_QT=${WITH_QT})
+must_answer(${build}/consumer "${core_answer}")
+set(component Core)
+if(WITH_QT)
+  must_answer(${build}/consumer_qt "${qt_answer}")
+  set(component Qt)
+endif()
+
+must_run(${CMAKE_COMMAND} --install ${build} --prefix ${WORK_DIR}/static_prefix)
+configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/static -DCOMPONENT=${component}
+                    -DCMAKE_PREFIX_PATH=${WORK_DIR}/static_prefix)
+must_answer(${WORK_DIR}/static/consumer "${core_answer}")
+if(WITH_QT)
+  must_answer(${WORK_DIR}/static/consumer_qt "${qt_answer}")
+endif()
