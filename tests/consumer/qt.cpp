@@ -1,7 +1,6 @@
+#include <QApplication>
 #include <cstdlib>
 #include <iostream>
-
-#include <QApplication>
 
 #include <orvanta/orvanta.h>
 #include <orvanta/qt/AwakeFromNib.h>
