@@ -2,6 +2,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
+#include <functional>
+#include <set>
 #include <string>
 #include <thread>
 #include <utility>
@@ -262,6 +264,7 @@ TEST(CacheUpdate, TouchesTheDiskOnlyForATable) {
   test::WatchedApplication app;
   app.download("fr", {{"k", "old"}});
   const auto abandoned = app.cacheFolder() / "fr.lproj" / ".1f.orvanta-unfinished";
+  const auto nested = app.cacheFolder() / "a" / "b.lproj" / ".1f.orvanta-unfinished";
   const auto foreign = {app.cacheFolder() / ".2f.orvanta-unfinished",
                         app.cacheFolder() / "other" / ".2f.orvanta-unfinished",
                         app.cacheFolder() / "fr.lproj" / ".x.orvanta-unfinished",
@@ -270,6 +273,7 @@ TEST(CacheUpdate, TouchesTheDiskOnlyForATable) {
     test::writeFile(file, "x");
   }
   test::writeFile(abandoned, "x");
+  test::writeFile(nested, "x");
   OVStringCache cache;
   app.setHook([](auto name, auto path) {
     ADD_FAILURE() << name << ' ' << path;
@@ -280,8 +284,27 @@ TEST(CacheUpdate, TouchesTheDiskOnlyForATable) {
   EXPECT_TRUE(std::filesystem::exists(abandoned));
   cache.updateStrings(payloadOf({{"de", {{"k", "v"}}}}), "main", "app");
   EXPECT_FALSE(std::filesystem::exists(abandoned));
+  cache.updateStrings(payloadOf({{"a/b", {{"k", "v"}}}}), "main", "app");
+  EXPECT_FALSE(std::filesystem::exists(nested)) << "found when its language is written";
   for (const auto& file : foreign) {
     EXPECT_TRUE(std::filesystem::exists(file)) << file;
+  }
+}
+
+TEST(CacheUpdate, TakesAnotherNameForAFileThatIsLocked) {
+  for (const int mostLocked : {3, 1000}) {
+    test::WatchedApplication app;
+    std::set<std::string, std::less<>> names;
+    int locked = 0;
+    const StringsUpdate update = app.update("fr", {{"k", "v"}}, [&](auto operation, auto path) {
+      if (operation != "createFile" || locked == mostLocked) {
+        return test::Fault::none();
+      }
+      ++locked;
+      EXPECT_TRUE(names.emplace(path).second) << "tried again: " << path;
+      return test::Fault::fail(locked % 2 == 0 ? EAGAIN : EEXIST);
+    });
+    EXPECT_EQ(update.result == StringsUpdate::Result::written, mostLocked == 3) << update.reason;
   }
 }
 
