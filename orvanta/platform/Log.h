@@ -5,15 +5,16 @@
 
 namespace orvanta::platform {
 
-/// Where the library's few messages go. Safe to call from any thread.
+/// Where the library's few messages go. Thread-safe.
 class ORVANTA_EXPORT Log {
  public:
   virtual ~Log();
   Log(const Log&) = delete;
   Log& operator=(const Log&) = delete;
 
-  /// One message, without a line feed at its end.
-  virtual void log(const String& message) = 0;
+  /// One message, without a line feed at its end. Does not throw: the library logs in the middle of
+  /// its work.
+  virtual void log(const String& message) noexcept = 0;
 
  protected:
   Log() = default;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 #include <orvanta/standard/FileBytes.h>
@@ -10,15 +11,13 @@ namespace {
 
 constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
 
-// False when there is no memory for it.
-bool enlarge(FileBytes& bytes, std::size_t capacity) {
+void enlarge(FileBytes& bytes, std::size_t capacity) {
   Bytes larger(allocateBytes(capacity));
   if (larger == nullptr) {
-    return false;
+    throw std::bad_alloc();
   }
   std::copy_n(bytes.data.get(), bytes.size, larger.get());
   bytes.data = std::move(larger);
-  return true;
 }
 
 }  // namespace
@@ -33,9 +32,7 @@ std::optional<FileBytes> readWholeFile(platform::FileManager& files, const Strin
   // One byte more than expected shows the end of the file without another buffer.
   std::size_t capacity = static_cast<std::size_t>(expectedSize) + 1;
   for (;;) {
-    if (!enlarge(bytes, capacity)) {
-      return std::nullopt;
-    }
+    enlarge(bytes, capacity);
     while (bytes.size < capacity) {
       const auto count = file->read({bytes.data.get() + bytes.size, capacity - bytes.size});
       if (!count) {

@@ -18,7 +18,7 @@ struct FileBytes {
 };
 
 /// Reads the file at `path`, whose size may have changed since it was `expectedSize`. Absent when
-/// it cannot be read to its end, is larger than a string table may be, or finds no memory.
+/// it cannot be read to its end or is larger than a string table may be. Throws `std::bad_alloc`.
 [[nodiscard]] std::optional<FileBytes> readWholeFile(platform::FileManager& files,
                                                      const String& path,
                                                      std::uint64_t expectedSize);

@@ -28,7 +28,7 @@ struct StandardOptions {
   /// The version that the system reports. Absent: the running kernel's.
   std::optional<platform::OperatingSystemVersion> systemVersion;
 
-  /// Takes each log message. Absent: standard error.
+  /// Takes each log message, on any thread. What it throws is dropped. Absent: standard error.
   std::function<void(std::string_view message)> logSink;
 };
 

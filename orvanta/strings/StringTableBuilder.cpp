@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include <orvanta/strings/StringTableBuilder.h>
@@ -28,7 +29,7 @@ bool StringTableBuilder::reserve(std::size_t more) {
     char* larger = arena_ == nullptr ? allocateBytes(wanted)
                                      : static_cast<char*>(std::realloc(arena_, wanted));
     if (larger == nullptr) {
-      return false;
+      throw std::bad_alloc();
     }
     arena_ = larger;
     capacity_ = wanted;
@@ -63,7 +64,7 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   const std::size_t start = (used_ + sizeof(Slot) - 1) / sizeof(Slot) * sizeof(Slot);
   void* const whole = std::realloc(arena_, start + count * sizeof(Slot));
   if (whole == nullptr) {
-    return nullptr;
+    throw std::bad_alloc();
   }
   arena_ = static_cast<char*>(whole);
   table->arena_ = String::takingOver(arena_, start + count * sizeof(Slot));

@@ -27,12 +27,12 @@ class StringTableBuilder {
   StringTableBuilder(const StringTableBuilder&) = delete;
   StringTableBuilder& operator=(const StringTableBuilder&) = delete;
 
-  /// Adds a firm entry. False when there is no memory or the table would exceed 4 GiB.
+  /// Adds a firm entry. False when the table would exceed 4 GiB.
   bool add(std::string_view key, std::string_view value);
 
   /// Room for one entry, into which the caller writes the key and directly behind it the value, at
-  /// most `bytes` together. Null when there is no memory or the table would exceed 4 GiB. Only
-  /// `commitEntry` adds the entry; any other call reuses the room.
+  /// most `bytes` together. Null when the table would exceed 4 GiB. Only `commitEntry` adds the
+  /// entry; any other call reuses the room.
   [[nodiscard]] char* beginEntry(std::size_t bytes) {
     if (bytes > capacity_ - used_ || kHeader > capacity_ - used_ - bytes) {
       if (bytes > kLargestArena - kHeader || !reserve(kHeader + bytes)) {
@@ -52,7 +52,7 @@ class StringTableBuilder {
     used_ += kHeader + keySize + valueSize;
   }
 
-  /// The table; null when there is no memory for its index. The builder is empty afterwards.
+  /// The table, never null. The builder is empty afterwards.
   [[nodiscard]] std::shared_ptr<const StringTable> build();
 
  private:

@@ -1,5 +1,4 @@
 #include <array>
-#include <new>
 
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
@@ -51,12 +50,8 @@ std::shared_ptr<const StringTable> readBinary(std::string_view bytes,
 
 std::shared_ptr<const StringTable> readStringTable(std::string_view bytes,
                                                    const ProblemCollector& problems) {
-  try {
-    return looksLikeBinaryTable(bytes) ? readBinary(bytes, problems)
-                                       : readText(detectEncoding(bytes), problems);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
+  return looksLikeBinaryTable(bytes) ? readBinary(bytes, problems)
+                                     : readText(detectEncoding(bytes), problems);
 }
 
 }  // namespace orvanta::strings

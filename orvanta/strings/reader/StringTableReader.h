@@ -25,7 +25,8 @@ using ProblemCollector = std::function<void(const TableProblem&)>;
 /// property list, a binary property list.
 ///
 /// A damaged statement costs that statement alone; every such loss is reported to `problems`, if
-/// given. Absent when `bytes` hold nothing like a table; an empty file is an empty table.
+/// given. Absent when `bytes` hold nothing like a table; an empty file is an empty table. Throws
+/// `std::bad_alloc`, and what `problems` throws.
 [[nodiscard]] ORVANTA_EXPORT std::shared_ptr<const StringTable> readStringTable(
     std::string_view bytes, const ProblemCollector& problems = {});
 
