@@ -76,9 +76,8 @@ void OrderWindow::connectActions() {
   connect(downloadButton_, &QPushButton::clicked, this, &OrderWindow::downloadLanguages);
   connect(placeButton_, &QPushButton::clicked, this, [this] { showStatus("order.placed"); });
   connect(signInButton_, &QPushButton::clicked, this, [this] { placeButton_->setFocus(); });
-  // From now on the text is the customer's own; a change of language leaves it alone.
-  connect(emailField_, &QLineEdit::textEdited, this,
-          [this] { emailField_->control().setOriginalKey({}); });
+  // What the customer has typed stays when the language changes.
+  connect(emailField_, &QLineEdit::textEdited, this, [this] { emailField_->setKey({}); });
 }
 
 void OrderWindow::fillLanguageMenu() {
@@ -111,8 +110,7 @@ void OrderWindow::downloadLanguages() {
 }
 
 void OrderWindow::showStatus(const char* key) {
-  statusLabel_->control().setOriginalKey(key);
-  statusLabel_->control().handleOVPreferredLocaleDidChangeNotification(nullptr);
+  statusLabel_->setKey(QString::fromLatin1(key));
 }
 
 void OrderWindow::languageChanged() {

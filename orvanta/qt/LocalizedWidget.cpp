@@ -1,4 +1,5 @@
 #include <orvanta/qt/LocalizedWidget.h>
+#include <orvanta/qt/Text.h>
 #include <orvanta/qt/platform/QtPlatformCheck.h>
 
 namespace orvanta::qt {
@@ -14,6 +15,18 @@ void LocalizedWidget::awakeFromNib() {
   }
   setAwake();
   awake();
+}
+
+QString LocalizedWidget::key() const {
+  return toQString(control().originalKey());
+}
+
+void LocalizedWidget::setKey(const QString& key) {
+  if (!awake_) {
+    awakeFromNib();
+  }
+  control().setOriginalKey(fromQString(key));
+  refresh();
 }
 
 void LocalizedWidget::setAwake() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QString>
 
 #include <orvanta/controls/LocalizedControl.h>
 #include <orvanta/qt/Export.h>
@@ -17,6 +18,14 @@ class ORVANTA_QT_EXPORT LocalizedWidget {
   /// Takes the designed state, text and all, and localizes the widget from now on. Later calls
   /// refresh it, which shows the translation again where somebody has set another text.
   void awakeFromNib();
+
+  /// The key of the text; null where there is none.
+  [[nodiscard]] QString key() const;
+  /// Shows the text of `key` now and after every change of language, whether it is translated or
+  /// not. What the application sets as the text stays until then. With a null or an empty key the
+  /// text is left to the application, and font and sides alone go on following the language.
+  /// Awakens the widget.
+  void setKey(const QString& key);
 
  protected:
   LocalizedWidget();

@@ -20,12 +20,12 @@ namespace orvanta::qt {
   return {std::string_view(utf8.constData(), std::size_t(utf8.size()))};
 }
 
-/// Text as it is written where a "&" marks a mnemonic: every "&" stands for itself.
+/// A text for a place where Qt reads "&" as the mark of a mnemonic: every "&" stands for itself.
 [[nodiscard]] inline QString withoutMnemonics(QString text) {
   return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-/// What such a text was made from; a "&" that marks a mnemonic stays.
+/// The text that such a one was made from; a "&" that marks a mnemonic stays.
 [[nodiscard]] inline QString fromMnemonics(QString text) {
   return text.replace(QLatin1String("&&"), QLatin1String("&"));
 }

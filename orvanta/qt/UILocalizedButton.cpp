@@ -56,11 +56,12 @@ void UILocalizedButton::configure() {
 }
 
 QString UILocalizedButton::titleForState(ControlState state) const {
-  return fromMnemonics(adapter_->titles().title(state));
+  const QString title = adapter_->titles().title(state);
+  return mnemonics_ ? title : fromMnemonics(title);
 }
 
 void UILocalizedButton::setTitle(const QString& title, ControlState state) {
-  if (adapter_->titles().setTitle(state, withoutMnemonics(title))) {
+  if (adapter_->titles().setTitle(state, mnemonics_ ? title : withoutMnemonics(title))) {
     updateGeometry();
     update();
   }

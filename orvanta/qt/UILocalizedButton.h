@@ -24,6 +24,9 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
   Q_OBJECT
   /// Where the title stands; in the centre unless a layout says otherwise.
   Q_PROPERTY(Qt::Alignment titleAlignment READ titleAlignment WRITE setTitleAlignment)
+  /// Whether "&" in a title marks a mnemonic. Else every "&" stands for itself. Counts for titles
+  /// that are set later, so also for the next translation.
+  Q_PROPERTY(bool mnemonics READ mnemonics WRITE setMnemonics)
 
  public:
   explicit UILocalizedButton(QWidget* parent = nullptr);
@@ -38,6 +41,9 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
 
   [[nodiscard]] Qt::Alignment titleAlignment() const { return titleAlignment_; }
   void setTitleAlignment(Qt::Alignment alignment);
+
+  [[nodiscard]] bool mnemonics() const { return mnemonics_; }
+  void setMnemonics(bool mnemonics) { mnemonics_ = mnemonics; }
 
   /// The button's rules and remembered state. Lives as long as the button.
   [[nodiscard]] orvanta::UILocalizedButton& control() const override { return *control_; }
@@ -54,6 +60,7 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
   [[nodiscard]] platform::ControlState shownState() const;
 
   Qt::Alignment titleAlignment_ = Qt::AlignCenter;
+  bool mnemonics_ = false;
   std::shared_ptr<ButtonAdapter> adapter_;
   std::unique_ptr<orvanta::UILocalizedButton> control_;
 };

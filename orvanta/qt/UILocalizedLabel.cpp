@@ -11,15 +11,20 @@ class LabelAdapter final
 
   String text() const override {
     const QString text = widget().text();
-    return fromQString(marksMnemonics() ? fromMnemonics(text) : text);
+    return fromQString(doublesAmpersands() ? fromMnemonics(text) : text);
   }
   void setText(const String& text) override {
-    widget().setText(marksMnemonics() ? withoutMnemonics(toQString(text)) : toQString(text));
+    widget().setText(doublesAmpersands() ? withoutMnemonics(toQString(text)) : toQString(text));
   }
+
+  bool mnemonics() const { return mnemonics_; }
+  void setMnemonics(bool mnemonics) { mnemonics_ = mnemonics; }
 
  private:
   // QLabel reads "&" as the mark of a mnemonic only where it has a buddy.
-  bool marksMnemonics() const { return widget().buddy() != nullptr; }
+  bool doublesAmpersands() const { return widget().buddy() != nullptr && !mnemonics_; }
+
+  bool mnemonics_ = false;
 };
 
 UILocalizedLabel::UILocalizedLabel(QWidget* parent)
@@ -52,6 +57,16 @@ void UILocalizedLabel::awake() {
 void UILocalizedLabel::setBuddy(QWidget* buddy) {
   const String text = adapter_->text();
   QLabel::setBuddy(buddy);
+  adapter_->setText(text);
+}
+
+bool UILocalizedLabel::mnemonics() const {
+  return adapter_->mnemonics();
+}
+
+void UILocalizedLabel::setMnemonics(bool mnemonics) {
+  const String text = adapter_->text();
+  adapter_->setMnemonics(mnemonics);
   adapter_->setText(text);
 }
 

@@ -20,6 +20,9 @@ class LabelAdapter;
 /// which form loaders call.
 class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget {
   Q_OBJECT
+  /// Whether "&" in a translation marks a mnemonic, where the label has a buddy. Else every "&"
+  /// stands for itself.
+  Q_PROPERTY(bool mnemonics READ mnemonics WRITE setMnemonics)
 
  public:
   explicit UILocalizedLabel(QWidget* parent = nullptr);
@@ -33,8 +36,11 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
   /// The label's rules and remembered state. Lives as long as the label.
   [[nodiscard]] orvanta::UILocalizedLabel& control() const override { return *control_; }
 
-  /// As QLabel's. A "&" in the text stands for itself before and after.
+  /// As QLabel's. A "&" in the text means the same before and after.
   void setBuddy(QWidget* buddy);
+
+  [[nodiscard]] bool mnemonics() const;
+  void setMnemonics(bool mnemonics);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;

@@ -81,6 +81,7 @@ class ButtonsTest : public QObject {
   static void drawsWholeTitlesAtASide();
   static void drawsTheFrameThatTheStyleDraws();
   static void ampersandsStandForThemselves();
+  static void ampersandsMarkMnemonicsWhereAskedFor();
 };
 
 void ButtonsTest::showsTheTitleOfItsState() {
@@ -223,6 +224,21 @@ void ButtonsTest::ampersandsStandForThemselves() {
   QCOMPARE(label.text(), u"<b>a && b</b>"_s);
   label.setBuddy(nullptr);
   QCOMPARE(label.text(), u"<b>a & b</b>"_s);
+}
+
+void ButtonsTest::ampersandsMarkMnemonicsWhereAskedFor() {
+  UILocalizedButton button;
+  button.setMnemonics(true);
+  button.setTitle(u"&Salt && pepper"_s, kControlStateNormal);
+  QCOMPARE(button.text(), u"&Salt && pepper"_s);
+  QCOMPARE(button.titleForState(kControlStateNormal), u"&Salt && pepper"_s);
+  QCOMPARE(button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_S));
+  orvanta::qt::UILocalizedLabel label;
+  label.setBuddy(&button);
+  label.control().label().setText("&Salt");
+  QCOMPARE(label.text(), u"&&Salt"_s);
+  label.setMnemonics(true);
+  QCOMPARE(label.text(), u"&Salt"_s);
 }
 
 std::unique_ptr<QObject> orvanta::test::makeButtonsTest() {

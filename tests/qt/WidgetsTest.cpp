@@ -1,3 +1,4 @@
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QTest>
 #include <QTranslator>
@@ -6,6 +7,7 @@
 
 #include <orvanta/qt/AwakeFromNib.h>
 #include <orvanta/qt/FormLoader.h>
+#include <orvanta/qt/LanguageNotifier.h>
 #include <orvanta/qt/LayoutDirectionFollower.h>
 #include <orvanta/qt/UILocalizedButton.h>
 #include <orvanta/qt/UILocalizedLabel.h>
@@ -74,6 +76,30 @@ void checkForm(QWidget& root) {
   QCOMPARE(button->text(), u"Commander"_s);
   QCOMPARE(button->titleForState(orvanta::platform::kControlStateDisabled), u"Commander"_s);
   QVERIFY(button->titleAlignment().testFlag(Qt::AlignLeft));
+}
+
+template <typename Widget>
+void checkKeys() {
+  Widget widget;
+  widget.setText(u"signin.title"_s);
+  widget.setKey(u"order.title"_s);
+  QCOMPARE(widget.text(), u"Your cart"_s);
+  QCOMPARE(widget.key(), u"order.title"_s);
+  QVERIFY(speak(u"de"_s));
+  QCOMPARE(widget.text(), u"Ihr Warenkorb"_s);
+  // The key wins at the next change, unless it is let go of.
+  widget.setText(u"typed"_s);
+  QVERIFY(speak(u"en"_s));
+  QCOMPARE(widget.text(), u"Your cart"_s);
+  widget.setText(u"typed"_s);
+  widget.setKey({});
+  QVERIFY(widget.key().isEmpty());
+  QVERIFY(speak(u"ar"_s));
+  QCOMPARE(widget.text(), u"typed"_s);
+  QCOMPARE(QFontInfo(widget.font()).family(), u"CorbetSansKufiArabic"_s);
+  widget.setKey(u"no.such.key"_s);
+  QCOMPARE(widget.text(), u"no.such.key"_s);
+  QVERIFY(speak(u"en"_s));
 }
 
 }  // namespace
@@ -200,6 +226,21 @@ class WidgetsTest : public QObject {
     QCOMPARE(label->font(), QWidget().font());
     QVERIFY(speak(u"en-GB"_s));
     QCOMPARE(label->text(), u"Your basket"_s);
+  }
+
+  void keysAreChangedAndLetGoOf() {
+    checkKeys<UILocalizedLabel>();
+    checkKeys<UILocalizedTextField>();
+    checkKeys<UILocalizedButton>();
+  }
+
+  void notifiesBySignal() {
+    const orvanta::qt::LanguageNotifier notifier;
+    QStringList seen;
+    connect(&notifier, &orvanta::qt::LanguageNotifier::changed, this,
+            [&seen] { seen << orvanta::qt::LanguageNotifier::locales(); });
+    QVERIFY(speak(u"fr"_s));
+    QCOMPARE(seen, QStringList(u"fr"_s));
   }
 
   // Form code sets the keys again as texts, in the language change event of Qt's translators.
