@@ -160,7 +160,7 @@ const OVLocaleDictionary& OVStringCache::languages() {
   const OVLocaleDictionary cached = cachedLanguages();
   const bool isComplete = shipped.isPresent() && !cachedLanguagesAreStale_;
   if (isComplete || availableLanguages_.isAbsent()) {
-    OVLocaleDictionary::Map locales = shipped.entries();
+    OVLocaleDictionary::Map locales(shipped.begin(), shipped.end());
     for (const auto& [key, locale] : cached) {
       locales.insert_or_assign(key, locale);
     }

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include <orvanta/text/LifetimeBound.h>
-#include <orvanta/text/NoDestructor.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/TextHash.h>
 
@@ -24,8 +23,8 @@ namespace orvanta {
 /// Copying a handle shares the dictionary. Nothing changes a dictionary once it is made, so
 /// different threads may read it through handles of their own.
 ///
-/// What leads into the dictionary (`entries`, `find`, iterators) cannot be asked of a temporary
-/// handle: it would dangle. A range-based `for` over a temporary is fine.
+/// `find` and iterators do not compile on a temporary handle: their results would dangle. A
+/// range-based `for` over a temporary is fine.
 template <typename Value>
 class Dictionary {
  public:
@@ -69,17 +68,15 @@ class Dictionary {
     return find(key) != nullptr;
   }
 
-  [[nodiscard]] auto begin() const& noexcept ORVANTA_LIFETIME_BOUND { return entries().begin(); }
-  [[nodiscard]] auto end() const& noexcept ORVANTA_LIFETIME_BOUND { return entries().end(); }
+  /// Iterators over pairs of key and value, valid as long as some handle to this dictionary lives.
+  [[nodiscard]] auto begin() const& noexcept ORVANTA_LIFETIME_BOUND {
+    return isAbsent() ? typename Map::const_iterator() : entries_->map.begin();
+  }
+  [[nodiscard]] auto end() const& noexcept ORVANTA_LIFETIME_BOUND {
+    return isAbsent() ? typename Map::const_iterator() : entries_->map.end();
+  }
   void begin() const&& = delete;
   void end() const&& = delete;
-
-  /// The entries, none when absent. Valid as long as some handle to this dictionary lives.
-  [[nodiscard]] const Map& entries() const& noexcept ORVANTA_LIFETIME_BOUND {
-    static NoDestructor<const Map> none;
-    return isAbsent() ? *none : entries_->map;
-  }
-  const Map& entries() const&& = delete;
 
   /// Identity: both handles refer to the same dictionary. Absent is the same object as absent.
   [[nodiscard]] bool isSameObject(const Dictionary& other) const noexcept {

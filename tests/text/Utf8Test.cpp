@@ -1,0 +1,109 @@
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/text/String.h>
+#include <orvanta/text/Utf8.h>
+
+namespace orvanta::utf8 {
+namespace {
+
+bool isScalar(std::uint32_t value) {
+  return value < 0xD800 || (value > 0xDFFF && value <= 0x10FFFF);
+}
+
+// Exactly one valid sequence of `text.size()` bytes, by the numbers alone.
+std::optional<std::uint32_t> wholeSequence(std::string_view text) {
+  constexpr std::uint32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  const auto first = static_cast<unsigned char>(text[0]);
+  const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+  std::uint32_t value = length == 1 ? first : first & (0xFFU >> (length + 1));
+  if (text.size() != length || (length > 1 && first < 0xC0) || first > 0xF7) {
+    return std::nullopt;
+  }
+  for (const char next : text.substr(1)) {
+    const auto byte = static_cast<unsigned char>(next);
+    if (byte < 0x80 || byte > 0xBF) {
+      return std::nullopt;
+    }
+    value = (value << 6) | (byte & 0x3FU);
+  }
+  return value >= kSmallest[length] && isScalar(value) ? std::optional(value) : std::nullopt;
+}
+
+// Whether some valid sequence begins with `text`. These two bytes complete any that can be.
+bool beginsSequence(const std::string& text) {
+  return text.size() <= 4 &&
+         (wholeSequence(text) || beginsSequence(text + '\x80') || beginsSequence(text + '\xA0'));
+}
+
+Decoded expectedOf(const std::string& text) {
+  std::size_t length = 1;
+  while (length < text.size() && !wholeSequence(text.substr(0, length)) &&
+         beginsSequence(text.substr(0, length + 1))) {
+    ++length;
+  }
+  const auto value = wholeSequence(text.substr(0, length));
+  return {value.value_or(kReplacement), length, value.has_value()};
+}
+
+// All first and second bytes, and for the further ones the edges of what may stand there.
+TEST(Utf8, DecodesEverySequenceAsTheStandardSays) {
+  constexpr std::string_view kEdges = "z\x7F\x80\xBF\xC0";
+  std::string text(4, '\0');
+  for (int pair = 0; pair < 0x10000; ++pair) {
+    text[0] = static_cast<char>(pair >> 8);
+    text[1] = static_cast<char>(pair & 0xFF);
+    for (const char third : kEdges) {
+      for (const char fourth : kEdges) {
+        text[2] = third;
+        text[3] = fourth;
+        const Decoded decoded = decode(text);
+        const Decoded expected = expectedOf(text);
+        ASSERT_EQ(decoded.codePoint, expected.codePoint) << testing::PrintToString(text);
+        ASSERT_EQ(decoded.length, expected.length) << testing::PrintToString(text);
+        ASSERT_EQ(decoded.valid, expected.valid) << testing::PrintToString(text);
+      }
+    }
+  }
+  const Decoded none = decode("");
+  EXPECT_EQ(none.length, 0U);
+  EXPECT_FALSE(none.valid);
+}
+
+TEST(Utf8, EncodesEveryCharacterAndReplacesOthers) {
+  std::string text;
+  for (std::uint32_t value = 0; value <= 0x110000; ++value) {
+    text = "a";
+    append(text, value);
+    ASSERT_EQ(wholeSequence(std::string_view(text).substr(1)),
+              isScalar(value) ? value : std::uint32_t{kReplacement})
+        << value;
+  }
+}
+
+TEST(Utf8, CountsCutSequencesAsOneCharacter) {
+  const struct {
+    const char* text;
+    bool isValid;
+    std::size_t units;
+  } rows[] = {{"", true, 0},
+              {"a\u00E9\u20AC", true, 3},
+              {"\uFFFF\U00010000", true, 3},
+              {"\U0010FFFF\U0001F600", true, 4},
+              {"\xF0\x9F\x98", false, 1},
+              {"\xF0\x9F\x98z", false, 2},
+              {"\xC0\xAF", false, 2},
+              {"z\xE2\x82\xE2\x82\xAC", false, 3}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(isValid(row.text), row.isValid) << testing::PrintToString(row.text);
+    EXPECT_EQ(String(row.text).utf16Length(), row.units) << testing::PrintToString(row.text);
+  }
+  EXPECT_EQ(String().utf16Length(), 0U);
+}
+
+}  // namespace
+}  // namespace orvanta::utf8
