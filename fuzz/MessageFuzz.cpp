@@ -27,14 +27,14 @@ void expect(bool holds, std::string_view what) {
 
 class PlainLocaleData final : public orvanta::platform::LocaleData {
  public:
-  orvanta::StringList preferredLanguages() override { return {}; }
+  orvanta::StringList preferredLanguages() const override { return {}; }
   orvanta::platform::LanguageDirection characterDirectionForLanguage(
-      const orvanta::String& language) override {
+      const orvanta::String& language) const override {
     return language == "ar" ? orvanta::platform::LanguageDirection::rightToLeft
                             : orvanta::platform::LanguageDirection::leftToRight;
   }
-  orvanta::String lowercaseString(const orvanta::String& text) override { return text; }
-  std::shared_ptr<orvanta::platform::Calendar> currentCalendar() override { return nullptr; }
+  orvanta::String lowercaseString(const orvanta::String& text) const override { return text; }
+  std::shared_ptr<orvanta::platform::Calendar> currentCalendar() const override { return nullptr; }
 };
 
 // Stands for an argument. A pattern does not hold it.

@@ -11,7 +11,9 @@ struct AffineTransform {
   double tx = 0;
   double ty = 0;
 
+  /// Maps every point to itself, as a default-made transform does.
   [[nodiscard]] static constexpr AffineTransform identity() noexcept { return {}; }
+  /// Multiplies the coordinates by `x` and `y`; negative factors mirror.
   [[nodiscard]] static constexpr AffineTransform makeScale(double x, double y) noexcept {
     return {x, 0, 0, y, 0, 0};
   }

@@ -8,11 +8,14 @@
 
 namespace orvanta::platform {
 
-/// A locale, named by its identifier; nothing is checked.
+/// A locale, named by its identifier, which is not checked. An ordinary value.
 class ORVANTA_EXPORT Locale {
  public:
+  /// With an absent identifier.
   Locale() noexcept = default;
   explicit Locale(String identifier) noexcept : identifier_(std::move(identifier)) {}
+
+  /// As it was given; absent when none was.
   [[nodiscard]] const String& localeIdentifier() const noexcept ORVANTA_LIFETIME_BOUND {
     return identifier_;
   }
@@ -21,16 +24,18 @@ class ORVANTA_EXPORT Locale {
   String identifier_;
 };
 
-/// A calendar: which one, and the locale in which it names days and months.
+/// A calendar: which one, and the locale in which it names days and months. An ordinary value:
+/// unguarded.
 class ORVANTA_EXPORT Calendar {
  public:
   explicit Calendar(String identifier, Locale locale) noexcept
       : identifier_(std::move(identifier)), locale_(std::move(locale)) {}
 
-  /// Which calendar, as CLDR names it ("gregorian").
+  /// Which calendar, under its CLDR name ("gregorian").
   [[nodiscard]] const String& calendarIdentifier() const noexcept ORVANTA_LIFETIME_BOUND {
     return identifier_;
   }
+  /// The locale of its names; valid until `setLocale`.
   [[nodiscard]] const Locale& locale() const noexcept ORVANTA_LIFETIME_BOUND { return locale_; }
   void setLocale(Locale locale) noexcept { locale_ = std::move(locale); }
 

@@ -4,7 +4,7 @@
 
 namespace orvanta::platform {
 
-/// What is used where the application installs nothing: the standard platform.
+/// The platform of an application that installs none: the standard one with its default options.
 [[nodiscard]] Platform makeDefaultPlatform();
 
 }  // namespace orvanta::platform

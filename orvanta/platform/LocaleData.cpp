@@ -4,7 +4,8 @@ namespace orvanta::platform {
 
 LocaleData::~LocaleData() = default;
 
-std::string LocaleData::localizedNumber(std::string_view plainDigits, const String& /*locale*/) {
+std::string LocaleData::localizedNumber(std::string_view plainDigits,
+                                        const String& /*locale*/) const {
   return std::string(plainDigits);
 }
 

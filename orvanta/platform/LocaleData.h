@@ -14,7 +14,7 @@ namespace orvanta::platform {
 /// The direction in which a language's lines run.
 enum class LanguageDirection { unknown = 0, leftToRight = 1, rightToLeft = 2 };
 
-/// What the platform knows about languages. Safe to ask from any thread.
+/// What the platform knows about languages. Thread-safe.
 class ORVANTA_EXPORT LocaleData {
  public:
   virtual ~LocaleData();
@@ -22,22 +22,24 @@ class ORVANTA_EXPORT LocaleData {
   LocaleData& operator=(const LocaleData&) = delete;
 
   /// The device's languages in order of preference, unfiltered; possibly none, never absent.
-  [[nodiscard]] virtual StringList preferredLanguages() = 0;
+  [[nodiscard]] virtual StringList preferredLanguages() const = 0;
 
   /// The direction of a bare language code ("ar", not "ar-EG"); unknown for anything else.
-  [[nodiscard]] virtual LanguageDirection characterDirectionForLanguage(const String& language) = 0;
+  [[nodiscard]] virtual LanguageDirection characterDirectionForLanguage(
+      const String& language) const = 0;
 
   /// `text` in lower case whatever the device's language is; absent for absent.
-  [[nodiscard]] virtual String lowercaseString(const String& text) = 0;
+  [[nodiscard]] virtual String lowercaseString(const String& text) const = 0;
 
   /// A number as a person who reads the locale's language writes it. `plainDigits` are ASCII digits
   /// with an optional "-" in front and an optional "." in between; the result shows as many digits
   /// behind the point. Unless overridden, the plain digits themselves.
   [[nodiscard]] virtual std::string localizedNumber(std::string_view plainDigits,
-                                                    const String& locale);
+                                                    const String& locale) const;
 
-  /// A new object at every call, which the caller may change.
-  [[nodiscard]] virtual std::shared_ptr<Calendar> currentCalendar() = 0;
+  /// The calendar that the device is set to: a new object at every call, which the caller may
+  /// change. Never null.
+  [[nodiscard]] virtual std::shared_ptr<Calendar> currentCalendar() const = 0;
 
  protected:
   LocaleData() = default;

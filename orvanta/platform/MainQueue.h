@@ -20,6 +20,7 @@ class ORVANTA_EXPORT MainQueue {
   MainQueue(const MainQueue&) = delete;
   MainQueue& operator=(const MainQueue&) = delete;
 
+  /// Whether the caller is on the main thread.
   [[nodiscard]] virtual bool isMainThread() const = 0;
 
   /// Runs `step` at a later turn of the main thread, after the steps queued before it, never inside

@@ -9,14 +9,15 @@
 
 namespace orvanta::platform {
 
+/// What observers are told. An ordinary value.
 struct Notification {
-  String name;
-  const void* object = nullptr;  ///< The sender; null for none.
-  Dictionary<StringList> userInfo;
+  String name;                      ///< What happened.
+  const void* object = nullptr;     ///< The sender; null for none.
+  Dictionary<StringList> userInfo;  ///< Details under their keys; possibly absent.
 };
 
-/// Hands notifications to whoever registered for them. Thread-safe: every operation may be called
-/// from any thread, also inside a handler.
+/// Delivers notifications to the observers that registered for them. Thread-safe; every operation
+/// may also be called from inside a handler.
 class ORVANTA_EXPORT NotificationCenter {
  public:
   using Handler = std::function<void(const Notification&)>;
@@ -26,9 +27,8 @@ class ORVANTA_EXPORT NotificationCenter {
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
   /// Registers `handler` for notifications called `name` from the sender `object`, from any sender
-  /// when that is null. `observer` only names the registration for `removeObserver`; one observer
-  /// may register several times, and its handlers are then all called. Throws `std::bad_alloc`, and
-  /// has then registered nothing.
+  /// when that is null. `observer` identifies the registration for `removeObserver` and is never
+  /// dereferenced. Each registration of one observer is told.
   virtual void addObserver(const void* observer, const String& name, const void* object,
                            Handler handler) = 0;
 

@@ -14,11 +14,11 @@
 
 namespace orvanta::platform {
 
-/// Everything that the library asks of its surroundings, gathered in one place.
+/// The interfaces through which the library reaches the system.
 ///
-/// An application installs its own before the first use of the library; where it installs none,
-/// the standard platform with its default options is used. To replace single members, let
-/// `makeStandardPlatform` fill in the others.
+/// An application may install its own before the first use of the library; else the standard
+/// platform with its default options is used. To replace single members, let
+/// `makeStandardPlatform` fill in the others. No member is null in an installed platform.
 struct ORVANTA_EXPORT Platform {
   std::shared_ptr<FileManager> files;
   std::shared_ptr<LocaleData> locales;
@@ -29,12 +29,12 @@ struct ORVANTA_EXPORT Platform {
   std::shared_ptr<ProcessInfo> processInfo;
   std::shared_ptr<Log> log;
 
-  /// The installed platform, or the default one, made at the first call. From any thread. Valid
-  /// for the life of the process, also after another one was installed.
+  /// The installed platform, else the default one, made at the first call. Thread-safe. Valid for
+  /// the life of the process, even after another one is installed.
   [[nodiscard]] static const Platform& current();
 
-  /// Makes `platform` the current one; every member must be present. What the library has made
-  /// from an earlier one keeps using that, so install before the first `sharedLocalizer`.
+  /// Makes `platform` the current one. Objects made before keep the earlier one, so install before
+  /// the first `sharedLocalizer`.
   static void install(Platform platform);
 };
 

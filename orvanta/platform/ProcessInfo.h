@@ -6,6 +6,7 @@
 
 namespace orvanta::platform {
 
+/// A version of the operating system, compared number by number.
 struct OperatingSystemVersion {
   long majorVersion = 0;
   long minorVersion = 0;
@@ -14,15 +15,16 @@ struct OperatingSystemVersion {
   friend auto operator<=>(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
 };
 
-/// What the process knows about the system that it runs on. Safe to ask from any thread.
+/// What the process knows about the system that it runs on. Thread-safe.
 class ORVANTA_EXPORT ProcessInfo {
  public:
   virtual ~ProcessInfo();
   ProcessInfo(const ProcessInfo&) = delete;
   ProcessInfo& operator=(const ProcessInfo&) = delete;
 
+  /// Whether the system's version is `version` or a later one.
   [[nodiscard]] virtual bool isOperatingSystemAtLeastVersion(
-      const OperatingSystemVersion& version) = 0;
+      const OperatingSystemVersion& version) const = 0;
 
  protected:
   ProcessInfo() = default;

@@ -2,7 +2,7 @@
 
 namespace orvanta::platform {
 
-/// A frame in its parent's coordinates, in the toolkit's units.
+/// A rectangle: its origin in the coordinates of its parent, and its size, in the toolkit's units.
 struct Rect {
   double x = 0;
   double y = 0;

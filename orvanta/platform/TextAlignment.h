@@ -4,8 +4,8 @@
 
 namespace orvanta::platform {
 
-/// Where lines of text stand, numbered as the device numbers it. Values without a name are legal
-/// and pass through the library unchanged.
+/// The alignment of lines of text. Values without a name are legal and pass through the library
+/// unchanged.
 enum class TextAlignment : std::int64_t {
   left = 0,
   center = 1,

@@ -36,7 +36,8 @@ class CatalogueFont final : public platform::Font {
 
 class CatalogueFonts final : public platform::FontSystem {
  public:
-  std::shared_ptr<const platform::Font> fontWithName(const String& name, double size) override {
+  std::shared_ptr<const platform::Font> fontWithName(const String& name,
+                                                     double size) const override {
     const auto face = name.isAbsent() ? faces_.end() : faces_.find(name);
     if (face == faces_.end()) {
       return nullptr;
@@ -44,8 +45,8 @@ class CatalogueFonts final : public platform::FontSystem {
     return std::make_shared<CatalogueFont>(face->first, size, face->second);
   }
 
-  std::shared_ptr<const platform::Font> systemFontOfSize(double size,
-                                                         platform::FontWeight weight) override {
+  std::shared_ptr<const platform::Font> systemFontOfSize(
+      double size, platform::FontWeight weight) const override {
     const platform::SymbolicTraits traits =
         weight >= kLightestBoldWeight ? platform::kBoldTrait : 0;
     return std::make_shared<CatalogueFont>(systemName_, size, traits);

@@ -13,13 +13,13 @@ class StandardLocaleData final : public platform::LocaleData {
   explicit StandardLocaleData(StringList deviceLanguages)
       : deviceLanguages_(std::move(deviceLanguages)) {}
 
-  StringList preferredLanguages() override { return deviceLanguages_; }
+  StringList preferredLanguages() const override { return deviceLanguages_; }
 
-  platform::LanguageDirection characterDirectionForLanguage(const String& language) override {
+  platform::LanguageDirection characterDirectionForLanguage(const String& language) const override {
     return directionOfLanguage(language.view());
   }
 
-  String lowercaseString(const String& text) override {
+  String lowercaseString(const String& text) const override {
     if (text.isAbsent()) {
       return {};
     }
@@ -27,7 +27,7 @@ class StandardLocaleData final : public platform::LocaleData {
     return text.view() == lower ? text : String(lower);
   }
 
-  std::shared_ptr<platform::Calendar> currentCalendar() override {
+  std::shared_ptr<platform::Calendar> currentCalendar() const override {
     return std::make_shared<platform::Calendar>(
         "gregorian",
         platform::Locale(deviceLanguages_.empty() ? String() : deviceLanguages_.front()));

@@ -14,7 +14,8 @@ class StandardProcessInfo final : public platform::ProcessInfo {
   explicit StandardProcessInfo(const platform::OperatingSystemVersion& version)
       : version_(version) {}
 
-  bool isOperatingSystemAtLeastVersion(const platform::OperatingSystemVersion& version) override {
+  bool isOperatingSystemAtLeastVersion(
+      const platform::OperatingSystemVersion& version) const override {
     return version_ >= version;
   }
 

@@ -19,13 +19,13 @@ using platform::TextAlignment;
 // The standard fonts, with two icon fonts among them, writing down what is asked of them.
 class WatchedFonts final : public platform::FontSystem {
  public:
-  FontHandle fontWithName(const String& name, double size) override {
+  FontHandle fontWithName(const String& name, double size) const override {
     askedFor.push_back(name.str());
     const bool isIconFont = name == "MyIconFont" || name == "ICON";
     return isIconFont ? fonts_->systemFontOfSize(size, platform::kFontWeightRegular)
                       : fonts_->fontWithName(name, size);
   }
-  FontHandle systemFontOfSize(double size, platform::FontWeight weight) override {
+  FontHandle systemFontOfSize(double size, platform::FontWeight weight) const override {
     return fonts_->systemFontOfSize(size, weight);
   }
   bool registerFontData(std::span<const std::byte> data) override {
@@ -33,7 +33,7 @@ class WatchedFonts final : public platform::FontSystem {
     return registrations.back();
   }
 
-  std::vector<std::string> askedFor;
+  mutable std::vector<std::string> askedFor;
   std::vector<bool> registrations;  // Whether each one succeeded.
 
  private:

@@ -25,13 +25,13 @@ using platform::LanguageDirection;
 // Numbers as ICU writes them, so that whole messages can be compared.
 class IcuNumbers final : public platform::LocaleData {
  public:
-  StringList preferredLanguages() override { return StringList::emptyList(); }
-  LanguageDirection characterDirectionForLanguage(const String& language) override {
+  StringList preferredLanguages() const override { return StringList::emptyList(); }
+  LanguageDirection characterDirectionForLanguage(const String& language) const override {
     return standard_->characterDirectionForLanguage(language);
   }
-  String lowercaseString(const String& text) override { return text; }
-  std::shared_ptr<platform::Calendar> currentCalendar() override { return nullptr; }
-  std::string localizedNumber(std::string_view plainDigits, const String& locale) override {
+  String lowercaseString(const String& text) const override { return text; }
+  std::shared_ptr<platform::Calendar> currentCalendar() const override { return nullptr; }
+  std::string localizedNumber(std::string_view plainDigits, const String& locale) const override {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::NumberFormat> format(
         icu::NumberFormat::createInstance(icu::Locale(locale.str().c_str()), status));

@@ -63,7 +63,7 @@ QStringList addForEveryApplication(const QByteArray& file) {
 
 class QtFonts final : public platform::FontSystem {
  public:
-  FontPointer fontWithName(const String& name, double size) override {
+  FontPointer fontWithName(const String& name, double size) const override {
     if (qGuiApp == nullptr || name.empty()) {
       return nullptr;
     }
@@ -75,7 +75,7 @@ class QtFonts final : public platform::FontSystem {
     return installed ? std::make_shared<QtFont>(*installed, name) : nullptr;
   }
 
-  FontPointer systemFontOfSize(double size, FontWeight weight) override {
+  FontPointer systemFontOfSize(double size, FontWeight weight) const override {
     if (qGuiApp == nullptr) {
       return nullptr;
     }

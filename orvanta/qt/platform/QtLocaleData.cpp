@@ -23,19 +23,21 @@ class QtLocaleData final : public platform::LocaleData {
  public:
   explicit QtLocaleData(std::shared_ptr<platform::LocaleData> other) : other_(std::move(other)) {}
 
-  StringList preferredLanguages() override { return other_->preferredLanguages(); }
+  StringList preferredLanguages() const override { return other_->preferredLanguages(); }
 
-  platform::LanguageDirection characterDirectionForLanguage(const String& language) override {
+  platform::LanguageDirection characterDirectionForLanguage(const String& language) const override {
     return other_->characterDirectionForLanguage(language);
   }
 
-  String lowercaseString(const String& text) override { return other_->lowercaseString(text); }
+  String lowercaseString(const String& text) const override {
+    return other_->lowercaseString(text);
+  }
 
-  std::shared_ptr<platform::Calendar> currentCalendar() override {
+  std::shared_ptr<platform::Calendar> currentCalendar() const override {
     return other_->currentCalendar();
   }
 
-  std::string localizedNumber(std::string_view plainDigits, const String& locale) override {
+  std::string localizedNumber(std::string_view plainDigits, const String& locale) const override {
     const QLocale qt(toQString(locale));
     QString text;
     if (plainDigits.starts_with('-')) {
