@@ -124,6 +124,14 @@ class ORVANTA_EXPORT OVStringCache {
   /// Forgets the catalogue, so that the next read sees what is on disk then.
   void refreshCache() noexcept;
 
+  /// Removes the downloaded languages whose version is lower than that of the language shipped
+  /// under the same key, and forgets the catalogue if there were any: an application that was
+  /// updated calls it at its start. Returns their keys. Versions are compared number by number
+  /// between the dots; a table without a version counts as the lowest. A folder that cannot be
+  /// removed is logged and skipped. Look-ups answer from the tables in memory until the next change
+  /// of language.
+  StringList discardCachedLanguagesOlderThanShipped();
+
   /// Empties the platform's cache folder, which is made if it is missing, and forgets the
   /// catalogue.
   void clearCache();

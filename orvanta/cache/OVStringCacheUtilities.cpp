@@ -3,6 +3,7 @@
 
 #include <orvanta/cache/CachePath.h>
 #include <orvanta/cache/FolderMaker.h>
+#include <orvanta/cache/LoggedRemoval.h>
 #include <orvanta/cache/OVStringCacheUtilities.h>
 #include <orvanta/cache/StringsFileReplacement.h>
 #include <orvanta/platform/Platform.h>
@@ -37,14 +38,8 @@ URL directoryFromFileURL(const URL& file) {
 }
 
 void clearFilesFromDirectory(const URL& directory) {
-  const Platform& platform = Platform::current();
-  for (const URL& entry : platform.files->contentsOfDirectoryAtURL(directory).entries) {
-    const Status status = platform.files->removeItemAtURL(entry);
-    if (!status.ok()) {
-      std::string message = "Error " + std::to_string(status.code()) + " deleting file:";
-      message += status.localizedDescription().view();
-      platform.log->log(message);
-    }
+  for (const URL& entry : Platform::current().files->contentsOfDirectoryAtURL(directory).entries) {
+    removeItemLoggingFailure(entry);
   }
 }
 

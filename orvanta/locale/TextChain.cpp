@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <orvanta/cache/CachePath.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/locale/TextChain.h>
 #include <orvanta/text/PathString.h>
@@ -8,7 +9,6 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::string_view kLanguageFolderExtension = ".lproj";
 constexpr std::string_view kLanguageOfOtherFolders = "en";
 
 String localeOf(const platform::Bundle& bundle) {
@@ -22,31 +22,6 @@ String localeOf(const platform::Bundle& bundle) {
              : String::fromStatic(kLanguageOfOtherFolders);
 }
 
-// The next component of a path that says anything; empty at its end.
-std::string_view takeComponent(std::string_view& path) {
-  while (!path.empty()) {
-    const std::string_view component = path.substr(0, path.find('/'));
-    path.remove_prefix(std::min(component.size() + 1, path.size()));
-    if (!component.empty() && component != ".") {
-      return component;
-    }
-  }
-  return {};
-}
-
-bool isBelow(std::string_view folder, std::string_view path) {
-  std::string_view component = takeComponent(folder);
-  if (component.empty()) {
-    return false;
-  }
-  for (; !component.empty(); component = takeComponent(folder)) {
-    if (takeComponent(path) != component) {
-      return false;
-    }
-  }
-  return !takeComponent(path).empty();
-}
-
 }  // namespace
 
 const String& TextLink::locale() const& {
@@ -57,8 +32,12 @@ const String& TextLink::locale() const& {
 }
 
 bool TextLink::isDownloaded() const {
-  return cache_ != nullptr && bundle_ != nullptr &&
-         isBelow(cache_->cacheDirectoryURL().path().view(), bundle_->bundlePath().view());
+  if (cache_ == nullptr || bundle_ == nullptr) {
+    return false;
+  }
+  const URL table = URL::fileURLWithPath(bundle_->bundlePath(), true)
+                        .URLByAppendingPathComponent("Localizable.strings", false);
+  return cachePathOf(table, cache_->cacheDirectoryURL()).status.ok();
 }
 
 void TextChain::add(TextLink link) {

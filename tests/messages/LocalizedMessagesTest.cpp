@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <atomic>
 #include <optional>
 #include <string>
@@ -208,6 +209,42 @@ TEST(Explanation, SaysHowTheCurrentLocaleCameAbout) {
     EXPECT_EQ(explanation.fallbackRow, row.fallbackRow) << row.locale;
     EXPECT_EQ(explanation.languagePart, row.languagePart) << row.locale;
   }
+}
+
+TEST(OlderTables, AreDiscardedByTheirVersions) {
+  const struct {
+    const char* language;
+    const char* downloaded;  // Null: the table names none.
+    const char* shipped;
+    bool isDiscarded;
+  } rows[] = {
+      {"aa", "1.9", "1.10", true},    {"bb", "1.10", "1.9", false},
+      {"cc", "2", "2.0.0", false},    {"dd", nullptr, "0", true},
+      {"ee", "1", nullptr, false},    {"ff", nullptr, nullptr, false},
+      {"gg", "1.2-rc", "1.3", true},  {"hh", "99999999999999999999", "100000000000000000000", true},
+      {"ii", "01.007", "1.7", false},
+  };
+  test::TestApplication app;
+  const std::string key(OVOrvantaLanguageVersionKey);
+  for (const auto& row : rows) {
+    app.download(row.language, row.downloaded == nullptr ? test::Strings{{"k", "v"}}
+                                                         : test::Strings{{key, row.downloaded}});
+    app.ship(row.language, row.shipped == nullptr ? test::Strings{{"k", "v"}}
+                                                  : test::Strings{{key, row.shipped}});
+  }
+  app.download("alone", {{"k", "v"}});
+  OVStringCache cache;
+  const StringList discarded = cache.discardCachedLanguagesOlderThanShipped();
+  const StringList cached = cache.cachedLanguageCodes();
+  const auto holds = [](const StringList& list, const char* language) {
+    return std::find(list.begin(), list.end(), language) != list.end();
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(holds(discarded, row.language), row.isDiscarded) << row.language;
+    EXPECT_EQ(holds(cached, row.language), !row.isDiscarded) << row.language;
+  }
+  EXPECT_TRUE(holds(cached, "alone"));
+  EXPECT_EQ(cache.discardCachedLanguagesOlderThanShipped(), StringList::emptyList());
 }
 
 // Snapshots answer on two threads while the main thread changes languages, as it did before.
