@@ -110,6 +110,18 @@ TEST_F(Command, UpdatesOnlyWhatHasTexts) {
   }
 }
 
+TEST_F(Command, FillsMessagesWithArguments) {
+  write("messages.json", R"json({"en": {"a": {"b": {"zantorData": {
+      "items": "{count, plural, one {# item} other {# items}} for {name}"}}}}})json");
+  run("$OV update --bundle-name a --namespace b messages.json");
+  run("$OV lookup --locales en --arg count=3 --arg name=Ada items");
+  EXPECT_EQ(out_, "3 items for Ada\n") << err_;
+  run("$OV lookup --locales en --arg count=1.0 --arg name=a=b items");
+  EXPECT_EQ(out_, "1.0 items for a=b\n");
+  run("$OV lookup --locales en --arg count items");
+  EXPECT_EQ(status_, 2) << err_;
+}
+
 TEST_F(Command, ForgesNoLineAndSendsNoEscapeToATerminal) {
   write("evil.json", R"({"x\nfr\twritten": {"a": {"b": {"zantorData": {"k": "v"}}}},
                         "fr": {"a": {"b": {"zantorData": {"k": "\\U001B[31mred\\U009B"}}}}})");
