@@ -14,20 +14,17 @@
 
 namespace orvanta::strings {
 
-/// Fills a table. Of a key that is added twice the last value holds, of the firm ones if there are
-/// any.
+/// Fills a table. Of a key that is added twice the last value holds, except that a tentative entry
+/// yields to every other one.
 class StringTableBuilder {
  public:
-  /// A tentative entry yields to every firm one with its key, whichever was added first.
-  enum class Standing { kFirm, kTentative };
-
   /// `expectedBytes` is an estimate of the sum of all keys and values; too little costs a copy.
   explicit StringTableBuilder(std::size_t expectedBytes = 0);
   ~StringTableBuilder();
   StringTableBuilder(const StringTableBuilder&) = delete;
   StringTableBuilder& operator=(const StringTableBuilder&) = delete;
 
-  /// Adds a firm entry. False when the table would exceed 4 GiB.
+  /// Adds an entry. False when the table would exceed 4 GiB.
   bool add(std::string_view key, std::string_view value);
 
   /// Room for one entry, into which the caller writes the key and directly behind it the value, at
@@ -41,15 +38,19 @@ class StringTableBuilder {
     }
     return arena_ + used_ + kHeader;
   }
-  void commitEntry(std::size_t keySize, std::size_t valueSize,
-                   Standing standing = Standing::kFirm) {
+  void commitEntry(std::size_t keySize, std::size_t valueSize) {
     const std::uint32_t lengths[2] = {static_cast<std::uint32_t>(keySize),
                                       static_cast<std::uint32_t>(valueSize)};
     char* start = arena_ + used_;
     std::memcpy(start, lengths, kHeader);
-    auto& records = standing == Standing::kFirm ? records_ : tentativeRecords_;
-    records.push_back((textHash({start + kHeader, keySize}) & StringTable::kHashMask) | used_);
+    records_.push_back((textHash({start + kHeader, keySize}) & StringTable::kHashMask) | used_);
     used_ += kHeader + keySize + valueSize;
+  }
+
+  /// Makes the entry that was added last a tentative one.
+  void makeLastTentative() {
+    tentativeRecords_.push_back(records_.back());
+    records_.pop_back();
   }
 
   /// The table, never null. The builder is empty afterwards.

@@ -88,20 +88,20 @@ const char* resolveEscape(const char* at, const char* end, ResolvedText& out) no
 }  // namespace
 
 ResolvedText resolveEscapes(std::string_view raw, char* out) noexcept {
+  const char* at = raw.data();
+  const char* const end = at + raw.size();
   ResolvedText resolved = {out, false};
-  while (!raw.empty()) {
-    const std::size_t plain = std::min(raw.find('\\'), raw.size());
-    std::memcpy(resolved.end, raw.data(), plain);
-    resolved.end += plain;
-    raw.remove_prefix(plain);
-    if (raw.size() == 1) {
+  while (at != end) {
+    const void* const found = std::memchr(at, '\\', static_cast<std::size_t>(end - at));
+    const char* const backslash = found == nullptr ? end : static_cast<const char*>(found);
+    std::memcpy(resolved.end, at, static_cast<std::size_t>(backslash - at));
+    resolved.end += backslash - at;
+    at = backslash;
+    if (end - at > 1) {
+      at = resolveEscape(at + 1, end, resolved);
+    } else if (at != end) {
       *resolved.end++ = '\\';
-      break;
-    }
-    if (!raw.empty()) {
-      const char* const end = raw.data() + raw.size();
-      const char* const next = resolveEscape(raw.data() + 1, end, resolved);
-      raw = {next, static_cast<std::size_t>(end - next)};
+      ++at;
     }
   }
   return resolved;

@@ -8,8 +8,8 @@ namespace {
 // paragraph separator, and a byte-order mark left over from joined files.
 constexpr std::string_view kWideBlanks[] = {"\u0085", "\u00A0", "\u2028", "\u2029", "\uFEFF"};
 
-// The inside and the end of the comment before every statement of a downloaded table.
-constexpr std::string_view kEmptyComment = " */";
+// The comment before every statement of a downloaded table.
+constexpr std::string_view kEmptyComment = "/* */";
 
 constexpr std::string_view kCommentBegin = "/*";
 constexpr std::string_view kCommentEnd = "*/";
@@ -24,56 +24,57 @@ std::size_t wideBlankAt(std::string_view text) noexcept {
   return 0;
 }
 
-// Whether another comment seems to begin inside the one from `begin` to `end`.
-bool holdsComment(const char* begin, const char* end) noexcept {
-  constexpr std::size_t kShortest = 6;
-  const std::string_view comment(begin, end);
-  return comment.size() >= kShortest &&
-         comment.find(kCommentBegin, kCommentBegin.size()) != std::string_view::npos;
-}
-
 }  // namespace
 
 template <bool kPassesNested>
 const char* TextScanner::skipRest(const char* at) noexcept {
-  while (at != end_) {
-    const char* before = at;
-    at = skipOne<kPassesNested>(at);
+  for (;;) {
+    while (at != end_ && isKind(*at, kBlank)) {
+      ++at;
+    }
+    const char* const before = at;
+    if (at != end_ && *at == '/') {
+      at = skipSlash<kPassesNested>(at);
+    } else if (at != end_ && isKind(*at, kWide)) {
+      at += wideBlankAt({at, end_});
+    }
     if (at == before) {
-      break;
+      return at;
     }
   }
-  return at;
 }
 
 template const char* TextScanner::skipRest<false>(const char* at) noexcept;
 template const char* TextScanner::skipRest<true>(const char* at) noexcept;
 
+// Behind the comment that begins with the slash, if one does.
 template <bool kPassesNested>
-const char* TextScanner::skipOne(const char* at) noexcept {
-  if (isKind(*at, kBlank)) {
-    return at + 1;
+const char* TextScanner::skipSlash(const char* at) noexcept {
+  const std::string_view rest(at, end_);
+  if (rest.starts_with(kEmptyComment)) {
+    return at + kEmptyComment.size();
   }
-  if (isKind(*at, kWide)) {
-    return at + wideBlankAt({at, end_});
-  }
-  if (std::string_view(at, end_).starts_with(kLineCommentBegin)) {
+  if (rest.starts_with(kLineCommentBegin)) {
     return lineEnd(at);
   }
-  if (!beginsComment(at)) {
+  if (!rest.starts_with(kCommentBegin)) {
     return at;
   }
-  const char* behind = skipComment(at);
-  return behind == nullptr || (!kPassesNested && holdsComment(at, behind)) ? at : behind;
+  bool isNested = false;
+  const char* const behind = skipComment(at, isNested);
+  return behind == nullptr || (!kPassesNested && isNested) ? at : behind;
 }
 
-const char* TextScanner::skipComment(const char* at) noexcept {
-  const char* inside = at + kCommentMark;
-  if (std::string_view(inside, end_).starts_with(kEmptyComment)) {
-    return inside + kEmptyComment.size();
+const char* TextScanner::skipComment(const char* at, bool& isNested) noexcept {
+  const char* const inside = at + kCommentBegin.size();
+  // In most comments the first star is that of the end.
+  const char* const star = stars_.first(inside);
+  if (std::string_view(star, end_).starts_with(kCommentEnd)) {
+    return star + kCommentEnd.size();
   }
-  const char* end = commentEnds_.first(inside);
-  return end == end_ ? nullptr : end + kCommentMark;
+  const char* const end = commentEnds_.first(inside);
+  isNested = std::string_view(inside, end).find(kCommentBegin) != std::string_view::npos;
+  return end == end_ ? nullptr : end + kCommentEnd.size();
 }
 
 const char* TextScanner::findCommentEnd(const char* from, const char* to) noexcept {

@@ -15,6 +15,7 @@ class TextScanner {
   explicit TextScanner(std::string_view text) noexcept
       : begin_(text.data()),
         end_(text.data() + text.size()),
+        stars_(begin_, end_),
         commentEnds_(begin_, end_),
         lineEnds_(begin_, end_),
         backslashes_(begin_, end_) {}
@@ -53,14 +54,21 @@ class TextScanner {
   }
 
   /// Behind the comment that begins at `at`; null when it is never closed.
-  [[nodiscard]] const char* skipComment(const char* at) noexcept;
+  [[nodiscard]] const char* skipComment(const char* at) noexcept {
+    bool isNested = false;
+    return skipComment(at, isNested);
+  }
 
   /// The line break that ends the line of `at`, or the end of the text.
   [[nodiscard]] const char* lineEnd(const char* at) noexcept { return lineEnds_.first(at); }
 
  private:
-  static constexpr std::size_t kCommentMark = 2;
+  // `isNested` tells whether another comment seems to begin inside.
+  [[nodiscard]] const char* skipComment(const char* at, bool& isNested) noexcept;
 
+  [[nodiscard]] static const char* findStar(const char* from, const char* to) noexcept {
+    return findCharacter('*', from, to);
+  }
   [[nodiscard]] static const char* findCommentEnd(const char* from, const char* to) noexcept;
   [[nodiscard]] static const char* findLineEnd(const char* from, const char* to) noexcept;
   [[nodiscard]] static const char* findBackslash(const char* from, const char* to) noexcept {
@@ -70,10 +78,11 @@ class TextScanner {
   template <bool kPassesNested>
   [[nodiscard]] const char* skipRest(const char* at) noexcept;
   template <bool kPassesNested>
-  [[nodiscard]] const char* skipOne(const char* at) noexcept;
+  [[nodiscard]] const char* skipSlash(const char* at) noexcept;
 
   const char* begin_;
   const char* end_;
+  RememberedSearch<findStar, 1> stars_;
   RememberedSearch<findCommentEnd, 2> commentEnds_;
   RememberedSearch<findLineEnd, 3> lineEnds_;
   RememberedSearch<findBackslash, 1> backslashes_;

@@ -9,13 +9,16 @@ namespace {
 
 constexpr std::string_view kUsualSign = " = ";
 
-ResolvedText resolve(const TextToken& token, char* out) noexcept {
+// Writes the token's text and gives its end; clears `isSound` for a lone surrogate.
+char* resolve(const TextToken& token, char* out, bool& isSound) noexcept {
   const std::string_view text = token.text();
   if (token.escapes) {
-    return resolveEscapes(text, out);
+    const ResolvedText resolved = resolveEscapes(text, out);
+    isSound = isSound && !resolved.hasLoneSurrogate;
+    return resolved.end;
   }
   std::memcpy(out, text.data(), text.size());
-  return {out + text.size(), false};
+  return out + text.size();
 }
 
 }  // namespace
@@ -26,8 +29,7 @@ const char* TextStatements::read(TextScanner& scanner, const char* at) {
     if (at == scanner.end() || braces_ == Braces::kClosed) {
       break;
     }
-    const char* next = readStatement(scanner, at, Standing::kFirm);
-    next = next == nullptr ? readBrace(at) : next;
+    const char* next = readStatement(scanner, at);
     if (next == nullptr) {
       break;
     }
@@ -36,31 +38,44 @@ const char* TextStatements::read(TextScanner& scanner, const char* at) {
   return at;
 }
 
-const char* TextStatements::readStatement(TextScanner& scanner, const char* at, Standing standing) {
+const char* TextStatements::readTentatively(TextScanner& scanner, const char* at) {
+  const std::size_t before = count_;
+  const char* const next = *at == '{' || *at == '}' ? nullptr : readStatement(scanner, at);
+  if (count_ != before) {
+    table_.makeLastTentative();
+  }
+  return next;
+}
+
+const char* TextStatements::readStatement(TextScanner& scanner, const char* at) {
   const TextToken key = scanner.readToken(at);
   if (!key.found()) {
-    return nullptr;
+    return readBrace(at);
   }
-  TextToken value = key;
   const char* next = key.next;
   if (std::string_view(next, scanner.end()).starts_with(kUsualSign)) {
     next += kUsualSign.size();
   } else {
     next = scanner.skipIdle(next);
-    next = next != scanner.end() && *next == '=' ? next + 1 : nullptr;
-  }
-  if (next != nullptr) {
-    value = scanner.readToken(scanner.skipIdle(next));
-    if (!value.found()) {
+    if (next == scanner.end() || (*next != '=' && *next != ';')) {
       return nullptr;
     }
+    if (*next == ';') {
+      last_ = at;
+      return put(key, key, Damaged::kRefuse) ? next + 1 : nullptr;
+    }
+    ++next;
+  }
+  const TextToken value = scanner.readToken(scanner.skipIdle(next));
+  if (!value.found()) {
+    return nullptr;
   }
   next = scanner.skipIdle(value.next);
-  if (next == scanner.end() || *next != ';' || !put(key, value, standing, Damaged::kRefuse)) {
+  if (next == scanner.end() || *next != ';') {
     return nullptr;
   }
   last_ = at;
-  return next + 1;
+  return put(key, value, Damaged::kRefuse) ? next + 1 : nullptr;
 }
 
 const char* TextStatements::readBrace(const char* at) noexcept {
@@ -76,22 +91,21 @@ const char* TextStatements::readBrace(const char* at) noexcept {
 }
 
 bool TextStatements::add(const TextToken& key, const TextToken& value) {
-  return put(key, value, Standing::kFirm, Damaged::kAccept) || full_;
+  return put(key, value, Damaged::kAccept) || full_;
 }
 
-bool TextStatements::put(const TextToken& key, const TextToken& value, Standing standing,
-                         Damaged damaged) {
+bool TextStatements::put(const TextToken& key, const TextToken& value, Damaged damaged) {
   char* begin = table_.beginEntry(key.text().size() + value.text().size());
   if (begin == nullptr) {
     full_ = true;
     return false;
   }
-  const ResolvedText keyText = resolve(key, begin);
-  const ResolvedText valueText = resolve(value, keyText.end);
-  const bool isSound = !keyText.hasLoneSurrogate && !valueText.hasLoneSurrogate;
+  bool isSound = true;
+  char* const keyEnd = resolve(key, begin, isSound);
+  char* const valueEnd = resolve(value, keyEnd, isSound);
   if (isSound || damaged == Damaged::kAccept) {
-    table_.commitEntry(static_cast<std::size_t>(keyText.end - begin),
-                       static_cast<std::size_t>(valueText.end - keyText.end), standing);
+    table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
+                       static_cast<std::size_t>(valueEnd - keyEnd));
     ++count_;
   }
   return isSound;

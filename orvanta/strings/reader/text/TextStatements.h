@@ -25,9 +25,7 @@ class TextStatements {
 
   /// Reads one statement at `at` and gives its end; null, with nothing read, where none is sound.
   /// A tentative entry yields to any other with its key.
-  [[nodiscard]] const char* readTentatively(TextScanner& scanner, const char* at) {
-    return readStatement(scanner, at, StringTableBuilder::Standing::kTentative);
-  }
+  [[nodiscard]] const char* readTentatively(TextScanner& scanner, const char* at);
 
   /// Adds an entry that was found another way. False when a surrogate of its escapes was alone, for
   /// which U+FFFD stands.
@@ -46,15 +44,13 @@ class TextStatements {
   [[nodiscard]] bool full() const noexcept { return full_; }
 
  private:
-  using Standing = StringTableBuilder::Standing;
-
   // Both give the end of what they read, null where it is not sound.
-  [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at, Standing standing);
+  [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at);
   [[nodiscard]] const char* readBrace(const char* at) noexcept;
 
   enum class Damaged { kRefuse, kAccept };
   // False when there is damage in the escapes, which is accepted or not, or when no entry fits.
-  bool put(const TextToken& key, const TextToken& value, Standing standing, Damaged damaged);
+  bool put(const TextToken& key, const TextToken& value, Damaged damaged);
 
   StringTableBuilder& table_;
   const char* last_ = nullptr;
