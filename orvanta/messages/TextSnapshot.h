@@ -40,9 +40,9 @@ class ORVANTA_EXPORT TextSnapshot {
   [[nodiscard]] StringList currentLocales() const;
 
  private:
-  struct Content;
+  struct ORVANTA_HIDDEN Content;
   friend ORVANTA_EXPORT TextSnapshot texts(Localizer& localizer);
-  explicit TextSnapshot(std::shared_ptr<const Content> content) noexcept;
+  ORVANTA_HIDDEN explicit TextSnapshot(std::shared_ptr<const Content> content) noexcept;
 
   std::shared_ptr<const Content> content_;
 };
