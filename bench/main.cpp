@@ -41,7 +41,7 @@ constexpr Family kFamilies[] = {
 };
 
 constexpr std::string_view kHelp =
-    "usage: bench/run [--help] [--contender=NAME] [FAMILY...]\n"
+    "usage: bench/run [--help] [--row=NAME]... [--without=NAME]... [--contender=NAME] [FAMILY...]\n"
     "\n"
     "Measures the library and the alternatives to it, prints a Markdown table of all rows and\n"
     "another of how our cost grows, and writes the first to build/bench.json.\n"
@@ -56,33 +56,46 @@ constexpr std::string_view kHelp =
     "the variable LANGUAGE; ICU with bundles of genrb, its answers left in UTF-16; Qt with .qm\n"
     "files of lrelease, asked by text identifier.\n"
     "\n"
+    "--row measures the rows of that name alone. --without leaves a row or a family out.\n"
     "--contender runs one contender alone, for a profiler.\n"
     "\n"
     "Families of rows, all of them unless some are named:";
 
 struct Arguments {
   std::string json = "build/bench.json";
-  std::string scratch = "build/bench/data";
-  std::string contender;
-  std::vector<std::string_view> families;
+  bench::Bench::Options bench;
+  std::vector<std::string> families;
   bool help = false;
 };
+
+bool isFamily(std::string_view word) {
+  return std::any_of(std::begin(kFamilies), std::end(kFamilies),
+                     [&](const Family& family) { return family.name == word; });
+}
+
+bool holds(const std::vector<std::string>& words, std::string_view word) {
+  return std::find(words.begin(), words.end(), word) != words.end();
+}
 
 Arguments parse(int count, char** words) {
   Arguments arguments;
   for (int at = 1; at < count; ++at) {
     const std::string_view word = words[at];
+    const std::string value(word.substr(std::min(word.find('='), word.size() - 1) + 1));
     if (word == "--help" || word == "-h") {
       arguments.help = true;
     } else if (word.starts_with("--json=")) {
-      arguments.json = word.substr(word.find('=') + 1);
-    } else if (word.starts_with("--contender=")) {
-      arguments.contender = word.substr(word.find('=') + 1);
+      arguments.json = value;
     } else if (word.starts_with("--scratch=")) {
-      arguments.scratch = word.substr(word.find('=') + 1);
-    } else if (std::any_of(std::begin(kFamilies), std::end(kFamilies),
-                           [&](const Family& family) { return family.name == word; })) {
-      arguments.families.push_back(word);
+      arguments.bench.scratch = std::filesystem::absolute(value);
+    } else if (word.starts_with("--contender=")) {
+      arguments.bench.onlyContender = value;
+    } else if (word.starts_with("--row=")) {
+      arguments.bench.rows.push_back(value);
+    } else if (word.starts_with("--without=")) {
+      arguments.bench.without.push_back(value);
+    } else if (isFamily(word)) {
+      arguments.families.emplace_back(word);
     } else {
       throw std::invalid_argument("no such family: " + std::string(word));
     }
@@ -107,11 +120,11 @@ void useUsualHeap() {
 }
 
 void runFamilies(const Arguments& arguments) {
-  bench::Bench session(std::filesystem::absolute(arguments.scratch), arguments.contender);
+  bench::Bench session(arguments.bench);
   bench::gettext::chooseLanguages("fr:en");
   for (const Family& family : kFamilies) {
-    const auto& wanted = arguments.families;
-    if (wanted.empty() || std::find(wanted.begin(), wanted.end(), family.name) != wanted.end()) {
+    if ((arguments.families.empty() || holds(arguments.families, family.name)) &&
+        !holds(arguments.bench.without, family.name)) {
       useUsualHeap();
       family.run(session);
     }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "harness/Files.h"
 #include "harness/Report.h"
@@ -13,23 +14,30 @@ namespace orvanta::bench {
 /// What a family of rows runs in.
 class Bench {
  public:
-  /// With a name for `contender`, all others sit out, as a profiler wants it.
-  explicit Bench(std::filesystem::path scratch, std::string contender = {})
-      : scratch_(std::move(scratch)), onlyContender_(std::move(contender)) {}
+  struct Options {
+    std::filesystem::path scratch = std::filesystem::absolute("build/bench/data");
+    std::string onlyContender;         ///< All others sit out, as a profiler wants it; empty: none.
+    std::vector<std::string> rows;     ///< Those to be measured; all where empty.
+    std::vector<std::string> without;  ///< Those to be left out.
+  };
+
+  explicit Bench(Options options) : options_(std::move(options)) {}
+
+  /// Whether the row is to be measured: what it needs can be left undone otherwise.
+  [[nodiscard]] bool isWanted(std::string_view row) const;
 
   /// A folder for the files of one family.
   [[nodiscard]] ScratchFolder folder(std::string_view family) const {
-    return ScratchFolder(scratch_ / family);
+    return ScratchFolder(options_.scratch / family);
   }
 
-  /// Measures a row and adds it to the report.
+  /// Measures a row, if it is wanted, and adds it to the report.
   void run(Row row);
 
   [[nodiscard]] Report& report() noexcept { return report_; }
 
  private:
-  std::filesystem::path scratch_;
-  std::string onlyContender_;
+  Options options_;
   Report report_;
 };
 

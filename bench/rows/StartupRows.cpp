@@ -18,6 +18,13 @@ namespace {
 
 constexpr std::size_t kBuffer = std::size_t{256} * 1024;
 
+// Where the tables have their three configuration entries.
+enum class Entries { none, first, last, firstInSome };
+
+bool isConfigured(Entries entries, std::size_t language) {
+  return entries == Entries::firstInSome ? language % 10 == 3 : entries != Entries::none;
+}
+
 Table makeConfiguration(const Language& language) {
   const std::string name(language.name);
   return {{std::string(OVOrvantaLanguageVersionKey), "17"},
@@ -28,8 +35,8 @@ Table makeConfiguration(const Language& language) {
 // Ours: the platform, the localizer, and with it the catalogue of all languages.
 class OurStart {
  public:
-  OurStart(const Application& application, bool isConfigured)
-      : application_(application), isConfigured_(isConfigured) {}
+  OurStart(const Application& application, Entries entries)
+      : application_(application), entries_(entries) {}
 
   void start() {
     platform::Platform platform = application_.makePlatform("fr");
@@ -44,14 +51,16 @@ class OurStart {
     start();
     const OVLocaleDictionary languages = localizer_->stringCache().availableLanguages();
     expect(languages.size() == shippedLanguages().size(), "another number of languages");
-    for (const Language& language : shippedLanguages()) {
+    for (std::size_t number = 0; number < shippedLanguages().size(); ++number) {
+      const Language& language = shippedLanguages()[number];
+      const bool hasEntries = isConfigured(entries_, number);
       const auto* locale = languages.find(language.name);
       expect(locale != nullptr, "a language is missing");
       expectText((*locale)->orvantaLocaleName().view(), language.name, "its name");
       expectText((*locale)->appleLocaleName().view(), language.name, "its identifier");
       expectText((*locale)->version().view(),
-                 isConfigured_ ? std::string_view("17") : OVOrvantaLanguageVersionKey, "version");
-      expect((*locale)->fallbackLocales().size() == (isConfigured_ ? 2 : 0), "its equivalents");
+                 hasEntries ? std::string_view("17") : OVOrvantaLanguageVersionKey, "version");
+      expect((*locale)->fallbackLocales().size() == (hasEntries ? 2 : 0), "its equivalents");
     }
     expectText(localizer_->currentLocalesString().view(), "fr", "the current language");
   }
@@ -65,13 +74,13 @@ class OurStart {
 
  private:
   const Application& application_;
-  bool isConfigured_;
+  Entries entries_;
   std::shared_ptr<ReleasableBundles> bundles_;
   std::unique_ptr<Localizer> localizer_;
 };
 
-Contender startOurs(const Application& application, bool isConfigured) {
-  const auto start = std::make_shared<OurStart>(application, isConfigured);
+Contender startOurs(const Application& application, Entries entries) {
+  const auto start = std::make_shared<OurStart>(application, entries);
   return {std::string(kOurs), [start] { start->check(); }, [start] { start->start(); },
           [start] { start->forget(); }};
 }
@@ -110,46 +119,112 @@ Contender readAllFiles(const Application& application) {
   return {std::string(kFloor), check, round};
 }
 
+// The tables of all languages, which rows of one size share.
+class Tables {
+ public:
+  [[nodiscard]] const std::vector<Table>& ofSize(std::size_t strings) {
+    if (strings != strings_) {
+      tables_.clear();
+      const auto keys = makeKeys(strings);
+      for (const Language& language : shippedLanguages()) {
+        tables_.push_back(makeTable(language, keys));
+      }
+      strings_ = strings;
+    }
+    return tables_;
+  }
+
+ private:
+  std::size_t strings_ = 0;
+  std::vector<Table> tables_;
+};
+
 struct Start {
   const char* name;
   TableForm form = textFormUtf16;
   std::size_t strings = 10'000;
-  bool isConfigured = false;
+  Entries entries = Entries::none;
   std::optional<double> goal = {};
 };
 
-void startupRow(Bench& bench, const Start& start) {
+Table withEntries(Table table, const Start& start, std::size_t language) {
+  if (isConfigured(start.entries, language)) {
+    const Table configuration = makeConfiguration(shippedLanguages()[language]);
+    table.insert(start.entries == Entries::last ? table.end() : table.begin(),
+                 configuration.begin(), configuration.end());
+  }
+  return table;
+}
+
+void startupRow(Bench& bench, const Start& start, Tables& tables) {
   const ScratchFolder folder = bench.folder(start.name);
   const Application application(folder.path());
-  const auto keys = makeKeys(start.strings);
   std::size_t bytes = 0;
-  for (const Language& language : shippedLanguages()) {
-    Table table = makeTable(language, keys);
-    if (start.isConfigured) {
-      const Table configuration = makeConfiguration(language);
-      table.insert(table.begin(), configuration.begin(), configuration.end());
-    }
-    application.ship(language.name, table, start.form);
-    bytes += std::filesystem::file_size(application.tableFile(language.name));
+  for (std::size_t number = 0; number < shippedLanguages().size(); ++number) {
+    const std::string_view name = shippedLanguages()[number].name;
+    application.ship(name, withEntries(tables.ofSize(start.strings)[number], start, number),
+                     start.form);
+    bytes += std::filesystem::file_size(application.tableFile(name));
   }
   Row row{.name = start.name, .samples = 15, .warmUp = true, .goal = start.goal};
   row.amount = Amount{static_cast<double>(bytes) / 1000, "kB"};
-  row.contenders = {readAllFiles(application), startOurs(application, start.isConfigured)};
-  bench.run(row);
+  row.contenders = {readAllFiles(application), startOurs(application, start.entries)};
+  bench.run(std::move(row));
 }
+
+constexpr Start kStarts[] = {
+    {.name = "startup", .goal = 1.5},
+    {.name = "startup-utf8", .form = textFormUtf8},
+    {.name = "startup-binary", .form = binaryPropertyList},
+    {.name = "startup-configured-first", .entries = Entries::first, .goal = 2.0},
+    {.name = "startup-configured-first-utf8",
+     .form = textFormUtf8,
+     .entries = Entries::first,
+     .goal = 2.0},
+    {.name = "startup-configured-first-binary",
+     .form = binaryPropertyList,
+     .entries = Entries::first,
+     .goal = 2.0},
+    {.name = "startup-configured-last", .entries = Entries::last, .goal = 4.0},
+    {.name = "startup-configured-last-utf8",
+     .form = textFormUtf8,
+     .entries = Entries::last,
+     .goal = 4.0},
+    {.name = "startup-configured-last-binary",
+     .form = binaryPropertyList,
+     .entries = Entries::last,
+     .goal = 4.0},
+    {.name = "startup-configured-some", .entries = Entries::firstInSome, .goal = 1.9},
+    {.name = "startup-configured-some-utf8",
+     .form = textFormUtf8,
+     .entries = Entries::firstInSome,
+     .goal = 1.9},
+    {.name = "startup-configured-some-binary",
+     .form = binaryPropertyList,
+     .entries = Entries::firstInSome,
+     .goal = 1.9},
+    {.name = "startup-half", .strings = 5'000},
+    {.name = "startup-quarter", .strings = 2'500},
+    {.name = "startup-1k", .strings = 1'000},
+    {.name = "startup-configured-first-1k",
+     .strings = 1'000,
+     .entries = Entries::first,
+     .goal = 2.0},
+    {.name = "startup-configured-last-1k", .strings = 1'000, .entries = Entries::last, .goal = 4.0},
+    {.name = "startup-configured-some-1k",
+     .strings = 1'000,
+     .entries = Entries::firstInSome,
+     .goal = 1.9},
+};
 
 }  // namespace
 
 void startupRows(Bench& bench) {
-  for (const Start& start : {
-           Start{.name = "startup", .goal = 1.5},
-           Start{.name = "startup-half", .strings = 5'000},
-           Start{.name = "startup-quarter", .strings = 2'500},
-           Start{.name = "startup-configured", .isConfigured = true},
-           Start{.name = "startup-utf8", .form = textFormUtf8},
-           Start{.name = "startup-binary", .form = binaryPropertyList},
-       }) {
-    startupRow(bench, start);
+  Tables tables;
+  for (const Start& start : kStarts) {
+    if (bench.isWanted(start.name)) {
+      startupRow(bench, start, tables);
+    }
   }
 }
 
