@@ -102,16 +102,16 @@ class StandardBundle final : public platform::Bundle {
     TableFile& file = changed_ ? changed_->file : defaultFile_;
     std::shared_ptr<const strings::StringTable>& table =
         changed_ ? changed_->table : defaultTable();
+    const std::string_view prefix = strings::prefixToProbeFor(keys);
+    const std::shared_ptr<const strings::StringTable> entries =
+        table != nullptr || prefix.empty()
+            ? nullptr
+            : file.entriesWithPrefix(prefix, pathOfTable(kDefaultTable));
+    const strings::StringTable& answering =
+        entries == nullptr ? loadedTable(file, table, kDefaultTable) : *entries;
     std::vector<String> texts(keys.size());
-    if (table == nullptr) {
-      const std::string_view prefix = strings::prefixToProbeFor(keys);
-      if (!prefix.empty() && file.lacksPrefix(prefix, pathOfTable(kDefaultTable))) {
-        return texts;
-      }
-    }
-    const strings::StringTable& loaded = loadedTable(file, table, kDefaultTable);
     std::transform(keys.begin(), keys.end(), texts.begin(),
-                   [&](const HashedKey& key) { return loaded.textForKey(key); });
+                   [&](const HashedKey& key) { return answering.textForKey(key); });
     return texts;
   }
 

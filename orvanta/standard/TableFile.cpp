@@ -20,7 +20,7 @@ bool isRacyAt(std::chrono::nanoseconds now, std::chrono::nanoseconds modificatio
   return modification + granularity >= now;
 }
 
-std::optional<FileBytes> contentOf(platform::FileManager& files, const FileState& state) {
+std::optional<strings::ReadBuffer> contentOf(platform::FileManager& files, const FileState& state) {
   return state.stamp ? readWholeFile(files, state.path, state.stamp->size) : std::nullopt;
 }
 
@@ -43,11 +43,12 @@ FileState FileState::of(platform::FileManager& files, String path) {
 
 std::shared_ptr<const strings::StringTable> TableFile::read(const String& path) {
   FileState state = FileState::of(*files_, path);
-  const std::optional<FileBytes> bytes = contentOf(*files_, state);
+  const std::optional<strings::ReadBuffer> bytes = contentOf(*files_, state);
   auto table = bytes ? strings::readStringTable(bytes->view()) : nullptr;
   if (table == nullptr) {
     table = emptyTable();
   }
+  probe_->releaseMemory();
   // A file that cannot be read now may become readable without another stamp.
   state.isRacy = state.isRacy || (state.stamp && !bytes);
   reset();
@@ -58,19 +59,21 @@ std::shared_ptr<const strings::StringTable> TableFile::read(const String& path) 
   return table;
 }
 
-bool TableFile::lacksPrefix(std::string_view prefix, const String& path) {
-  if (!prefix.empty() && lackedPrefix_ == prefix) {
-    return true;
+std::shared_ptr<const strings::StringTable> TableFile::entriesWithPrefix(std::string_view prefix,
+                                                                         const String& path) {
+  if (entries_ != nullptr && prefix_ == prefix) {
+    return entries_;
   }
   FileState state = FileState::of(*files_, path);
-  const auto file = files_->openFileForReading(path);
-  if (file == nullptr || probe_->mayHoldKeysWithPrefix(*file, prefix)) {
-    return false;
-  }
+  const auto open = [&] { return files_->openFileForReading(path); };
+  auto entries = state.stamp ? probe_->entries(open, state.stamp->size, prefix) : nullptr;
+  state.isRacy = state.isRacy || (state.stamp && entries == nullptr);
+  std::string known(prefix);
   reset();
-  lackedPrefix_ = prefix;
+  entries_ = entries == nullptr ? emptyTable() : std::move(entries);
+  prefix_ = std::move(known);
   state_ = std::move(state);
-  return true;
+  return entries_;
 }
 
 bool TableFile::hasChanged(const String& path) {
@@ -85,7 +88,7 @@ bool TableFile::hasChanged(const String& path) {
 void TableFile::reset() noexcept {
   state_.reset();
   contentHash_.reset();
-  lackedPrefix_.clear();
+  entries_.reset();
 }
 
 bool TableFile::isSameContent(const FileState& now) const {

@@ -38,9 +38,10 @@ class TableFile {
   /// an empty table; never null. Throws `std::bad_alloc`, and is then as if it had not been called.
   [[nodiscard]] std::shared_ptr<const strings::StringTable> read(const String& path);
 
-  /// Whether no key in the file at `path` begins with `prefix`, which `prefixToProbeFor` gave.
-  /// Finds out without reading the table, and remembers a yes. A no is no promise.
-  [[nodiscard]] bool lacksPrefix(std::string_view prefix, const String& path);
+  /// The entries of the table at `path` whose keys begin with `prefix`, which `prefixToProbeFor`
+  /// gave. Reads them without making the table, and remembers them; never null.
+  [[nodiscard]] std::shared_ptr<const strings::StringTable> entriesWithPrefix(
+      std::string_view prefix, const String& path);
 
   /// Whether anything is known of the file.
   [[nodiscard]] bool wasRead() const noexcept { return state_.has_value(); }
@@ -59,7 +60,9 @@ class TableFile {
   std::shared_ptr<strings::PrefixProbe> probe_;
   std::optional<FileState> state_;            // At the last reading; absent before the first.
   std::optional<std::uint64_t> contentHash_;  // Where the stamp alone does not do.
-  std::string lackedPrefix_;
+  std::string prefix_;
+  std::shared_ptr<const strings::StringTable>
+      entries_;  // Null unless those of `prefix_` are known.
 };
 
 }  // namespace orvanta::standard

@@ -1,11 +1,18 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
-#include <string>
 #include <string_view>
 
 #include <orvanta/strings/ByteSource.h>
+#include <orvanta/strings/ReadBuffer.h>
+#include <orvanta/strings/StringTable.h>
+#include <orvanta/strings/StringTableBuilder.h>
+#include <orvanta/strings/probe/FileProbe.h>
+#include <orvanta/strings/probe/PrefixSearches.h>
+#include <orvanta/text/Memory.h>
 #include <orvanta/text/TextHash.h>
 
 namespace orvanta::strings {
@@ -14,23 +21,45 @@ namespace orvanta::strings {
 /// too short to be worth it.
 [[nodiscard]] std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept;
 
-/// Looks through strings files, one after the other. Keeps the memory that it reads into, because
-/// fresh memory costs more than the looking; used from one thread at a time.
+/// Reads of strings files the few entries whose keys begin with one prefix, in a fraction of the
+/// time that reading a whole file takes. Row startup-configured-first.
+///
+/// Used for one file after the other, from one thread at a time. Keeps its memory until told to
+/// free it: as much as the largest file if entries stand at the end of files.
 class PrefixProbe {
  public:
+  /// Opens the file, from its start; null when it cannot be opened.
+  using Opener = std::function<std::unique_ptr<ByteSource>()>;
+
   PrefixProbe();
   ~PrefixProbe();
   PrefixProbe(const PrefixProbe&) = delete;
   PrefixProbe& operator=(const PrefixProbe&) = delete;
 
-  /// False only when no key of the strings file begins with `prefix`, which `prefixToProbeFor`
-  /// gave; then a look-up of any such key in the file's table would find nothing. True is no
-  /// promise. Costs a fraction of the time in which the file is read.
-  [[nodiscard]] bool mayHoldKeysWithPrefix(ByteSource& file, std::string_view prefix);
+  /// Those entries of the table that `readStringTable` gives for the file whose keys begin with
+  /// `prefix`, which `prefixToProbeFor` gave; none when it gives no table. Null when the file
+  /// cannot be read. Its size may have changed since it was `expectedSize`; it may be opened twice.
+  /// Throws `std::bad_alloc`.
+  [[nodiscard]] std::shared_ptr<const StringTable> entries(const Opener& open,
+                                                           std::uint64_t expectedSize,
+                                                           std::string_view prefix);
+
+  void releaseMemory() noexcept;
 
  private:
-  struct Tools;
-  std::unique_ptr<Tools> tools_;  // Made by the first use.
+  [[nodiscard]] std::shared_ptr<const StringTable> entriesFromHead(ByteSource& file);
+  [[nodiscard]] std::shared_ptr<const StringTable> entriesFromAll(ByteSource& file,
+                                                                  std::uint64_t expectedSize);
+  [[nodiscard]] std::shared_ptr<const StringTable> entriesAt(const FilePiece& head) const;
+  [[nodiscard]] std::shared_ptr<const StringTable> restricted(
+      const std::shared_ptr<const StringTable>& table) const;
+
+  std::unique_ptr<PrefixSearches> searches_;
+  std::unique_ptr<FileProbe> file_;  // Null when there is none for its form.
+  Bytes window_;
+  ReadBuffer whole_;
+  // The head of the last file did not do. The files of an application are alike.
+  bool needsAll_ = false;
 };
 
 }  // namespace orvanta::strings

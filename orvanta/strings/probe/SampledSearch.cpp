@@ -40,54 +40,51 @@ inline unsigned SampledSearch::mayStartWindow(const char* bytes) const noexcept 
   return filter_[filterIndex(windowAt(bytes))];
 }
 
-bool SampledSearch::occursIn(std::string_view text) const noexcept {
-  if (text.size() < kWindowSize) {
-    return false;
-  }
-  const char* const begin = text.data();
+std::size_t SampledSearch::find(std::string_view text, std::size_t from) const noexcept {
+  const std::size_t end = text.size() < kWindowSize ? 0 : text.size() - kWindowSize + 1;
   const std::size_t stride = stride_;
-  const std::size_t end = text.size() - kWindowSize + 1;
-  std::size_t at = 0;
-  // Several windows for each branch: the look-ups overlap, and next to none is ever taken.
+  std::size_t at = from;
+  // Several windows for each branch: the look-ups overlap, and the branch is next to never taken.
   constexpr std::size_t kTogether = 8;
   while (at + (kTogether - 1) * stride < end) {
-    const char* next = begin + at;
-    unsigned found = 0;
+    const char* next = text.data() + at;
+    unsigned isCandidate = 0;
     for (std::size_t window = 0; window < kTogether; ++window) {
-      found |= mayStartWindow(next);
+      isCandidate |= mayStartWindow(next);
       next += stride;
     }
-    if (found != 0) {
-      for (std::size_t window = 0; window < kTogether; ++window) {
-        if (occursAround(text, at + window * stride)) {
-          return true;
-        }
+    for (std::size_t window = 0; isCandidate != 0 && window < kTogether; ++window) {
+      const std::size_t found = occurrenceAround(text, at + window * stride, from);
+      if (found != kNone) {
+        return found;
       }
     }
     at += kTogether * stride;
   }
   for (; at < end; at += stride) {
-    if (occursAround(text, at)) {
-      return true;
+    const std::size_t found = occurrenceAround(text, at, from);
+    if (found != kNone) {
+      return found;
     }
   }
-  return false;
+  return kNone;
 }
 
-bool SampledSearch::occursAround(std::string_view text, std::size_t at) const noexcept {
+std::size_t SampledSearch::occurrenceAround(std::string_view text, std::size_t at,
+                                            std::size_t from) const noexcept {
   if (mayStartWindow(text.data() + at) == 0) {
-    return false;
+    return kNone;
   }
   const Window window = windowAt(text.data() + at);
   auto place = std::lower_bound(places_.begin(), places_.end(), window,
                                 [](const Place& a, Window b) { return a.window < b; });
   for (; place != places_.end() && place->window == window; ++place) {
     const std::string& pattern = patterns_[place->pattern];
-    if (at >= place->offset && text.substr(at - place->offset).starts_with(pattern)) {
-      return true;
+    if (at - from >= place->offset && text.substr(at - place->offset).starts_with(pattern)) {
+      return at - place->offset;
     }
   }
-  return false;
+  return kNone;
 }
 
 }  // namespace orvanta::strings

@@ -9,11 +9,11 @@
 
 namespace orvanta::strings {
 
-/// Looks for any of a few byte patterns while reading only a small part of the text.
-///
-/// Of a text it looks at eight bytes at a time, a stride apart that is short enough that every
-/// occurrence of every pattern covers one such window whole. A window that stands nowhere in a
-/// pattern, as a small filter tells, is all that is needed to pass over a stride of text.
+/// Searches for any of a few byte patterns while reading only a small part of the text: eight bytes
+/// at a time, a stride apart that is short enough that every occurrence of a pattern contains one
+/// such window. A window that stands nowhere in a pattern, as a small filter tells, is all that is
+/// needed to pass over a stride of text. `memmem` takes two to four times as long. Rows startup and
+/// startup-1k.
 class SampledSearch {
  public:
   static constexpr std::size_t kShortestPattern = 8;
@@ -21,7 +21,11 @@ class SampledSearch {
   /// Patterns of at least `kShortestPattern` bytes each; at least one.
   explicit SampledSearch(std::vector<std::string> patterns);
 
-  [[nodiscard]] bool occursIn(std::string_view text) const noexcept;
+  static constexpr std::size_t kNone = std::string_view::npos;
+
+  /// The beginning of an occurrence that lies in `text` from `from` on, `kNone` when there is none.
+  /// No other occurrence ends before it begins.
+  [[nodiscard]] std::size_t find(std::string_view text, std::size_t from) const noexcept;
 
   /// No occurrence is longer than this.
   [[nodiscard]] std::size_t longestPattern() const noexcept { return longest_; }
@@ -32,7 +36,7 @@ class SampledSearch {
   static constexpr unsigned kFilterBits = 14;
   static_assert(kShortestPattern >= kWindowSize);
 
-  /// A place in a pattern at which a window stands.
+  // A place in a pattern at which a window stands.
   struct Place {
     Window window;
     std::uint32_t pattern;
@@ -42,7 +46,8 @@ class SampledSearch {
   [[nodiscard]] static Window windowAt(const char* bytes) noexcept;
   [[nodiscard]] static std::size_t filterIndex(Window window) noexcept;
   [[nodiscard]] unsigned mayStartWindow(const char* bytes) const noexcept;
-  [[nodiscard]] bool occursAround(std::string_view text, std::size_t at) const noexcept;
+  [[nodiscard]] std::size_t occurrenceAround(std::string_view text, std::size_t at,
+                                             std::size_t from) const noexcept;
 
   std::vector<std::string> patterns_;
   std::vector<Place> places_;  // Sorted by window.

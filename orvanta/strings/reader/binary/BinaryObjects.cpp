@@ -71,8 +71,7 @@ std::optional<BinaryObject> BinaryObjects::at(std::uint64_t reference) const noe
   if (reference >= objectCount_) {
     return std::nullopt;
   }
-  const std::uint64_t offset =
-      readNumber(offsets_.substr(static_cast<std::size_t>(reference) * offsetSize_, offsetSize_));
+  const std::uint64_t offset = offsetOf(reference);
   if (offset < kMagicSize || offset >= objects_.size()) {
     return std::nullopt;
   }
@@ -119,6 +118,24 @@ std::optional<std::uint64_t> BinaryObjects::readCount(std::string_view& body,
 std::uint64_t BinaryObjects::referenceAt(const BinaryObject& dictionary,
                                          std::size_t index) const noexcept {
   return readNumber(dictionary.payload.substr(index * referenceSize_, referenceSize_));
+}
+
+std::uint64_t BinaryObjects::offsetOf(std::uint64_t reference) const noexcept {
+  return readNumber(
+      offsets_.substr(static_cast<std::size_t>(reference) * offsetSize_, offsetSize_));
+}
+
+std::vector<std::size_t> BinaryObjects::keysBetween(const BinaryObject& dictionary,
+                                                    std::uint64_t begin, std::uint64_t end) const {
+  std::vector<std::size_t> indices;
+  const std::size_t count = pairCount(dictionary);
+  for (std::size_t index = 0; index < count; ++index) {
+    const std::uint64_t reference = referenceAt(dictionary, index);
+    if (reference < objectCount_ && offsetOf(reference) - begin < end - begin) {
+      indices.push_back(index);
+    }
+  }
+  return indices;
 }
 
 }  // namespace orvanta::strings

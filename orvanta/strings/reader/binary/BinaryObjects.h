@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace orvanta::strings {
 
@@ -57,8 +58,15 @@ class BinaryObjects {
   [[nodiscard]] std::uint64_t referenceAt(const BinaryObject& dictionary,
                                           std::size_t index) const noexcept;
 
+  /// The ascending indices of those keys of the dictionary whose objects stand in the file at
+  /// `begin` or behind it and before `end`. Row startup-configured-first-binary.
+  [[nodiscard]] std::vector<std::size_t> keysBetween(const BinaryObject& dictionary,
+                                                     std::uint64_t begin, std::uint64_t end) const;
+
  private:
   BinaryObjects() = default;
+  // The reference must be below the number of objects.
+  [[nodiscard]] std::uint64_t offsetOf(std::uint64_t reference) const noexcept;
   [[nodiscard]] std::optional<std::uint64_t> readCount(std::string_view& body,
                                                        unsigned inMarker) const noexcept;
 

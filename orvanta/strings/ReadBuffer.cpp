@@ -1,0 +1,72 @@
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <utility>
+
+#include <orvanta/strings/ReadBuffer.h>
+
+namespace orvanta::strings {
+
+namespace {
+
+constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
+
+// Large enough for few calls of the system, small enough for a core's second-level cache.
+constexpr std::size_t kObservedPiece = std::size_t{256} * 1024;
+
+}  // namespace
+
+void ReadBuffer::reserve(std::size_t capacity) {
+  if (capacity <= capacity_) {
+    return;
+  }
+  // Files of similar sizes need not each enlarge it by a little.
+  capacity = std::max(capacity, capacity_ + capacity_ / 2);
+  Bytes larger(allocateBytes(capacity));
+  if (larger == nullptr) {
+    throw std::bad_alloc();
+  }
+  std::copy_n(data_.get(), size_, larger.get());
+  data_ = std::move(larger);
+  capacity_ = capacity;
+}
+
+bool ReadBuffer::readToEnd(ByteSource& file, const Observer& observer) {
+  const std::size_t piece = observer ? kObservedPiece : kLargestFile;
+  for (;;) {
+    while (size_ < capacity_) {
+      const auto count = file.read({data_.get() + size_, std::min(piece, capacity_ - size_)});
+      if (!count || *count == 0) {
+        return count.has_value();
+      }
+      size_ += *count;
+      if (observer) {
+        observer(view());
+      }
+    }
+    if (capacity_ > kLargestFile / 2) {
+      return false;
+    }
+    reserve(2 * capacity_);
+  }
+}
+
+bool ReadBuffer::read(ByteSource& file, std::uint64_t expectedSize, const Observer& observer) {
+  size_ = 0;
+  if (expectedSize >= kLargestFile) {
+    return false;
+  }
+  // One byte more than expected shows the end of the file without another buffer.
+  reserve(static_cast<std::size_t>(expectedSize) + 1);
+  const bool isRead = readToEnd(file, observer);
+  size_ = isRead ? size_ : 0;
+  return isRead;
+}
+
+void ReadBuffer::release() noexcept {
+  data_.reset();
+  size_ = 0;
+  capacity_ = 0;
+}
+
+}  // namespace orvanta::strings
