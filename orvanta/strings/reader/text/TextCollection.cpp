@@ -81,7 +81,7 @@ class CollectionPasser {
 
   // A mark of arrays or dictionaries, which are told by their closing bracket.
   bool passMark(char closer) noexcept {
-    const bool isInPlace = closers_[depth_ - 1] == closer;
+    const bool isInPlace = depth_ > 0 && closers_[depth_ - 1] == closer;
     if (!isInPlace && (isStrict_ || (*at_ == '=' && !leaveArrays()))) {
       return false;
     }
