@@ -1,0 +1,107 @@
+// The code of docs/messages.md, line by line, and that it does what the page says.
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <orvanta/orvanta.h>
+
+#include "../support/LocalizedApplication.h"
+
+namespace orvanta {
+namespace {
+
+StringsPayload dictionaryOf(const char* key, StringsPayload value) {
+  StringsPayload dictionary = StringsPayload::dictionary();
+  dictionary.add(key, std::move(value));
+  return dictionary;
+}
+
+TEST(GuideToMessages, DoesWhatItSays) {
+  test::LocalizedApplication app(
+      {{"en",
+        {{"cart.items", "{count, plural, =0 {Nothing} one {# item} other {# items}} for {name}"},
+         {"cart.total", "Total: {sum}"},
+         {"trail", "{0} walked {1} km"},
+         {"files.of", "%2$d files of %1$@"},
+         {"export.done", "{count, plural, one {# page} other {# pages}} done"}}}});
+  const StringsPayload payload = dictionaryOf(
+      "it",
+      dictionaryOf(
+          "bundle",
+          dictionaryOf("names", dictionaryOf("zantorData", dictionaryOf("trail", "{0} a piedi")))));
+
+  const String line = localizedMessageForKey("cart.items", {{"count", 3}, {"name", "Ada"}});
+  EXPECT_EQ(line, "3 items for Ada");
+  const String price = localizedMessageForKey("cart.total", {{"sum", Decimal{12.5, 2}}});
+  EXPECT_EQ(price, "Total: 12.50");
+  const String trail = localizedMessageForKey("trail", {"Ada", 3});
+  EXPECT_EQ(trail, "Ada walked 3 km");
+  const String shared = localizedStringWithFormat("files.of", {"Ada", 3});
+  EXPECT_EQ(shared, "3 files of Ada");
+
+  const TextSnapshot snapshot = texts();
+  std::thread worker([snapshot] {
+    const String title = snapshot.localizedStringForKey("export.title");
+    const String done = snapshot.localizedMessageForKey("export.done", {{"count", 40}});
+    EXPECT_EQ(title, "export.title");
+    EXPECT_EQ(done, "40 pages done");
+  });
+  worker.join();
+
+  std::thread download([&payload] {
+    OVStringCache cache;
+    cache.updateStrings(payload, "names", "bundle");
+  });
+  download.join();
+  Localizer& localizer = Localizer::sharedLocalizer();
+  localizer.stringCache().refreshCache();
+  localizer.changeOrvantaLanguageToPreferredLocales({"it"});
+  EXPECT_EQ(localizedMessageForKey("trail", {"Ada"}), "Ada a piedi");
+
+  localizer.stringCache().discardCachedLanguagesOlderThanShipped();
+  localizer.setShippedTextsStandIn(true);
+  const TextExplanation why = localizer.explain("signin.title");
+  if (why.source != TextSource::current) {
+    std::cerr << why.text << " comes from " << why.bundlePath << '\n';
+  }
+  EXPECT_EQ(why.source, TextSource::key);
+  localizer.setTextObserver([](const TextProblem& problem) {
+    std::cerr << problem.key << " in " << problem.locale << ' ' << problem.reason << '\n';
+  });
+  localizer.setTextObserver({});
+  localizer.setShippedTextsStandIn(false);
+}
+
+std::string withoutIndent(const std::string& line) {
+  return line.substr(std::min(line.find_first_not_of(' '), line.size()));
+}
+
+TEST(GuideToMessages, ShowsOnlyCodeThatIsBuiltHere) {
+  const std::filesystem::path source = ORVANTA_SOURCE_DIR;
+  std::string built = "\n";
+  std::istringstream lines(test::contentsOf(source / "tests/messages/GuideTest.cpp"));
+  for (std::string line; std::getline(lines, line);) {
+    built += withoutIndent(line) + '\n';
+  }
+  std::istringstream page(test::contentsOf(source / "docs/messages.md"));
+  bool isCode = false;
+  int shown = 0;
+  for (std::string line; std::getline(page, line);) {
+    if (line.starts_with("```")) {
+      isCode = line == "```cpp";
+    } else if (isCode) {
+      ++shown;
+      EXPECT_NE(built.find('\n' + withoutIndent(line) + '\n'), std::string::npos) << line;
+    }
+  }
+  EXPECT_GT(shown, 20);
+}
+
+}  // namespace
+}  // namespace orvanta
