@@ -32,15 +32,10 @@ StringList codesOf(const OVLocaleDictionary& languages) {
   return StringList(codes);
 }
 
-// A dictionary that an application has set may hold a key without a record.
-const OVLocale* localeUnder(const HashedKey& key, const OVLocaleDictionary& languages) {
+// Null when there is none; a dictionary that an application has set may hold a key without one.
+const OVLocale* recordUnder(const HashedKey& key, const OVLocaleDictionary& languages) {
   const auto* locale = languages.find(key);
   return locale == nullptr ? nullptr : locale->get();
-}
-
-std::shared_ptr<Bundle> bundleUnder(std::string_view key, const OVLocaleDictionary& languages) {
-  const OVLocale* locale = localeUnder(HashedKey(key), languages);
-  return locale == nullptr ? nullptr : locale->bundle();
 }
 
 // Only texts count: the cache cannot store a value of another kind.
@@ -192,8 +187,8 @@ std::int32_t OVStringCache::indexOfFirstAvailableCachedLanguage(const StringList
   const OVLocaleDictionary available = availableLanguages();
   std::int32_t position = 0;
   for (const String& language : languages) {
-    if (localeUnder(HashedKey(cleanedString(language).view()), available) != nullptr ||
-        localeUnder(HashedKey(cleanedString(languagePart(language)).view()), available) !=
+    if (recordUnder(HashedKey(cleanedString(language).view()), available) != nullptr ||
+        recordUnder(HashedKey(cleanedString(languagePart(language)).view()), available) !=
             nullptr) {
       return position;
     }
@@ -213,8 +208,8 @@ bool OVStringCache::hasBundleForLanguage(const HashedKey& language) {
 
 const std::shared_ptr<Bundle>* OVStringCache::findBundle(const HashedKey& language) {
   const auto under = [&](const HashedKey& key) -> const std::shared_ptr<Bundle>* {
-    const OVLocale* locale = localeUnder(key, languages());
-    return locale == nullptr || locale->bundle() == nullptr ? nullptr : &locale->bundle();
+    const OVLocale* record = recordUnder(key, languages());
+    return record == nullptr || record->bundle() == nullptr ? nullptr : &record->bundle();
   };
   if (const std::shared_ptr<Bundle>* bundle = under(language)) {
     return bundle;
@@ -227,8 +222,10 @@ String OVStringCache::localizedStringForKey(const String& key, const String& lan
   if (language.isAbsent()) {
     return {};
   }
-  const auto bundle =
-      bundleUnder(OVStringCacheUtilities::cleanedString(language).view(), availableLanguages());
+  const OVLocaleDictionary available = availableLanguages();
+  const String cleaned = OVStringCacheUtilities::cleanedString(language);
+  const OVLocale* record = recordUnder(HashedKey(cleaned.view()), available);
+  const auto bundle = record == nullptr ? nullptr : record->bundle();
   return bundle == nullptr ? String() : bundle->localizedStringForKey(key);
 }
 

@@ -15,7 +15,7 @@ namespace orvanta {
 ///
 /// "Button", the title that a layout editor gives a new button, is a key like any other when it has
 /// a translation; as a spoken label it is not remembered. A refresh that is called off the main
-/// thread loses its locale on the way: font and alignment are then those of no locale.
+/// thread drops its locale: font and alignment are then those of no locale.
 class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
  public:
   /// The states of a list, in the order in which their titles are set.

@@ -3,6 +3,7 @@
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
+#include <orvanta/locale/Version.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/text/NoDestructor.h>
 
@@ -12,6 +13,10 @@ using platform::Bundle;
 using platform::Platform;
 
 namespace {
+
+// Brings the version's text, which tools look for in binaries, into a program that is linked
+// statically and does not refer to it.
+[[gnu::used]] const unsigned char* const versionText = OrvantaLocalizerVersionString;
 
 platform::Notification changeOf(const StringList& adopted, const StringList& raw) {
   return {String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr,

@@ -43,7 +43,19 @@ inline constexpr std::string_view OVRawLocaleKey = "OVRawLocaleKey";
 /// later.
 ///
 /// `sharedLocalizer` and `isIOS9Minimum` may be called from any thread. Everything else is meant
-/// for the main thread: no locks are taken.
+/// for the main thread: no locks are taken. The first `sharedLocalizer` builds the catalogue, so
+/// no other thread may use the platform's bundles during that call; make it on the main thread.
+///
+/// Shortage of memory: whatever has to build a list, a catalogue or a table may throw
+/// `std::bad_alloc`. The object is then usable, and the next call tries again; a change of language
+/// has happened or not, but may be without its notification. A look-up of which both tables are in
+/// memory does not allocate.
+///
+/// What an application's callback throws reaches the caller of the operation. The library's own
+/// state is then whole: a notification has reached the other handlers, and steps that are queued
+/// stay queued. What a log sink throws is dropped.
+///
+/// In a child process made by `fork` see `platform::MainQueue`.
 class ORVANTA_EXPORT Localizer {
  public:
   /// The instance that the whole application shares, made at the first call in the language that

@@ -29,8 +29,8 @@ class ORVANTA_EXPORT MainQueue {
 
   /// Runs `step` on the main thread and returns when it has run; on the main thread itself at
   /// once. Returns without having run it when the main thread runs no more steps. What `step`
-  /// throws reaches whoever runs the main thread's steps: the caller only on the main thread
-  /// itself.
+  /// throws leaves the call on the main thread; otherwise it leaves the function that runs the main
+  /// thread's steps.
   virtual void performOnMainThreadAndWait(const Step& step) = 0;
 
  protected:

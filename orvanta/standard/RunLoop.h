@@ -37,7 +37,7 @@ class ORVANTA_EXPORT RunLoop : public platform::MainQueue {
   virtual std::size_t runPending() = 0;
 
   /// `hook` is called, on the thread that queues, whenever a step is queued. It must not block, and
-  /// what it throws reaches whoever queued.
+  /// what it throws reaches the caller that queued the step.
   virtual void setWakeUpHook(std::function<void()> hook) = 0;
 };
 

@@ -102,7 +102,7 @@ class NamedRegistrations {
     return list_;
   }
 
-  // The list that `beginPost` gave must have been let go of.
+  // The list that `beginPost` gave must have been released.
   void endPost(ReleasedHandlers& released) noexcept {
     if (--posts_ > 0) {
       return;

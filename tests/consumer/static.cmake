@@ -16,6 +16,11 @@ must_run(${CMAKE_COMMAND} --install ${build} --prefix ${WORK_DIR}/static_prefix)
 configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/static -DCOMPONENT=${component}
                     -DCMAKE_PREFIX_PATH=${WORK_DIR}/static_prefix)
 must_answer(${WORK_DIR}/static/consumer "${core_answer}")
+file(STRINGS ${WORK_DIR}/static/consumer_silent version
+     REGEX "^@.#.PROGRAM:OrvantaLocalizer  PROJECT:OrvantaLocalizer-1$")
+if(NOT version)
+  message(FATAL_ERROR "a program that does not refer to the version does not carry it")
+endif()
 if(WITH_QT)
   must_answer(${WORK_DIR}/static/consumer_qt "${qt_answer}")
 endif()

@@ -62,7 +62,7 @@ TEST_F(ControlThreads, ARefreshIsAppliedBeforeItReturns) {
     EXPECT_EQ(field_.shown(), (Design{"titre", "dit", "indice", TextAlignment::right}));
     button_.refreshFor("ar");
     EXPECT_EQ(button_.shown(), (Design{"titre", "dit", "indice"}));
-    EXPECT_EQ(button_.fontName(), "System") << "the locale is lost on the way";
+    EXPECT_EQ(button_.fontName(), "System") << "the locale is dropped";
   });
 }
 
@@ -80,7 +80,7 @@ TEST_F(ControlThreads, APostIsAppliedBeforeItReturns) {
               "font=CorbetSansKufiArabic alignment=2 text=عنوان spoken=Said hint=Hint");
     const std::string styled = "spoken=Said hint=Hint font=System alignment=0";
     const std::string said = button_.diary->take();
-    EXPECT_EQ(said.substr(said.size() - styled.size()), styled) << "the locale is lost on the way";
+    EXPECT_EQ(said.substr(said.size() - styled.size()), styled) << "the locale is dropped";
     EXPECT_EQ(said.find("OFF-MAIN"), std::string::npos);
   });
   LocalizedApplication::post();

@@ -8,6 +8,7 @@
 #include <orvanta/qt/platform/QtFont.h>
 #include <orvanta/qt/platform/QtFonts.h>
 #include <orvanta/standard/TrueTypeFace.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta::qt {
 
@@ -35,10 +36,10 @@ QFont::Weight qtWeight(FontWeight weight) {
   return QFont::Black;
 }
 
-// The files of all faces that were registered in this process. Never freed.
+// The files of all faces that were registered in this process.
 QList<QByteArray>& registeredFiles() {
-  static auto& files = *new QList<QByteArray>();
-  return files;
+  static NoDestructor<QList<QByteArray>> files;
+  return *files;
 }
 
 // Qt forgets an application's fonts with the application object.

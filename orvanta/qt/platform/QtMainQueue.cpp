@@ -7,6 +7,7 @@
 #include <orvanta/qt/platform/QtMainQueue.h>
 #include <orvanta/qt/platform/QtPlatformCheck.h>
 #include <orvanta/standard/RunLoop.h>
+#include <orvanta/text/NoDestructor.h>
 
 namespace orvanta::qt {
 
@@ -40,8 +41,8 @@ class Pump final : public QObject {
 
 // On the main thread alone.
 std::vector<Pump*>& pumps() {
-  static auto& all = *new std::vector<Pump*>();
-  return all;
+  static NoDestructor<std::vector<Pump*>> all;
+  return *all;
 }
 
 // Qt drops events that were posted before there was an application object, or after the last one.
