@@ -126,14 +126,16 @@ bool TextRecovery::extendPrevious(const char* begin, const char* end, const char
       scanner_.lineEnd(statement.valueToken.next) < begin) {
     return false;
   }
-  const char* close = lineEnd;
-  while (close != begin && *close != *statement.value) {
-    --close;
+  const std::string_view line(begin, lineEnd);
+  const std::string_view remainder = line.substr(0, line.rfind(*statement.value));
+  const bool isText = remainder.size() < line.size() &&
+                      std::any_of(remainder.begin(), remainder.end(), isWordCharacter) &&
+                      remainder.find_first_of("='\"") == std::string_view::npos;
+  if (!isText) {
+    return false;
   }
-  const bool isText =
-      std::any_of(begin, close, isWordCharacter) &&
-      std::find_if(begin, close, [](char c) { return c == '=' || isQuote(c); }) == close;
-  const char* const semicolon = isText ? scanner_.skipAllIdle(close + 1) : end;
+  const char* const close = begin + remainder.size();
+  const char* const semicolon = scanner_.skipAllIdle(close + 1);
   if (semicolon >= lineEnd || *semicolon != ';' || scanner_.skipAllIdle(semicolon + 1) < end) {
     return false;
   }
