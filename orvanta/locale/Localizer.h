@@ -19,8 +19,9 @@
 
 namespace orvanta {
 
-/// The language of last resort, and of the text that stands in where another has none.
+/// The language of last resort, and of the text that replaces one that another language lacks.
 inline constexpr std::string_view lastResortLocale = "en";
+/// The right-to-left languages.
 inline constexpr std::string_view arabicCode = "ar";
 inline constexpr std::string_view hebrewCode = "he";
 inline constexpr std::string_view urduCode = "ur";
@@ -132,10 +133,11 @@ class ORVANTA_EXPORT Localizer {
   /// empty one.
   [[nodiscard]] String currentLocalesString() const;
 
-  /// The device's languages, available or not.
+  /// The device's languages, best first, available or not; possibly none, never absent.
   [[nodiscard]] StringList devicePreferredLocales() const;
 
-  /// A new calendar, the platform's, that names days and months in the current language.
+  /// A new calendar of the platform, which names days and months in the current language. Never
+  /// null.
   [[nodiscard]] std::shared_ptr<platform::Calendar> currentCalendar() const;
 
   /// Whether the system is version 9.0.0 at least. Asked once in the life of the process.
@@ -182,6 +184,8 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] static platform::AffineTransform transformForRightToLeft(bool mirrored) noexcept;
 
   // ── State ──────────────────────────────────────────────────────────────────────────────────
+  //
+  // A setter replaces this one property and posts nothing.
 
   /// Whether the first current identifier is of a right-to-left language.
   [[nodiscard]] bool rightToLeftOrientation() const noexcept { return rightToLeftOrientation_; }
@@ -206,6 +210,7 @@ class ORVANTA_EXPORT Localizer {
   }
   void setCurrentLanguageBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
+  /// The application's own bundle, taken from the platform when this localizer was made.
   [[nodiscard]] const std::shared_ptr<platform::Bundle>& mainBundle() const noexcept
       ORVANTA_LIFETIME_BOUND {
     return mainBundle_;

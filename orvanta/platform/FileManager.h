@@ -18,13 +18,14 @@
 
 namespace orvanta::platform {
 
+/// What is found at a path; `missing` when nothing is.
 enum class ItemKind { missing, file, directory, symbolicLink, other };
 
 /// Tells one state of a file from another without reading it: a file that was replaced, grew or
 /// was written to again has another stamp.
 struct FileStamp {
-  std::uint64_t device;
-  std::uint64_t item;
+  std::uint64_t device;                  ///< The device that holds the file.
+  std::uint64_t item;                    ///< The file's number on it.
   std::uint64_t size;                    ///< In bytes.
   std::int64_t modificationNanoseconds;  ///< Since the epoch.
 
@@ -55,6 +56,7 @@ class ORVANTA_EXPORT FileManager {
   /// not be there yet. Absent when there is no such place.
   [[nodiscard]] virtual URL cachesDirectoryURL() = 0;
 
+  /// Whether `path` leads to anything, links followed.
   [[nodiscard]] virtual bool fileExistsAtPath(const String& path) = 0;
   /// What is at `path` itself: a symbolic link is not followed.
   [[nodiscard]] virtual ItemKind itemKindAtPath(const String& path) = 0;
@@ -71,6 +73,7 @@ class ORVANTA_EXPORT FileManager {
   /// The description of a failure names the item.
   virtual Status removeItemAtURL(const URL& url) = 0;
 
+  /// What `contentsOfDirectoryAtURL` gives.
   struct Contents {
     std::vector<URL> entries;  ///< Empty unless `status` is ok.
     Status status;
@@ -78,6 +81,7 @@ class ORVANTA_EXPORT FileManager {
   /// The entries of a folder, hidden ones included, not those of its sub-folders.
   [[nodiscard]] virtual Contents contentsOfDirectoryAtURL(const URL& url) = 0;
 
+  /// Called with each entry.
   using EntryVisitor = std::function<void(const URL& entry, bool isDirectory)>;
   /// Visits everything below a folder, at any depth, but not what is hidden (its name begins with
   /// ".") nor what is below something hidden. Symbolic links are not followed and count as files.

@@ -19,6 +19,7 @@ class ORVANTA_EXPORT Folder {
  public:
   virtual ~Folder();
 
+  /// What `openFolder` gives.
   struct Opening {
     std::unique_ptr<Folder> folder;  ///< Null unless `status` is ok.
     Status status;
@@ -28,10 +29,12 @@ class ORVANTA_EXPORT Folder {
   /// Makes a sub-folder; fails when there is an entry of that name.
   virtual Status createFolder(const String& name) = 0;
 
+  /// One entry of the folder.
   struct Entry {
-    String name;
+    String name;       ///< Within the folder.
     bool isDirectory;  ///< False for a symbolic link to one.
   };
+  /// What `list` gives.
   struct Listing {
     std::vector<Entry> entries;  ///< Empty unless `status` is ok.
     Status status;
@@ -39,6 +42,7 @@ class ORVANTA_EXPORT Folder {
   /// All entries, hidden ones included, in the file system's order.
   [[nodiscard]] virtual Listing list() = 0;
 
+  /// What `createFile` gives.
   struct Creation {
     std::unique_ptr<WritableFile> file;  ///< Null unless `status` is ok.
     Status status;

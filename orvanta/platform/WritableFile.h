@@ -12,6 +12,7 @@ class ORVANTA_EXPORT WritableFile : public strings::ByteSink {
   ~WritableFile() override;
   /// Succeeds once what was written would survive a loss of power.
   virtual Status sync() = 0;
+  /// Ends the writing. Later operations fail.
   virtual Status close() = 0;
 
  protected:

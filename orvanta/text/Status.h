@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include <orvanta/text/LifetimeBound.h>
 #include <orvanta/text/String.h>
 
 namespace orvanta {
@@ -17,6 +18,7 @@ class [[nodiscard]] Status {
   Status(int code, String localizedDescription) noexcept
       : failed_(true), code_(code), localizedDescription_(std::move(localizedDescription)) {}
 
+  /// Whether the operation succeeded.
   [[nodiscard]] bool ok() const noexcept { return !failed_; }
   /// Whether it failed with this error.
   [[nodiscard]] bool is(std::errc error) const noexcept {
@@ -29,10 +31,10 @@ class [[nodiscard]] Status {
            is(std::errc::not_enough_memory);
   }
 
-  /// 0 on success.
+  /// The system's error number; 0 on success.
   [[nodiscard]] int code() const noexcept { return code_; }
-  /// Absent on success.
-  [[nodiscard]] const String& localizedDescription() const noexcept {
+  /// What to tell people; absent on success.
+  [[nodiscard]] const String& localizedDescription() const noexcept ORVANTA_LIFETIME_BOUND {
     return localizedDescription_;
   }
 
