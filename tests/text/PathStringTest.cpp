@@ -20,6 +20,8 @@ const PathRow kPathRows[] = {
     {"/a/x..strings", "x..strings", "/a", "/a/x."},
     {"/top", "top", "/", "/top"},
     {"/", "/", "/", "/"},
+    {"//", "/", "/", "/"},
+    {"a/", "a", "", "a"},
     {"plain", "plain", "", "plain"},
     {"", "", "", ""},
     {"file:///a/b%20c/T.strings", "T.strings", "file:///a/b%20c", "file:///a/b%20c/T"},
