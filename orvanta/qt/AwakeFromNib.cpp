@@ -1,22 +1,31 @@
 #include <QWidget>
 
 #include <orvanta/qt/AwakeFromNib.h>
+#include <orvanta/qt/FormBindings.h>
 #include <orvanta/qt/LocalizedWidget.h>
 
 namespace orvanta::qt {
 
-void awakeFromNib(QWidget* root) {
-  if (root == nullptr) {
-    return;
-  }
-  // A child inherits its parent's font: it takes its designed one before the parent has another.
+namespace {
+
+// A child inherits its parent's font: it takes its designed one before the parent has another.
+void awaken(QWidget* root) {
   const QList<QWidget*> children =
       root->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   for (QWidget* child : children) {
-    awakeFromNib(child);
+    awaken(child);
   }
   if (auto* localized = dynamic_cast<LocalizedWidget*>(root)) {
     localized->awakeFromNib();
+  }
+}
+
+}  // namespace
+
+void awakeFromNib(QWidget* root) {
+  if (root != nullptr) {
+    awaken(root);
+    bindForm(*root);
   }
 }
 

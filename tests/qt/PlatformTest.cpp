@@ -10,7 +10,7 @@
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/qt/platform/QtFonts.h>
-#include <orvanta/standard/StandardFonts.h>
+#include <orvanta/standard/StandardPlatform.h>
 
 #include "Support.h"
 #include "tests/support/TestApplication.h"
@@ -111,7 +111,8 @@ class PlatformTest : public QObject {
     }
     // A font that is not Qt's.
     for (const double weight : {kFontWeightRegular, kFontWeightBold}) {
-      const auto other = orvanta::standard::makeStandardFonts()->systemFontOfSize(13, weight);
+      const auto other =
+          orvanta::standard::makeStandardPlatform().fonts->systemFontOfSize(13, weight);
       const QFont font = orvanta::qt::toQFont(
           other->fontWithSymbolicTraits(other->symbolicTraits() | kItalicTrait));
       QCOMPARE(font.family(), u"System"_s);

@@ -16,6 +16,7 @@ namespace orvanta::test {
 [[nodiscard]] std::unique_ptr<QObject> makePlatformTest();
 [[nodiscard]] std::unique_ptr<QObject> makeWidgetsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeRepaintTest();
+[[nodiscard]] std::unique_ptr<QObject> makeBindingsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeButtonsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeFontsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();

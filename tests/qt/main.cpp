@@ -62,8 +62,9 @@ int main(int argc, char** argv) {
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
   int failures = 0;
   for (const auto& make : {orvanta::test::makePlatformTest, orvanta::test::makeWidgetsTest,
-                           orvanta::test::makeFontsTest, orvanta::test::makeButtonsTest,
-                           orvanta::test::makeRepaintTest, orvanta::test::makeOrderWindowTest}) {
+                           orvanta::test::makeFontsTest, orvanta::test::makeBindingsTest,
+                           orvanta::test::makeButtonsTest, orvanta::test::makeRepaintTest,
+                           orvanta::test::makeOrderWindowTest}) {
     failures += QTest::qExec(make().get(), QStringList(QString::fromLocal8Bit(argv[0])));
   }
   return failures == 0 ? 0 : 1;

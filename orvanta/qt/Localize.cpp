@@ -1,0 +1,53 @@
+#include <QMetaProperty>
+#include <QVariant>
+#include <utility>
+
+#include <orvanta/locale/Localizer.h>
+#include <orvanta/qt/Localize.h>
+#include <orvanta/qt/Text.h>
+#include <orvanta/qt/TextBindings.h>
+
+namespace orvanta::qt {
+
+namespace {
+
+TextBindings::Text translationOf(const QString& key) {
+  return [key = fromQString(key)] {
+    return toQString(Localizer::sharedLocalizer().localizedStringForKey(key));
+  };
+}
+
+bool canBeWritten(const QObject& object, const char* property) {
+  const QMetaObject& type = *object.metaObject();
+  const int index = type.indexOfProperty(property);
+  return index >= 0 && type.property(index).isWritable() &&
+         type.property(index).metaType() == QMetaType::fromType<QString>();
+}
+
+}  // namespace
+
+void localize(QObject* object, const QByteArray& name, std::function<void(const QString&)> set,
+              const QString& key) {
+  if (key.isEmpty()) {
+    TextBindings::shared().unbind(object, name);
+  } else {
+    TextBindings::shared().bind(object, name, translationOf(key), std::move(set));
+  }
+}
+
+void localize(QObject* object, std::function<void(const QString&)> set, const QString& key) {
+  TextBindings::shared().bind(object, {}, translationOf(key), std::move(set));
+}
+
+bool localize(QObject* object, const char* property, const QString& key) {
+  if (object == nullptr || !canBeWritten(*object, property)) {
+    return false;
+  }
+  const QByteArray name(property);
+  localize(
+      object, name,
+      [object, name](const QString& text) { object->setProperty(name.constData(), text); }, key);
+  return true;
+}
+
+}  // namespace orvanta::qt

@@ -1,0 +1,149 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolBox>
+#include <memory>
+
+#include <orvanta/qt/AwakeFromNib.h>
+#include <orvanta/qt/FormLoader.h>
+#include <orvanta/qt/Localize.h>
+
+#include "Support.h"
+#include "ui_bindings.h"
+
+using namespace Qt::StringLiterals;
+using orvanta::qt::localize;
+using orvanta::test::speak;
+
+namespace {
+
+// What a form's objects say, one line each.
+QStringList textsOf(const QWidget& form) {
+  const auto* combo = form.findChild<QComboBox*>();
+  const auto* tabs = form.findChild<QTabWidget*>();
+  const auto* field = form.findChild<QLineEdit*>(u"field"_s);
+  return {form.windowTitle(),
+          field->placeholderText(),
+          field->toolTip(),
+          form.findChild<QCheckBox*>()->text(),
+          form.findChild<QGroupBox*>()->title(),
+          combo->itemText(0),
+          combo->itemText(1),
+          combo->itemText(2),
+          tabs->tabText(0),
+          tabs->tabText(1),
+          form.findChild<QToolBox*>()->itemText(0),
+          form.findChild<QAction*>()->text()};
+}
+
+const QStringList kEnglish = {
+    u"Your cart"_s, u"Email"_s,          u"Type the email address of your account"_s,
+    u"Designed"_s,  u"Your favorites"_s, u"Tea"_s,
+    u"no key"_s,    u"Orange juice"_s,   u"Sign in"_s,
+    u"Your cart"_s, u"Place order"_s,    u"Language"_s};
+
+const QStringList kGerman = {
+    u"Ihr Warenkorb"_s, u"E-Mail"_s,         u"Geben Sie die E-Mail-Adresse Ihres Kontos ein"_s,
+    u"Designed"_s,      u"Ihre Favoriten"_s, u"Tee"_s,
+    u"no key"_s,        u"Orangensaft"_s,    u"Anmelden"_s,
+    u"Ihr Warenkorb"_s, u"Bestellen"_s,      u"Sprache"_s};
+
+}  // namespace
+
+class BindingsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  static void init() { QVERIFY(speak(u"en"_s)); }
+
+  static void bindsWhatAFormNames() {
+    QTest::ignoreMessage(QtWarningMsg, "ovNoSuchProperty of field names no text property.");
+    const std::unique_ptr<QWidget> loaded(
+        orvanta::qt::FormLoader().load(QStringLiteral(BINDINGS_FORM)));
+    QWidget compiled;
+    Ui::Bindings ui;
+    ui.setupUi(&compiled);
+    QTest::ignoreMessage(QtWarningMsg, "ovNoSuchProperty of field names no text property.");
+    orvanta::qt::awakeFromNib(&compiled);
+    for (QWidget* form : {loaded.get(), &compiled}) {
+      QVERIFY(speak(u"de"_s));
+      QCOMPARE(textsOf(*form), kGerman);
+      // An item keeps its key when it moves.
+      auto* combo = form->findChild<QComboBox*>();
+      combo->insertItem(0, u"inserted"_s);
+      QVERIFY(speak(u"en"_s));
+      QCOMPARE(combo->itemText(0), u"inserted"_s);
+      combo->removeItem(0);
+      QCOMPARE(textsOf(*form), kEnglish);
+      form->findChild<QAction*>()->setText(u"overwritten"_s);
+      orvanta::qt::awakeFromNib(form);
+      QCOMPARE(textsOf(*form), kEnglish);
+    }
+  }
+
+  static void bindsInCode() {
+    QAction action;
+    QLabel label;
+    QVERIFY(localize(&action, "text", u"signin.title"_s));
+    localize(&action, &QAction::setToolTip, u"order.title"_s);
+    localize(&label, &QLabel::setText, u"order.total"_s);
+    localize(
+        &label, [&label](const QString& text) { label.setToolTip(u'<' + text + u'>'); },
+        u"order.title"_s);
+    QVERIFY(!localize(&label, "nothing", u"order.title"_s));
+    QVERIFY(!localize(&label, "margin", u"order.title"_s));
+    QVERIFY(!localize(nullptr, "text", u"order.title"_s));
+    QVERIFY(!label.property("nothing").isValid());
+    QCOMPARE(action.text(), u"Sign in"_s);
+    QCOMPARE(label.toolTip(), u"<Your cart>"_s);
+    QVERIFY(speak(u"de"_s));
+    QCOMPARE(action.text(), u"Anmelden"_s);
+    QCOMPARE(action.toolTip(), u"Ihr Warenkorb"_s);
+    QCOMPARE(label.text(), u"Summe: 12,50 €"_s);
+    QCOMPARE(label.toolTip(), u"<Ihr Warenkorb>"_s);
+
+    // In place of the earlier ones; a null key leaves the text.
+    localize(&action, "text", u"no.such.key"_s);
+    localize(&action, &QAction::setToolTip, {});
+    QSignalSpy changes(&action, &QAction::changed);
+    QVERIFY(speak(u"fr"_s));
+    QCOMPARE(action.text(), u"no.such.key"_s);
+    QCOMPARE(action.toolTip(), u"Ihr Warenkorb"_s);
+    QCOMPARE(changes.size(), 0);
+  }
+
+  // Setters that bind and destroy while bindings are applied.
+  static void livesThroughChangesOfBindings() {
+    bool isArmed = false;
+    auto bound = std::make_unique<QLabel>();
+    auto self = std::make_unique<QObject>();
+    QLabel destroyer;
+    QLabel late;
+    QVERIFY(localize(bound.get(), "text", u"order.title"_s));
+    const auto destroy = [&](const QString&) {
+      if (isArmed) {
+        bound.reset();
+        self.reset();
+        localize(&late, "text", u"signin.title"_s);
+      }
+    };
+    localize(&destroyer, destroy, u"order.title"_s);
+    localize(self.get(), destroy, u"order.title"_s);
+    localize(self.get(), destroy, u"order.title"_s);
+    isArmed = true;
+    QVERIFY(speak(u"de"_s));
+    QVERIFY(bound == nullptr && self == nullptr);
+    QCOMPARE(late.text(), u"Anmelden"_s);
+    QVERIFY(speak(u"en"_s));
+    QCOMPARE(late.text(), u"Sign in"_s);
+  }
+};
+
+std::unique_ptr<QObject> orvanta::test::makeBindingsTest() {
+  return std::make_unique<BindingsTest>();
+}
+
+#include "BindingsTest.moc"
