@@ -32,7 +32,7 @@ SampledSearch::Window SampledSearch::windowAt(const char* bytes) noexcept {
 
 std::size_t SampledSearch::filterIndex(Window window) noexcept {
   constexpr Window kSpreading = 0x9E3779B97F4A7C15;  // Odd; 2^64 divided by the golden ratio.
-  return (window * kSpreading) >> (64U - kFilterBits);
+  return static_cast<std::size_t>((window * kSpreading) >> (64U - kFilterBits));
 }
 
 // 0 when the window at `bytes` stands in no pattern.
