@@ -30,6 +30,10 @@ Components componentsOf(std::string_view path) {
   return components;
 }
 
+// Bounds the folders that a single name makes, each of which costs a sync and a place in every
+// listing of the cache.
+constexpr std::size_t kMostFolders = 16;
+
 CachePath refused(int code, String reason) {
   return {Status(code, std::move(reason)), {}, {}};
 }
@@ -59,6 +63,9 @@ CachePath cachePathOf(const URL& file, const URL& cacheFolder) {
   if (filePath.isAbsent() || folderPath.isAbsent() || whole.size() < outer.size() + 2 ||
       !std::equal(outer.begin(), outer.end(), whole.begin())) {
     return refused(EPERM, "the file would not be inside the cache folder"_s);
+  }
+  if (whole.size() - outer.size() - 1 > kMostFolders) {
+    return refused(ENAMETOOLONG, "the language's name has too many parts"_s);
   }
   CachePath path;
   path.folders.assign(whole.begin() + static_cast<std::ptrdiff_t>(outer.size()), whole.end() - 1);
