@@ -68,8 +68,10 @@ TEST(SoundStatements, PassesOverTheUsualOnes) {
 }
 
 TEST(SoundStatements, TakesNoTornUnitForTheEnd) {
+  // On the heap: GCC 12 sees reads beyond the end of a literal that are never reached.
+  const std::string bytes = test::unitsOf(test::kUtf16Little, std::string(20, '\n')) + '\n';
   SoundStatements<TextUnits<TextEncoding::kUtf16Little>> statements{
-      TextUnits<TextEncoding::kUtf16Little>({"\n\0\n", 3})};
+      TextUnits<TextEncoding::kUtf16Little>(bytes)};
   EXPECT_FALSE(statements.next());
   EXPECT_FALSE(statements.isAtEnd());
 }
