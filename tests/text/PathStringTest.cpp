@@ -17,6 +17,8 @@ const PathRow kPathRows[] = {
     {"/a/zh-Hant.lproj/", "zh-Hant.lproj", "/a", "/a/zh-Hant"},
     {"/a/b.d/plain", "plain", "/a/b.d", "/a/b.d/plain"},
     {"/a/.hidden", ".hidden", "/a", "/a/.hidden"},
+    {"a.b", "a.b", "", "a"},
+    {"/a/b.", "b.", "/a", "/a/b."},
     {"/a/x..strings", "x..strings", "/a", "/a/x."},
     {"/top", "top", "/", "/top"},
     {"/", "/", "/", "/"},
@@ -40,6 +42,10 @@ TEST(PathString, TakesTextsApart) {
     EXPECT_EQ(path::stringByDeletingLastPathComponent(row.text), row.parent);
     EXPECT_EQ(path::stringByDeletingPathExtension(row.text), row.withoutExtension);
   }
+  const String plain = "/a/plain";
+  EXPECT_TRUE(path::stringByDeletingPathExtension(plain).isSameObject(plain));
+  EXPECT_EQ(path::stringByAppendingPathComponent("/a", "b"), "/a/b");
+  EXPECT_EQ(path::stringByAppendingPathComponent("/a/", "b"), "/a/b");
   EXPECT_TRUE(path::lastPathComponent({}).isAbsent());
   EXPECT_TRUE(path::stringByDeletingLastPathComponent({}).isAbsent());
   EXPECT_TRUE(path::stringByDeletingPathExtension({}).isAbsent());

@@ -61,7 +61,8 @@ TEST(StringsPayload, IsBuiltCopiedAndMovedAsAValue) {
   EXPECT_EQ(flattened(copy), kSmall);
   payload = std::move(copy);
   EXPECT_EQ(flattened(payload), kSmall);
-  StringsPayload text = "text";
+  StringsPayload text;
+  text = StringsPayload("text");
   EXPECT_TRUE(text.isText() && text.text() == "text");
   text.add("k", text);
   EXPECT_TRUE(text.isDictionary() && text.text().isAbsent());
