@@ -61,9 +61,24 @@ const Measurement* contenderNamed(const std::vector<Measurement>& measurements,
   return found == measurements.end() ? nullptr : &*found;
 }
 
-double ratioOf(const Measurement& measurement, const std::vector<Measurement>& row) {
-  const Measurement* floor = contenderNamed(row, kFloor);
-  return floor == nullptr ? 0 : costOf(measurement) / costOf(*floor);
+// What ratios are made to: the floor, or the cheapest peer.
+double referenceCost(const Row& row, const std::vector<Measurement>& measurements) {
+  const Measurement* floor = contenderNamed(measurements, kFloor);
+  double least = floor == nullptr ? 0 : costOf(*floor);
+  for (const Measurement& peer : measurements) {
+    if (floor == nullptr && peer.contender != kOurs && peer.contender != row.base) {
+      least = least == 0 ? costOf(peer) : std::min(least, costOf(peer));
+    }
+  }
+  return least;
+}
+
+double ratioOf(const Measurement& measurement, const Row& row,
+               const std::vector<Measurement>& measurements) {
+  const Measurement* base = contenderNamed(measurements, row.base);
+  const double offset = base == nullptr ? 0 : costOf(*base);
+  const double reference = referenceCost(row, measurements) - offset;
+  return reference <= 0 ? 0 : (costOf(measurement) - offset) / reference;
 }
 
 std::string goalOf(const Row& row) {
@@ -88,7 +103,7 @@ void Report::printTable(std::ostream& out) const {
   for (const auto& [row, measurements] : results_) {
     for (const Measurement& measurement : measurements) {
       const bool isMemory = measurement.bytes > 0;
-      const double ratio = ratioOf(measurement, measurements);
+      const double ratio = ratioOf(measurement, row, measurements);
       const bool hasGoal = row.goal && measurement.contender == kOurs && ratio > 0;
       out << "| " << row.name << " | " << measurement.contender << " | "
           << (isMemory ? asBytes(measurement.bytes) : asTime(measurement.median)) << " | "
@@ -126,7 +141,7 @@ void Report::writeJson(const std::filesystem::path& file) const {
           << measurement.contender << R"(", "median_ns": )" << measurement.median
           << R"(, "min_ns": )" << measurement.least << R"(, "max_ns": )" << measurement.most
           << R"(, "allocs": )" << measurement.allocations << R"(, "ratio": )"
-          << ratioOf(measurement, measurements);
+          << ratioOf(measurement, row, measurements);
       if (measurement.bytes > 0) {
         out << R"(, "bytes": )" << measurement.bytes;
       }

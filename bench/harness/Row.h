@@ -41,7 +41,10 @@ struct Row {
   /// the one before it left.
   bool warmUp = false;
   std::optional<double> goal = {};  ///< The ratio that we are to reach.
-  bool mayAllocate = true;          ///< Otherwise no allocation is part of the goal.
+  /// A contender that does nothing but what all of them must: its cost is taken off every other
+  /// one's before a ratio is made. The ratio of a row without a floor is to its fastest peer.
+  std::string base = {};
+  bool mayAllocate = true;  ///< Otherwise no allocation is part of the goal.
   std::optional<Amount> amount = {};
   std::vector<Contender> contenders = {};
 };

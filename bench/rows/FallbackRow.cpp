@@ -14,6 +14,9 @@ constexpr std::size_t kStrings = 10'000;
 }  // namespace
 
 void fallbackRow(Bench& bench) {
+  if (!bench.isWanted("fallback")) {
+    return;
+  }
   const ScratchFolder folder = bench.folder("fallback");
   const auto keys = makeKeys(2 * kStrings);
   const Table french = makeTable(languageNamed("fr"), {keys.begin(), keys.begin() + kStrings});

@@ -53,6 +53,9 @@ class HitApplication {
 }  // namespace
 
 void hitRows(Bench& bench) {
+  if (!bench.isWanted("hit")) {
+    return;
+  }
   const ScratchFolder folder = bench.folder("hit");
   HitApplication application(folder.path(), kStrings);
   gettext::makeCatalog(folder.path(), "fr", "hit", application.table());
@@ -80,6 +83,9 @@ void hitSizeRows(Bench& bench) {
   };
   for (const Size& size : {Size{"hit-1k", 1'000, 50, 41}, Size{"hit-100k", 100'000, 1, 31},
                            Size{"hit-1m", 1'000'000, 1, 15}}) {
+    if (!bench.isWanted(size.name)) {
+      continue;
+    }
     const ScratchFolder folder = bench.folder(size.name);
     HitApplication application(folder.path(), size.strings);
     Row row = application.row(size.name, 0.8);

@@ -172,7 +172,7 @@ void loadRow(Bench& bench, const Loading& loading) {
     application.ship(language, table, loading.form);
     bytes += std::filesystem::file_size(application.tableFile(language));
   }
-  Row row{.name = loading.name, .operations = tables.size(), .goal = loading.goal};
+  Row row{.name = loading.name, .operations = tables.size(), .samples = 41, .goal = loading.goal};
   row.amount = Amount{static_cast<double>(bytes) / static_cast<double>(tables.size()) / 1000, "kB"};
   row.contenders = {loadFloor(folder.path(), tables), loadOurs(application, tables)};
   if (loading.hasPeers) {
@@ -187,12 +187,20 @@ void loadRow(Bench& bench, const Loading& loading) {
 void loadRows(Bench& bench) {
   for (const Loading& loading : {
            Loading{.name = "load-utf16", .form = textFormUtf16, .goal = 0.85, .hasPeers = true},
-           Loading{.name = "load-utf16-half", .form = textFormUtf16, .strings = 5'000},
-           Loading{.name = "load-utf16-quarter", .form = textFormUtf16, .strings = 2'500},
            Loading{.name = "load-utf8", .form = textFormUtf8, .goal = 0.5},
            Loading{.name = "load-binary", .form = binaryPropertyList, .goal = 0.7},
+           Loading{.name = "load-5k", .form = textFormUtf16, .strings = 5'000, .goal = 0.85},
+           Loading{.name = "load-5k-utf8", .form = textFormUtf8, .strings = 5'000, .goal = 0.6},
+           Loading{.name = "load-2500", .form = textFormUtf16, .strings = 2'500, .goal = 0.85},
+           Loading{.name = "load-2500-utf8", .form = textFormUtf8, .strings = 2'500, .goal = 0.6},
+           Loading{.name = "load-1k", .form = textFormUtf16, .strings = 1'000, .goal = 0.85},
+           Loading{.name = "load-1k-utf8", .form = textFormUtf8, .strings = 1'000, .goal = 0.6},
+           Loading{.name = "load-500", .form = textFormUtf16, .strings = 500, .goal = 0.85},
+           Loading{.name = "load-500-utf8", .form = textFormUtf8, .strings = 500, .goal = 0.6},
        }) {
-    loadRow(bench, loading);
+    if (bench.isWanted(loading.name)) {
+      loadRow(bench, loading);
+    }
   }
 }
 

@@ -21,8 +21,6 @@ namespace orvanta::bench {
 
 namespace {
 
-constexpr std::size_t kStrings = 10'000;
-
 // The bytes of the process's mappings of files below the folder.
 std::size_t mappedBytes(const std::filesystem::path& folder) {
   std::ifstream maps("/proc/self/maps");
@@ -88,11 +86,12 @@ double keptByIcu(const std::filesystem::path& folder, const LoadedTable& loaded)
   });
 }
 
-}  // namespace
-
-void memoryRow(Bench& bench) {
-  std::clog << "memory..." << std::endl;
-  const ScratchFolder folder = bench.folder("memory");
+void memoryRow(Bench& bench, const char* name, std::size_t strings) {
+  if (!bench.isWanted(name)) {
+    return;
+  }
+  std::clog << name << "..." << std::endl;
+  const ScratchFolder folder = bench.folder(name);
   const Application application(folder.path());
   std::vector<Measurement> measurements;
   const auto add = [&](std::string_view contender, double bytes) {
@@ -105,7 +104,7 @@ void memoryRow(Bench& bench) {
             : *found;
     measurement.bytes += bytes / static_cast<double>(kLoadedLanguages.size());
   };
-  for (const LoadedTable& loaded : makeLoadedTables(kStrings)) {
+  for (const LoadedTable& loaded : makeLoadedTables(strings)) {
     application.ship(loaded.language, loaded.table, textFormUtf16);
     add(kFloor, static_cast<double>(textBytes(loaded.table)));
     add(kOurs, keptByOurs(application, loaded));
@@ -113,7 +112,15 @@ void memoryRow(Bench& bench) {
     add("icu", keptByIcu(folder.path() / "icu", loaded));
     add("qt", keptByQt(folder.path(), loaded));
   }
-  bench.report().add({.name = "memory", .goal = 1.3}, std::move(measurements));
+  bench.report().add({.name = name, .goal = 1.3}, std::move(measurements));
+}
+
+}  // namespace
+
+void memoryRows(Bench& bench) {
+  memoryRow(bench, "memory", 10'000);
+  memoryRow(bench, "memory-2500", 2'500);
+  memoryRow(bench, "memory-500", 500);
 }
 
 }  // namespace orvanta::bench

@@ -14,7 +14,8 @@ void startupRows(Bench& bench);
 void switchRows(Bench& bench);
 void matchRows(Bench& bench);
 void updateRows(Bench& bench);
-void memoryRow(Bench& bench);
+void memoryRows(Bench& bench);
+void firstTextRow(Bench& bench);
 void switchQtRows(Bench& bench);
 
 }  // namespace orvanta::bench

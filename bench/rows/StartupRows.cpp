@@ -8,6 +8,7 @@
 
 #include "contenders/Application.h"
 #include "contenders/ReleasableBundles.h"
+#include "data/Configuration.h"
 #include "data/TableForms.h"
 #include "harness/Check.h"
 #include "rows/Rows.h"
@@ -23,13 +24,6 @@ enum class Entries { none, first, last, firstInSome };
 
 bool isConfigured(Entries entries, std::size_t language) {
   return entries == Entries::firstInSome ? language % 10 == 3 : entries != Entries::none;
-}
-
-Table makeConfiguration(const Language& language) {
-  const std::string name(language.name);
-  return {{std::string(OVOrvantaLanguageVersionKey), "17"},
-          {std::string(OVOrvantaLanguageAppleIDKey), name},
-          {std::string(OVOrvantaLanguageEquivalentsKey), name + "," + name + "-XX"}};
 }
 
 // Ours: the platform, the localizer, and with it the catalogue of all languages.

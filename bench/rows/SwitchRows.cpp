@@ -174,6 +174,9 @@ class QtSide {
 };
 
 void switchRow(Bench& bench, const char* name, std::size_t listeners, std::optional<double> goal) {
+  if (!bench.isWanted(name)) {
+    return;
+  }
   const ScratchFolder folder = bench.folder(name);
   const Languages languages(listeners);
   const Application application(folder.path());

@@ -23,7 +23,6 @@ namespace orvanta::bench {
 
 namespace {
 
-constexpr std::size_t kStrings = 10'000;
 constexpr const char* kTableFile = "Localizable.strings";
 
 void require(bool holds, const char* what) {
@@ -61,19 +60,24 @@ struct Download {
 };
 using Downloads = std::vector<Download>;
 
-Downloads makeDownloads(std::size_t languages) {
+// The first shipped languages, then regions of them.
+Downloads makeDownloads(std::size_t languages, std::size_t strings) {
+  const auto keys = makeKeys(strings);
+  const auto known = shippedLanguages();
   Downloads downloads;
-  for (const Language& language : shippedLanguages()) {
-    if (downloads.size() == languages) {
-      break;
+  for (std::size_t number = 0; number < languages; ++number) {
+    const Language& language = known[number % known.size()];
+    std::string name(language.name);
+    if (number >= known.size()) {
+      name += "-" + std::to_string(number / known.size());
     }
-    Table table = makeTable(language, makeKeys(kStrings));
+    Table table = makeTable(language, keys);
     for (Entry& entry : table) {
       // A downloaded value is source text, which is written as it is.
       std::replace(entry.value.begin(), entry.value.end(), '\n', ' ');
     }
     std::string bytes = textFormUtf16(table);
-    downloads.push_back({std::string(language.name), std::move(table), std::move(bytes)});
+    downloads.push_back({std::move(name), std::move(table), std::move(bytes)});
   }
   return downloads;
 }
@@ -151,15 +155,28 @@ Contender updateOurs(const Application& application, const Downloads& downloads)
   return {std::string(kOurs), check, round};
 }
 
-void updateRow(Bench& bench, std::size_t languages, Row row) {
-  const ScratchFolder folder = bench.folder(row.name);
-  const Downloads downloads = makeDownloads(languages);
+struct Update {
+  const char* name;
+  std::size_t languages;
+  std::size_t strings;
+  int samples;
+  double goal;
+  bool hasPeer = true;
+};
+
+void updateRow(Bench& bench, const Update& update) {
+  const ScratchFolder folder = bench.folder(update.name);
+  const Downloads downloads = makeDownloads(update.languages, update.strings);
   const Application application(folder.path());
   application.ship("en", makeTable(languageNamed("en"), makeKeys(1)), textFormUtf8);
   platform::Platform::install(application.makePlatform("en"));
+  Row row{.name = update.name, .samples = update.samples, .goal = update.goal};
+  row.amount = Amount{static_cast<double>(update.languages), "languages"};
   row.contenders = {updateEach(kFloor, folder.path() / "floor", downloads, replaceFile),
-                    updateOurs(application, downloads),
-                    updateEach("qt", folder.path() / "qt", downloads, replaceWithQt)};
+                    updateOurs(application, downloads)};
+  if (update.hasPeer) {
+    row.contenders.push_back(updateEach("qt", folder.path() / "qt", downloads, replaceWithQt));
+  }
   // What other rows wrote is not to be on its way to the disk meanwhile.
   sync();
   bench.run(std::move(row));
@@ -168,8 +185,13 @@ void updateRow(Bench& bench, std::size_t languages, Row row) {
 }  // namespace
 
 void updateRows(Bench& bench) {
-  updateRow(bench, 1, {.name = "update", .samples = 31, .goal = 1.2});
-  updateRow(bench, 40, {.name = "update-40", .samples = 7, .goal = 2.0});
+  for (const Update& update :
+       {Update{"update", 1, 10'000, 31, 1.25}, Update{"update-40", 40, 10'000, 7, 2.0},
+        Update{"update-2000", 2'000, 50, 3, 1.3, false}}) {
+    if (bench.isWanted(update.name)) {
+      updateRow(bench, update);
+    }
+  }
 }
 
 }  // namespace orvanta::bench

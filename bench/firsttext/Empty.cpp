@@ -1,0 +1,5 @@
+#include "firsttext/Answer.h"
+
+int main() {
+  orvanta::bench::answer("nothing");
+}
