@@ -116,10 +116,23 @@ void OrderWindow::showStatus(const char* key) {
 void OrderWindow::languageChanged() {
   fillLanguageMenu();
   localizeFields();
-  summaryLabel_->setText(toQString(
-      localizer_.stringWithLocalizedPunctuation(localizer_.localizedStringForKey("order.list"))));
+  showSummary();
   setWindowTitle(toQString(localizer_.localizedStringForKey("order.title")));
   showStatus("status.language");
+}
+
+// What is ordered, and in a line of its own how many things that are.
+void OrderWindow::showSummary() {
+  const orvanta::String list =
+      localizer_.stringWithLocalizedPunctuation(localizer_.localizedStringForKey("order.list"));
+  const orvanta::String count =
+      orvanta::localizedMessageForKey(localizer_, "order.items", {{"count", itemCount_}});
+  summaryLabel_->setText(toQString(list) + QLatin1Char('\n') + toQString(count));
+}
+
+void OrderWindow::setItemCount(int count) {
+  itemCount_ = count;
+  showSummary();
 }
 
 // A field without a text of its own has no key that its other texts could come along with.

@@ -26,6 +26,9 @@ class OrderWindow : public QWidget {
   /// `downloadsPath`: the JSON file that "download more languages" fetches.
   explicit OrderWindow(QString downloadsPath, QWidget* parent = nullptr);
 
+  /// How many things the summary says are ordered.
+  void setItemCount(int count);
+
  protected:
   bool event(QEvent* event) override;
 
@@ -36,10 +39,12 @@ class OrderWindow : public QWidget {
   void downloadLanguages();
   void showStatus(const char* key);
   void languageChanged();
+  void showSummary();
   void localizeFields();
 
   orvanta::Localizer& localizer_;
   QString downloadsPath_;
+  int itemCount_ = 7;
   orvanta::qt::LayoutDirectionFollower direction_;
   orvanta::qt::RepaintBatch batch_;
   orvanta::qt::LanguageChangeObserver observer_;

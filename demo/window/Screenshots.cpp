@@ -4,10 +4,13 @@
 #include <QDir>
 #include <QPainter>
 #include <QWidget>
+#include <algorithm>
 
 #include <orvanta/orvanta.h>
 #include <orvanta/qt/LanguageChangeObserver.h>
 #include <orvanta/qt/Text.h>
+
+#include "OrderWindow.h"
 
 namespace demo {
 
@@ -46,6 +49,33 @@ bool takeScreenshots(QWidget& window, const QString& folder, const QStringList& 
   }
   changeLanguage(before);
   return written;
+}
+
+QImage summariesIn(const QString& language, OrderWindow& window) {
+  changeLanguage({orvanta::qt::fromQString(language)});
+  auto* const summary = window.findChild<QWidget*>(QStringLiteral("summaryLabel"));
+  QList<QImage> images;
+  QSize size;
+  for (const int count : {0, 1, 2, 3, 11, 100}) {
+    window.setItemCount(count);
+    QCoreApplication::processEvents();
+    QImage image(summary->size() * kScale, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    image.setDevicePixelRatio(kScale);
+    summary->render(&image);
+    size = QSize(std::max(size.width(), image.width()), size.height() + image.height());
+    images << image;
+  }
+  QImage all(size, QImage::Format_RGB32);
+  all.fill(Qt::white);
+  QPainter painter(&all);
+  int top = 0;
+  for (QImage& image : images) {
+    image.setDevicePixelRatio(1);
+    painter.drawImage(QPoint(0, top), image);
+    top += image.height();
+  }
+  return all;
 }
 
 QImage sideBySide(QWidget& window, const QString& left, const QString& right) {

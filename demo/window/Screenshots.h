@@ -8,6 +8,8 @@ class QWidget;
 
 namespace demo {
 
+class OrderWindow;
+
 /// The window, drawn at twice its size in the language.
 [[nodiscard]] QImage screenshotIn(const QString& language, QWidget& window);
 
@@ -18,5 +20,8 @@ namespace demo {
 
 /// One picture of the window in two languages, side by side.
 [[nodiscard]] QImage sideBySide(QWidget& window, const QString& left, const QString& right);
+
+/// The window's summary of the order for counts of every plural form, one below the other.
+[[nodiscard]] QImage summariesIn(const QString& language, OrderWindow& window);
 
 }  // namespace demo

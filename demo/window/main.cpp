@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
   options.addOptions({
       {"screenshots", "Leave a picture of the window in five languages in <folder>.", "folder"},
       {"picture", "Leave a picture of the window in English and Arabic in <file>.", "file"},
+      {"summaries", "Leave pictures of the Arabic order in every plural form in <file>.", "file"},
       {"screenshots-only", "End instead of staying open."},
   });
   options.process(application);
@@ -39,6 +40,11 @@ int main(int argc, char** argv) {
   const QString picture = options.value("picture");
   if (!picture.isEmpty() && !demo::sideBySide(window, "en", "ar").save(picture)) {
     std::cerr << "The picture cannot be written to " << picture.toStdString() << ".\n";
+    return 1;
+  }
+  const QString summaries = options.value("summaries");
+  if (!summaries.isEmpty() && !demo::summariesIn("ar", window).save(summaries)) {
+    std::cerr << "The pictures cannot be written to " << summaries.toStdString() << ".\n";
     return 1;
   }
   return options.isSet("screenshots-only") ? 0 : QApplication::exec();

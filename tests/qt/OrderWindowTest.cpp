@@ -95,6 +95,18 @@ class OrderWindowTest : public QObject {
              std::string("order.placed"));
   }
 
+  void countsInEveryPluralForm() {
+    QVERIFY(speak(u"ar"_s));
+    const QString lines[] = {u"لم يُطلب أي صنف"_s, u"طُلب صنف واحد"_s, u"طُلب صنفان"_s,
+                             u"طُلبت ٣ أصناف"_s,   u"طُلب ١١ صنفًا"_s,  u"طُلب ١٠٠ صنف"_s};
+    const int counts[] = {0, 1, 2, 3, 11, 100};
+    for (std::size_t row = 0; row < std::size(counts); ++row) {
+      window_->setItemCount(counts[row]);
+      QCOMPARE(find<UILocalizedLabel>("summaryLabel")->text().section(u'\n', 1), lines[row]);
+    }
+    QVERIFY(speak(u"de"_s));
+  }
+
   void refreshesFromAWorkerThread() {
     auto* title = find<UILocalizedLabel>("orderTitle");
     title->setText(u"stale"_s);
