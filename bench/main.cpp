@@ -29,6 +29,7 @@ struct Family {
 constexpr Family kFamilies[] = {
     {"hit", bench::hitRows},
     {"fallback", bench::fallbackRow},
+    {"message", bench::messageRows},
     {"load", bench::loadRows},
     {"startup", bench::startupRows},
     {"switch", bench::switchRows},

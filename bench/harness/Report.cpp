@@ -82,11 +82,16 @@ double ratioOf(const Measurement& measurement, const Row& row,
 }
 
 std::string goalOf(const Row& row) {
-  return row.goal ? asNumber(*row.goal, 2) + (row.mayAllocate ? "" : ", no allocation") : "";
+  std::string goal = row.goal ? asNumber(*row.goal, 2) : "";
+  if (row.goal && row.mostAllocations) {
+    goal += *row.mostAllocations == 0 ? ", no allocation"
+                                      : ", allocations at most " + asCount(*row.mostAllocations);
+  }
+  return goal;
 }
 
 bool isMet(const Row& row, const Measurement& ours, double ratio) {
-  return ratio <= *row.goal && (row.mayAllocate || ours.allocations == 0);
+  return ratio <= *row.goal && (!row.mostAllocations || ours.allocations <= *row.mostAllocations);
 }
 
 }  // namespace

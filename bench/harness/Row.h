@@ -44,7 +44,7 @@ struct Row {
   /// A contender that does nothing but what all of them must: its cost is taken off every other
   /// one's before a ratio is made. The ratio of a row without a floor is to its fastest peer.
   std::string base = {};
-  bool mayAllocate = true;  ///< Otherwise no allocation is part of the goal.
+  std::optional<double> mostAllocations = {};  ///< For an operation; part of the goal.
   std::optional<Amount> amount = {};
   std::vector<Contender> contenders = {};
 };

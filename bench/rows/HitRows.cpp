@@ -32,10 +32,17 @@ class HitApplication {
 
   [[nodiscard]] Row row(std::string name, double goal) {
     Row row{.name = std::move(name), .operations = table_.size(), .warmUp = true, .goal = goal};
-    row.mayAllocate = false;
+    row.mostAllocations = 0;
     row.amount = Amount{static_cast<double>(table_.size()), "strings", false};
     row.contenders = {askMap(map_, questions_), askLocalizer(*localizer_, questions_),
                       askLocalizerWithViews(*localizer_, questions_)};
+    return row;
+  }
+
+  /// The same asked of a snapshot.
+  [[nodiscard]] Row snapshotRow(std::string name, double goal) {
+    Row row = this->row(std::move(name), goal);
+    row.contenders = {askMap(map_, questions_), askSnapshot(texts(*localizer_), questions_)};
     return row;
   }
 
@@ -72,6 +79,11 @@ void hitRows(Bench& bench) {
   row.contenders.push_back(askIcu(bundle.get(), application.questions()));
   row.contenders.push_back(askQt(*translator, nullptr, application.questions()));
   bench.run(row);
+
+  Row snapshot = application.snapshotRow("snapshot-hit", 0.7);
+  snapshot.passes = row.passes;
+  snapshot.samples = row.samples;
+  bench.run(snapshot);
 }
 
 void hitSizeRows(Bench& bench) {

@@ -1,5 +1,7 @@
 #include "rows/LookUps.h"
 
+#include <utility>
+
 #include <libintl.h>
 
 namespace orvanta::bench {
@@ -30,6 +32,15 @@ Contender askLocalizerWithViews(Localizer& localizer, const Questions& questions
       "orvanta-view", questions,
       [&localizer, keys = questions.views.data()](std::size_t at) {
         return localizer.localizedStringForKey(keys[at]);
+      },
+      textOfHandle);
+}
+
+Contender askSnapshot(TextSnapshot snapshot, const Questions& questions) {
+  return askingAll(
+      std::string(kOurs), questions,
+      [snapshot = std::move(snapshot), keys = questions.handles.data()](std::size_t at) {
+        return snapshot.localizedStringForKey(keys[at]);
       },
       textOfHandle);
 }

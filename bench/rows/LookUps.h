@@ -1,6 +1,7 @@
 #pragma once
 
 #include <orvanta/locale/Localizer.h>
+#include <orvanta/messages/TextSnapshot.h>
 
 #include "contenders/ArenaMap.h"
 #include "contenders/Icu.h"
@@ -15,6 +16,9 @@ Contender askLocalizer(Localizer& localizer, const Questions& questions);
 
 /// Asks it with views, as an application does that has its keys in literals.
 Contender askLocalizerWithViews(Localizer& localizer, const Questions& questions);
+
+/// Asks a snapshot of it with handles.
+Contender askSnapshot(TextSnapshot snapshot, const Questions& questions);
 
 /// Asks a map, and a second one for what the first lacks, if one is given.
 Contender askMap(const ArenaMap& map, const Questions& questions);

@@ -8,6 +8,7 @@ namespace orvanta::bench {
 void hitRows(Bench& bench);
 void hitSizeRows(Bench& bench);
 void hitThreadedRow(Bench& bench);
+void messageRows(Bench& bench);
 void fallbackRow(Bench& bench);
 void loadRows(Bench& bench);
 void startupRows(Bench& bench);
