@@ -45,7 +45,7 @@ OrderWindow::OrderWindow(QString downloadsPath, QWidget* parent)
   connectActions();
   fillLanguageMenu();
   languageChanged();
-  resize(940, 580);
+  resize(940, 640);
 }
 
 // Layouts do not count the lines of wrapped labels in the least height of a window.
