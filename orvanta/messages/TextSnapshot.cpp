@@ -62,6 +62,10 @@ String TextSnapshot::localizedStringForKey(std::string_view key) const {
   return found.source == TextSource::key ? String(key) : std::move(found.text);
 }
 
+String TextSnapshot::textForKey(std::string_view key) const {
+  return content_ == nullptr ? String() : content_->find(HashedKey(key), 0).text;
+}
+
 String TextSnapshot::localizedMessageForKey(std::string_view key,
                                             const MessageArguments& arguments) const {
   return content_ == nullptr || content_->isEmpty

@@ -31,6 +31,8 @@ class ORVANTA_EXPORT TextSnapshot {
   [[nodiscard]] String localizedStringForKey(const char* key) const {
     return key == nullptr ? String() : localizedStringForKey(std::string_view(key));
   }
+  /// What `localizedStringForKey` finds in a table; absent where it would give the key itself.
+  [[nodiscard]] String textForKey(std::string_view key) const;
   [[nodiscard]] String localizedMessageForKey(std::string_view key,
                                               const MessageArguments& arguments) const;
   [[nodiscard]] String localizedStringWithFormat(std::string_view key,

@@ -20,6 +20,7 @@ namespace orvanta::test {
 [[nodiscard]] std::unique_ptr<QObject> makeButtonsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeFontsTest();
 [[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();
+[[nodiscard]] std::unique_ptr<QObject> makeTranslatorTest();
 
 /// Whether a step ran that was queued before there was an application object.
 inline bool earlyStepRan = false;

@@ -64,7 +64,7 @@ int main(int argc, char** argv) {
   for (const auto& make : {orvanta::test::makePlatformTest, orvanta::test::makeWidgetsTest,
                            orvanta::test::makeFontsTest, orvanta::test::makeBindingsTest,
                            orvanta::test::makeButtonsTest, orvanta::test::makeRepaintTest,
-                           orvanta::test::makeOrderWindowTest}) {
+                           orvanta::test::makeOrderWindowTest, orvanta::test::makeTranslatorTest}) {
     failures += QTest::qExec(make().get(), QStringList(QString::fromLocal8Bit(argv[0])));
   }
   return failures == 0 ? 0 : 1;
