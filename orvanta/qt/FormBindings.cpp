@@ -5,10 +5,9 @@
 #include <algorithm>
 #include <utility>
 
-#include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/FormBindings.h>
 #include <orvanta/qt/Localize.h>
-#include <orvanta/qt/Text.h>
+#include <orvanta/qt/Messages.h>
 #include <orvanta/qt/TextBindings.h>
 
 namespace orvanta::qt {
@@ -23,12 +22,8 @@ constexpr auto kIsBound = "_orvanta_isBound";
 constexpr int kKeyRole = Qt::UserRole + 0x6F76;
 constexpr auto kItemKey = "_orvanta_itemKey";
 
-QString translation(const QString& key) {
-  return toQString(Localizer::sharedLocalizer().localizedStringForKey(fromQString(key)));
-}
-
 bool isKey(const QString& text) {
-  return !text.isEmpty() && !translation(text).isEmpty() && translation(text) != text;
+  return !text.isEmpty() && !localizedText(text).isEmpty() && localizedText(text) != text;
 }
 
 // "toolTip" of "ovToolTip"; empty for a name that is no such one.
@@ -62,7 +57,7 @@ void translateItems(QComboBox& box) {
   for (int at = 0; at < box.count(); ++at) {
     const QString key = box.itemData(at, kKeyRole).toString();
     if (!key.isEmpty()) {
-      box.setItemText(at, translation(key));
+      box.setItemText(at, localizedText(key));
     }
   }
 }
@@ -81,7 +76,7 @@ void translatePages(Pages& pages, void (Pages::*setText)(int, const QString&)) {
   for (int at = 0; at < pages.count(); ++at) {
     const QString key = pages.widget(at)->property(kItemKey).toString();
     if (!key.isEmpty()) {
-      (pages.*setText)(at, translation(key));
+      (pages.*setText)(at, localizedText(key));
     }
   }
 }

@@ -4,6 +4,7 @@
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/Localize.h>
+#include <orvanta/qt/Messages.h>
 #include <orvanta/qt/Text.h>
 #include <orvanta/qt/TextBindings.h>
 
@@ -11,10 +12,13 @@ namespace orvanta::qt {
 
 namespace {
 
-TextBindings::Text translationOf(const QString& key) {
-  return [key = fromQString(key)] {
-    return toQString(Localizer::sharedLocalizer().localizedStringForKey(key));
-  };
+TextBindings::Text translationOf(const QString& key, const QVariantMap& arguments) {
+  if (arguments.isEmpty()) {
+    return [key = fromQString(key)] {
+      return toQString(Localizer::sharedLocalizer().localizedStringForKey(key));
+    };
+  }
+  return [key, arguments] { return localizedMessage(key, arguments); };
 }
 
 bool canBeWritten(const QObject& object, const char* property) {
@@ -27,26 +31,29 @@ bool canBeWritten(const QObject& object, const char* property) {
 }  // namespace
 
 void localize(QObject* object, const QByteArray& name, std::function<void(const QString&)> set,
-              const QString& key) {
+              const QString& key, const QVariantMap& arguments) {
   if (key.isEmpty()) {
     TextBindings::shared().unbind(object, name);
   } else {
-    TextBindings::shared().bind(object, name, translationOf(key), std::move(set));
+    TextBindings::shared().bind(object, name, translationOf(key, arguments), std::move(set));
   }
 }
 
-void localize(QObject* object, std::function<void(const QString&)> set, const QString& key) {
-  TextBindings::shared().bind(object, {}, translationOf(key), std::move(set));
+void localize(QObject* object, std::function<void(const QString&)> set, const QString& key,
+              const QVariantMap& arguments) {
+  TextBindings::shared().bind(object, {}, translationOf(key, arguments), std::move(set));
 }
 
-bool localize(QObject* object, const char* property, const QString& key) {
+bool localize(QObject* object, const char* property, const QString& key,
+              const QVariantMap& arguments) {
   if (object == nullptr || !canBeWritten(*object, property)) {
     return false;
   }
   const QByteArray name(property);
   localize(
       object, name,
-      [object, name](const QString& text) { object->setProperty(name.constData(), text); }, key);
+      [object, name](const QString& text) { object->setProperty(name.constData(), text); }, key,
+      arguments);
   return true;
 }
 

@@ -115,6 +115,24 @@ class BindingsTest : public QObject {
     QCOMPARE(changes.size(), 0);
   }
 
+  static void bindsMessages() {
+    QLabel label;
+    const auto bind = [&label](const QVariant& count) {
+      localize(&label, "text", u"order.items"_s, {{u"count"_s, count}});
+    };
+    localize(&label, &QLabel::setToolTip, u"{0}, {1} and {name}"_s,
+             {{u"0"_s, 1.5}, {u"1"_s, QVariant()}, {u"name"_s, true}});
+    bind(1);
+    QCOMPARE(label.text(), u"1 item ordered"_s);
+    bind(2U);
+    QCOMPARE(label.text(), u"2 items ordered"_s);
+    bind(qint64(0));
+    QCOMPARE(label.text(), u"Nothing ordered yet"_s);
+    QCOMPARE(label.toolTip().remove(QChar(0x2068)).remove(QChar(0x2069)), u"1.5, {1} and true"_s);
+    QVERIFY(speak(u"ar"_s));
+    QCOMPARE(label.text(), u"لم يُطلب أي صنف"_s);
+  }
+
   // Setters that bind and destroy while bindings are applied.
   static void livesThroughChangesOfBindings() {
     bool isArmed = false;
