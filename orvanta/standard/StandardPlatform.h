@@ -12,24 +12,25 @@
 namespace orvanta::standard {
 
 /// What the standard platform is told about its application. Paths may be relative to the working
-/// directory at the time of the call.
+/// directory at the time of the call. Each member has an initializer, so that compilers do not warn
+/// of those that an application leaves out.
 struct StandardOptions {
   /// The main bundle's folder. Empty: the folder of the running executable.
-  std::string mainBundlePath;
+  std::string mainBundlePath{};
 
   /// The folder that holds, or will hold, the application's caches. Empty: a folder named after
   /// the executable in `$XDG_CACHE_HOME`, or in `~/.cache`.
-  std::string cachesPath;
+  std::string cachesPath{};
 
   /// The device's languages, best first. Absent: what `LANGUAGE`, `LC_ALL`, `LC_MESSAGES` and
   /// `LANG` say.
-  std::optional<std::vector<std::string>> deviceLanguages;
+  std::optional<std::vector<std::string>> deviceLanguages{};
 
   /// The version that the system reports. Absent: the running kernel's.
-  std::optional<platform::OperatingSystemVersion> systemVersion;
+  std::optional<platform::OperatingSystemVersion> systemVersion{};
 
   /// Takes each log message, on any thread. What it throws is dropped. Absent: standard error.
-  std::function<void(std::string_view message)> logSink;
+  std::function<void(std::string_view message)> logSink{};
 };
 
 /// The platform made of the C++ standard library and the system's files alone. Members that are

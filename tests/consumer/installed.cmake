@@ -21,3 +21,10 @@ string(STRIP "${output}" libdir)
 must_run(${COMPILER} -std=c++20 ${CMAKE_CURRENT_LIST_DIR}/main.cpp -o ${WORK_DIR}/pkg_consumer
          ${flags} -Wl,-rpath,${libdir})
 must_answer(${WORK_DIR}/pkg_consumer "${core_answer}")
+
+# The program that README.md shows, as it stands there.
+configure_and_build(${SOURCE_DIR}/examples/hello ${WORK_DIR}/hello ${find_options})
+file(READ ${SOURCE_DIR}/examples/hello/output.txt hello_answer)
+string(STRIP "${hello_answer}" hello_answer)
+set(ENV{LC_ALL} fr_FR.UTF-8)
+must_answer(${WORK_DIR}/hello/hello "${hello_answer}")
