@@ -254,18 +254,20 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] ORVANTA_HIDDEN Match match(const String& request) const;
   ORVANTA_HIDDEN void explainLocale(TextExplanation& explanation) const;
 
-  // The chain with English in it, where there is an English bundle. Null when there is no current
-  // bundle and the device's choice gives none.
-  [[nodiscard]] ORVANTA_HIDDEN const TextChain* chainForLookUp();
-  [[nodiscard]] ORVANTA_HIDDEN const TextChain* settleChain();
+  // Whether there is a chain to ask; with English in it, where there is an English bundle. False
+  // when there is no current bundle and the device's choice gives none.
+  [[nodiscard]] ORVANTA_HIDDEN bool hasChain();
+  [[nodiscard]] ORVANTA_HIDDEN bool settleChain();
   [[nodiscard]] ORVANTA_HIDDEN TextChain makeChain() const;
   ORVANTA_HIDDEN void resetChain() noexcept;
   [[nodiscard]] ORVANTA_HIDDEN std::shared_ptr<platform::Bundle> shippedBundleFor(
       const TextLink& link) const;
   // `key` is what becomes the result when no language has a text.
   template <typename Key>
-  [[nodiscard]] ORVANTA_HIDDEN String textOrKey(const TextChain& chain, std::string_view characters,
-                                                const Key& key) const;
+  [[nodiscard]] ORVANTA_HIDDEN String textOrKey(std::string_view characters, const Key& key) const;
+  template <typename Key>
+  [[nodiscard]] ORVANTA_HIDDEN String laterTextOrKey(const HashedKey& hashed, std::size_t link,
+                                                     const Key& key) const;
   ORVANTA_HIDDEN void reportFallback(std::string_view key, TextSource source) const;
 
   bool rightToLeftOrientation_ = false;

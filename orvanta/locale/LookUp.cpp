@@ -12,37 +12,59 @@ namespace orvanta {
 using platform::Bundle;
 
 String Localizer::localizedStringForKey(const String& key) {
-  const TextChain* chain = chainForLookUp();
-  return chain != nullptr && key.isPresent() ? textOrKey(*chain, key.view(), key) : String();
+  return hasChain() && key.isPresent() ? textOrKey(key.view(), key) : String();
 }
 
 String Localizer::localizedStringForKey(std::string_view key) {
-  const TextChain* chain = chainForLookUp();
-  return chain != nullptr ? textOrKey(*chain, key, key) : String();
+  return hasChain() ? textOrKey(key, key) : String();
 }
 
-// Inline for the benchmark's rows `hit` and `fallback`.
+// What `TextChain::find` gives, without a loop, a call or a virtual call where the first two links
+// have the text: the benchmark's rows `hit` and `fallback`.
 template <typename Key>
-[[gnu::always_inline]] inline String Localizer::textOrKey(const TextChain& chain,
-                                                          std::string_view characters,
+[[gnu::always_inline]] inline String Localizer::textOrKey(std::string_view characters,
                                                           const Key& key) const {
-  TextChain::Found found = chain.find(HashedKey(characters));
-  if (found.source >= TextSource::english && textObserver_ != nullptr) [[unlikely]] {
-    reportFallback(characters, found.source);
+  const HashedKey hashed(characters);
+  std::size_t link = 0;
+  if (const strings::StringTable* const table = chain_.loadedTable(0)) [[likely]] {
+    const std::string_view text = table->find(hashed);
+    if (text.data() != nullptr) [[likely]] {
+      return table->handleTo(text);
+    }
+    link = 1;
+    if (textObserver_ == nullptr) [[likely]] {
+      if (const strings::StringTable* const second = chain_.loadedTable(1)) [[likely]] {
+        const std::string_view next = second->find(hashed);
+        if (!next.empty()) [[likely]] {
+          return second->handleTo(next);
+        }
+      }
+    }
+  }
+  return laterTextOrKey(hashed, link, key);
+}
+
+// Where a table has to be read, no language has the text, or somebody wants to be told.
+template <typename Key>
+[[gnu::noinline]] String Localizer::laterTextOrKey(const HashedKey& hashed, std::size_t link,
+                                                   const Key& key) const {
+  TextChain::Found found = chain_.find(hashed, link);
+  if (found.source >= TextSource::english && textObserver_ != nullptr) {
+    reportFallback(hashed.text, found.source);
   }
   return found.source == TextSource::key ? String(key) : std::move(found.text);
 }
 
-inline const TextChain* Localizer::chainForLookUp() {
-  return chainIsComplete_ ? &chain_ : settleChain();
+inline bool Localizer::hasChain() {
+  return chainIsComplete_ || settleChain();
 }
 
-const TextChain* Localizer::settleChain() {
+bool Localizer::settleChain() {
   if (currentLanguageBundle_ == nullptr) {
     useDefaultLocale();
   }
   if (currentLanguageBundle_ == nullptr) {
-    return nullptr;
+    return false;
   }
   // Also when the current language has every text: the first look-up fixes the memo.
   const bool hasEnglish = defaultLocaleBundle() != nullptr;
@@ -50,11 +72,11 @@ const TextChain* Localizer::settleChain() {
     chain_ = makeChain();
     chainIsComplete_ = hasEnglish;
   }
-  return &chain_;
+  return true;
 }
 
 const TextChain& Localizer::textChain() {
-  static_cast<void>(chainForLookUp());
+  static_cast<void>(hasChain());
   return chain_;
 }
 

@@ -47,6 +47,20 @@ void TextChain::add(TextLink link) {
   }
 }
 
+TextChain::Found TextChain::find(const HashedKey& key, std::size_t first) const {
+  for (std::size_t at = first; at < size_; ++at) {
+    const strings::StringTable* const table = loadedTable(at);
+    if (table == nullptr) {
+      return findInBundles(key, at);
+    }
+    const std::string_view text = table->find(key);
+    if (isAnswer(links_[at].source(), text)) {
+      return {table->handleTo(text), links_[at].source(), at};
+    }
+  }
+  return {{}, TextSource::key, size_};
+}
+
 // Where a table is not in memory yet, or a bundle keeps its texts elsewhere. Asks copies of the
 // links, because an application's bundle may change the language, and with it this chain.
 TextChain::Found TextChain::findInBundles(const HashedKey& key, std::size_t first) const {

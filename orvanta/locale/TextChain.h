@@ -60,7 +60,7 @@ class ORVANTA_EXPORT TextLink {
   mutable String locale_;
 };
 
-/// The tables that a look-up asks, in their order. What none of them has is shown as its key.
+/// The tables that a look-up asks, in their order; the first is the current language's. What none of them has is shown as its key.
 ///
 /// Every answer about a text is made from this list: look-ups, explanations, messages and
 /// snapshots. A value; used from one thread at a time, as bundles are.
@@ -85,28 +85,17 @@ class ORVANTA_EXPORT TextChain {
   /// Asks the links from the position `first` on.
   [[nodiscard]] Found find(const HashedKey& key, std::size_t first = 0) const;
 
+  /// The table of the link, if it is in memory; null where there is no such link.
+  [[nodiscard]] const strings::StringTable* loadedTable(std::size_t link) const noexcept
+      ORVANTA_LIFETIME_BOUND {
+    return link < size_ ? links_[link].bundle()->loadedDefaultTable() : nullptr;
+  }
+
  private:
   [[nodiscard]] Found findInBundles(const HashedKey& key, std::size_t first) const;
 
   std::array<TextLink, kMostLinks> links_;
   std::size_t size_ = 0;
 };
-
-// Inline, without a virtual call or an allocation where the tables are in memory: the benchmark's
-// rows `hit` and `fallback` measure it.
-[[gnu::always_inline]] inline TextChain::Found TextChain::find(const HashedKey& key,
-                                                               std::size_t first) const {
-  for (std::size_t at = first; at < size_; ++at) {
-    const strings::StringTable* const table = links_[at].bundle()->loadedDefaultTable();
-    if (table == nullptr) {
-      return findInBundles(key, at);
-    }
-    const std::string_view text = table->find(key);
-    if (isAnswer(links_[at].source(), text)) {
-      return {table->handleTo(text), links_[at].source(), at};
-    }
-  }
-  return {{}, TextSource::key, size_};
-}
 
 }  // namespace orvanta
