@@ -139,13 +139,6 @@ void Localizer::setFallbackTable(FallbackTable table) noexcept {
   fallbackTable_ = std::move(table);
 }
 
-OVStringCache& Localizer::stringCache() const {
-  if (stringCache_ == nullptr) {
-    stringCache_ = std::make_shared<OVStringCache>();
-  }
-  return *stringCache_;
-}
-
 void Localizer::setStringCache(std::shared_ptr<OVStringCache> cache) noexcept {
   stringCache_ = std::move(cache);
   resetChain();

@@ -4,7 +4,6 @@
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/Platform.h>
-#include <orvanta/text/CharacterSet.h>
 #include <orvanta/text/PathString.h>
 
 namespace orvanta {
@@ -157,33 +156,6 @@ TextExplanation Localizer::explain(const String& key) {
   }
   explainLocale(explanation);
   return explanation;
-}
-
-void Localizer::explainLocale(TextExplanation& explanation) const {
-  if (preferredLocales_.empty()) {
-    return;
-  }
-  const String& locale = explanation.currentLocale = preferredLocales_.front();
-  for (const String& request : adoptedRequest_) {
-    const Match found = match(request);
-    if (!found.isAvailable || found.locale != locale) {
-      continue;
-    }
-    explanation.request = request;
-    const String asked = found.isFromLanguagePart ? languagePart(request) : request;
-    if (found.isFromTable) {
-      explanation.fallbackRow = stringByTrimming(asked, CharacterSet::whitespace);
-    }
-    if (found.isFromLanguagePart) {
-      explanation.languagePart = asked;
-    }
-    break;
-  }
-  const String part = languagePart(locale);
-  const OVLocaleDictionary available = stringCache().availableLanguages();
-  if (explanation.languagePart.isAbsent() && part != locale && available.find(locale) == nullptr) {
-    explanation.languagePart = part;
-  }
 }
 
 }  // namespace orvanta

@@ -17,6 +17,14 @@ const FallbackTable& Localizer::fallbackTable() const {
   return fallbackTable_;
 }
 
+// In this file for the benchmark's row `match`: inlined into the matching of every request.
+OVStringCache& Localizer::stringCache() const {
+  if (stringCache_ == nullptr) {
+    stringCache_ = std::make_shared<OVStringCache>();
+  }
+  return *stringCache_;
+}
+
 String Localizer::localeWithFallbacksApplied(const String& identifier) const {
   return resolve(identifier).locale;
 }
@@ -33,21 +41,13 @@ String Localizer::languageOnlyFromString(const String& identifier) {
   return languagePart(identifier);
 }
 
-StringList Localizer::availableLocalesFromArray(const StringList& requested) const {
-  if (requested.empty()) {
-    return {String::fromStatic(lastResortLocale)};
-  }
-  StringList::Builder available(requested.size());
-  for (const String& request : requested) {
-    Match found = match(request);
-    if (found.isAvailable) {
-      available.add(std::move(found.locale));
-    }
-  }
-  return std::move(available).build();
+inline bool Localizer::hasBundleFor(const Resolved& resolved) const {
+  return resolved.locale.empty() ? mainBundle_ != nullptr
+                                 : stringCache().hasBundleForLanguage(resolved.key);
 }
 
-Localizer::Match Localizer::match(const String& request) const {
+// Inline for the benchmark's row `match`.
+[[gnu::always_inline]] inline Localizer::Match Localizer::match(const String& request) const {
   Resolved resolved = resolve(request);
   if (hasBundleFor(resolved)) {
     return {true, std::move(resolved.locale), resolved.isFromTable, false};
@@ -61,9 +61,18 @@ Localizer::Match Localizer::match(const String& request) const {
   return {};
 }
 
-bool Localizer::hasBundleFor(const Resolved& resolved) const {
-  return resolved.locale.empty() ? mainBundle_ != nullptr
-                                 : stringCache().hasBundleForLanguage(resolved.key);
+StringList Localizer::availableLocalesFromArray(const StringList& requested) const {
+  if (requested.empty()) {
+    return {String::fromStatic(lastResortLocale)};
+  }
+  StringList::Builder available(requested.size());
+  for (const String& request : requested) {
+    Match found = match(request);
+    if (found.isAvailable) {
+      available.add(std::move(found.locale));
+    }
+  }
+  return std::move(available).build();
 }
 
 StringList Localizer::localesFromLanguages(const StringList& languages, const String& country) {
@@ -96,6 +105,33 @@ bool Localizer::rightToLeftOrientationForLocale(const String& identifier) const 
   const std::string_view whole = identifier.view();
   const std::string_view language = whole.substr(0, whole.find('-'));
   return language == arabicCode || language == hebrewCode || language == urduCode;
+}
+
+void Localizer::explainLocale(TextExplanation& explanation) const {
+  if (preferredLocales_.empty()) {
+    return;
+  }
+  const String& locale = explanation.currentLocale = preferredLocales_.front();
+  for (const String& request : adoptedRequest_) {
+    const Match found = match(request);
+    if (!found.isAvailable || found.locale != locale) {
+      continue;
+    }
+    explanation.request = request;
+    const String asked = found.isFromLanguagePart ? languagePart(request) : request;
+    if (found.isFromTable) {
+      explanation.fallbackRow = stringByTrimming(asked, CharacterSet::whitespace);
+    }
+    if (found.isFromLanguagePart) {
+      explanation.languagePart = asked;
+    }
+    break;
+  }
+  const String part = languagePart(locale);
+  const OVLocaleDictionary available = stringCache().availableLanguages();
+  if (explanation.languagePart.isAbsent() && part != locale && available.find(locale) == nullptr) {
+    explanation.languagePart = part;
+  }
 }
 
 }  // namespace orvanta
