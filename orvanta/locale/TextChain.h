@@ -60,7 +60,8 @@ class ORVANTA_EXPORT TextLink {
   mutable String locale_;
 };
 
-/// The tables that a look-up asks, in their order; the first is the current language's. What none of them has is shown as its key.
+/// The tables that a look-up asks, in their order; the first is the current language's. What none
+/// of them has is shown as its key.
 ///
 /// Every answer about a text is made from this list: look-ups, explanations, messages and
 /// snapshots. A value; used from one thread at a time, as bundles are.
