@@ -22,6 +22,10 @@ bool isDigit(char character) {
   return character >= '0' && character <= '9';
 }
 
+bool isSpecial(char character) {
+  return character == '\'' || character == '{' || character == '}' || character == '#';
+}
+
 // What may stand in a number.
 bool isOfNumber(char character) {
   return isDigit(character) || std::string_view("+-.eE").find(character) != std::string_view::npos;
@@ -81,6 +85,13 @@ class Parser {
     return at_ < pattern_.size() && pattern_[at_] == character;
   }
 
+  // Up to the next character that may be more than itself in a message.
+  void skipLiteral() {
+    while (at_ < pattern_.size() && !isSpecial(pattern_[at_])) {
+      ++at_;
+    }
+  }
+
   void skipWhiteSpace() { at_ = skipPatternWhiteSpace(pattern_, at_); }
 
   std::size_t add(Kind kind, std::size_t begin, std::size_t end) {
@@ -103,7 +114,11 @@ class Parser {
   // Up to the end of the pattern, or in a branch behind its "}".
   bool parseMessage(int nesting, bool hasNumber) {
     std::size_t literal = at_;
-    while (!isAtEnd()) {
+    for (;;) {
+      skipLiteral();
+      if (isAtEnd()) {
+        break;
+      }
       const char character = pattern_[at_];
       if (character == '\'') {
         literal = parseApostrophe(literal, hasNumber);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include <orvanta/messages/pattern/PatternCharacters.h>
@@ -22,9 +23,43 @@ constexpr Range kSyntax[] = {
     {0x3030, 0x3030}, {0xFD3E, 0xFD3F}, {0xFE45, 0xFE46},
 };
 
-template <typename Belongs>
-std::size_t skipWhile(std::string_view pattern, std::size_t at, const Belongs& belongs) noexcept {
+constexpr bool isSyntax(char32_t character) noexcept {
+  const auto* const range =
+      std::lower_bound(std::begin(kSyntax), std::end(kSyntax), character,
+                       [](const Range& each, char32_t wanted) { return each.last < wanted; });
+  return range != std::end(kSyntax) && range->first <= character;
+}
+
+constexpr bool isWhiteSpace(char32_t character) noexcept {
+  return (character >= 0x09 && character <= 0x0D) || character == ' ' || character == 0x85 ||
+         character == 0x200E || character == 0x200F || character == 0x2028 || character == 0x2029;
+}
+
+constexpr bool isIdentifier(char32_t character) noexcept {
+  return !isSyntax(character) && !isWhiteSpace(character);
+}
+
+// Skips ASCII characters, of which most names and keywords are made, without decoding: the
+// benchmark's row `message`.
+template <bool (*belongs)(char32_t) noexcept>
+std::size_t skipWhile(std::string_view pattern, std::size_t at) noexcept {
+  constexpr std::size_t kAscii = 128;
+  static constexpr auto kBelongs = [] {
+    std::array<bool, kAscii> table{};
+    for (std::size_t character = 0; character < kAscii; ++character) {
+      table[character] = belongs(static_cast<char32_t>(character));
+    }
+    return table;
+  }();
   while (at < pattern.size()) {
+    const auto byte = static_cast<unsigned char>(pattern[at]);
+    if (byte < kAscii) {
+      if (!kBelongs[byte]) {
+        break;
+      }
+      ++at;
+      continue;
+    }
     const utf8::Decoded next = utf8::decode(pattern.substr(at));
     if (!belongs(next.codePoint)) {
       break;
@@ -37,25 +72,19 @@ std::size_t skipWhile(std::string_view pattern, std::size_t at, const Belongs& b
 }  // namespace
 
 bool isPatternSyntax(char32_t character) noexcept {
-  const auto* const range =
-      std::lower_bound(std::begin(kSyntax), std::end(kSyntax), character,
-                       [](const Range& each, char32_t wanted) { return each.last < wanted; });
-  return range != std::end(kSyntax) && range->first <= character;
+  return isSyntax(character);
 }
 
 bool isPatternWhiteSpace(char32_t character) noexcept {
-  return (character >= 0x09 && character <= 0x0D) || character == ' ' || character == 0x85 ||
-         character == 0x200E || character == 0x200F || character == 0x2028 || character == 0x2029;
+  return isWhiteSpace(character);
 }
 
 std::size_t skipPatternWhiteSpace(std::string_view pattern, std::size_t at) noexcept {
-  return skipWhile(pattern, at, isPatternWhiteSpace);
+  return skipWhile<isWhiteSpace>(pattern, at);
 }
 
 std::size_t skipPatternIdentifier(std::string_view pattern, std::size_t at) noexcept {
-  return skipWhile(pattern, at, [](char32_t character) {
-    return !isPatternSyntax(character) && !isPatternWhiteSpace(character);
-  });
+  return skipWhile<isIdentifier>(pattern, at);
 }
 
 }  // namespace orvanta
