@@ -118,6 +118,10 @@ class ORVANTA_EXPORT OVStringCache {
   ///
   /// Keys and values are source text of the strings format: they are written as they are, and
   /// escapes in them are resolved when the file is read.
+  ///
+  /// Writing syncs every table to disk. A worker thread may do it through an `OVStringCache` of its
+  /// own that writes to the same folder; after that the main thread calls `refreshCache` of its
+  /// cache and changes the language.
   void updateStrings(const StringsPayload& strings, const String& namespaceName,
                      const String& bundleName, const UpdateReport& report = {});
 
