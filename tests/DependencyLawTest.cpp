@@ -6,9 +6,6 @@
 #include <map>
 #include <regex>
 #include <set>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 

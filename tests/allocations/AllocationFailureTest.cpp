@@ -1,6 +1,5 @@
 // Each allocation of an operation is refused in turn: the operation may fail, with `std::bad_alloc`
 // alone, and what it was called on works afterwards as if it had not been called.
-#include <filesystem>
 #include <functional>
 #include <new>
 

@@ -1,6 +1,3 @@
-#include <memory>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/controls/UILocalizedLabel.h>

@@ -1,9 +1,6 @@
 // Lets each single file operation of an update fail in turn, or be the last before the power goes,
 // and looks at what is left on disk.
-#include <algorithm>
 #include <cerrno>
-#include <map>
-#include <utility>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,6 @@
 #include <cerrno>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <orvanta/cache/OVStringCache.h>

@@ -2,11 +2,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
-#include <functional>
 #include <set>
-#include <string>
 #include <thread>
-#include <utility>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

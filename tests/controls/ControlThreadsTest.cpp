@@ -1,8 +1,6 @@
 // Refreshes and notifications from other threads. To be run under ThreadSanitizer as well.
 #include <atomic>
-#include <functional>
 #include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 

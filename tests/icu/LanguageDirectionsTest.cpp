@@ -1,5 +1,4 @@
 #include <set>
-#include <string>
 
 #include <gtest/gtest.h>
 #include <unicode/locid.h>

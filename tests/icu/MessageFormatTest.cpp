@@ -1,10 +1,6 @@
-#include <memory>
 #include <memory_resource>
 #include <optional>
 #include <random>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <unicode/msgfmt.h>

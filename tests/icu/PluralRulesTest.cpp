@@ -1,9 +1,6 @@
 #include <cmath>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <unicode/numberformatter.h>

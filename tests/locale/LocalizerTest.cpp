@@ -1,7 +1,5 @@
 #include <functional>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 

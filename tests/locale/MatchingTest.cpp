@@ -1,5 +1,3 @@
-#include <map>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/locale/Localizer.h>
@@ -79,7 +77,9 @@ TEST(Matching, TakesTheLanguageOfAnIdentifier) {
       {"\u6F22-\u6F22", "\u6F22"},
   };
   for (const auto& [identifier, language] : rows) {
-    EXPECT_EQ(Localizer::languageOnlyFromString(identifier), language) << identifier;
+    const String found = Localizer::languageOnlyFromString(identifier);
+    EXPECT_EQ(found, language) << identifier;
+    EXPECT_EQ(found.isSameObject(identifier), identifier == language) << identifier;
   }
 }
 

@@ -1,9 +1,7 @@
 #include <algorithm>
 #include <atomic>
 #include <optional>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,5 @@
 #include <limits>
 #include <memory_resource>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 

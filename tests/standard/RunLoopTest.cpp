@@ -3,9 +3,7 @@
 #include <functional>
 #include <future>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <unistd.h>

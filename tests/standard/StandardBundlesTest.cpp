@@ -1,5 +1,3 @@
-#include <filesystem>
-
 #include <gtest/gtest.h>
 #include <tests/support/ForwardingFileManager.h>
 #include <tests/support/TestApplication.h>

@@ -1,15 +1,10 @@
 #include <atomic>
 #include <cerrno>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>

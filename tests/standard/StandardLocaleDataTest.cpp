@@ -1,6 +1,4 @@
-#include <initializer_list>
 #include <map>
-#include <string>
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,9 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <memory>
 #include <random>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 

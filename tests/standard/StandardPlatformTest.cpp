@@ -1,8 +1,3 @@
-#include <filesystem>
-#include <map>
-#include <string>
-#include <vector>
-
 #include <gtest/gtest.h>
 #include <tests/support/ForwardingFileManager.h>
 #include <tests/support/TestApplication.h>

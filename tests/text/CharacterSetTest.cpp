@@ -1,7 +1,3 @@
-#include <string>
-#include <string_view>
-#include <utility>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/text/CharacterSet.h>

@@ -1,6 +1,3 @@
-#include <cstddef>
-#include <cstdint>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/text/Memory.h>

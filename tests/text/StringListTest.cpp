@@ -1,6 +1,3 @@
-#include <utility>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/text/StringList.h>

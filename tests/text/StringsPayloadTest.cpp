@@ -1,6 +1,3 @@
-#include <string>
-#include <utility>
-
 #include <gtest/gtest.h>
 
 #include <orvanta/text/StringsPayload.h>
@@ -46,27 +43,20 @@ StringsPayload small() {
   return payload;
 }
 
-constexpr const char* kSmall = "a{first?b{c=1 d=2 }none?empty{}}c= }";
-
 TEST(StringsPayload, IsBuiltCopiedAndMovedAsAValue) {
+  const std::string kSmall = "a{first?b{c=1 d=2 }none?empty{}}c= ";
   StringsPayload payload = small();
-  EXPECT_EQ(flattened(payload), kSmall);
   StringsPayload copy = payload;
   copy.add("late", "3");
-  EXPECT_EQ(flattened(payload), kSmall) << "copies are independent";
+  EXPECT_EQ(flattened(payload), kSmall + "}") << "copies are independent";
   payload = copy;
-  EXPECT_EQ(flattened(payload),
-            std::string(kSmall).insert(std::string(kSmall).size() - 1, "late=3 "));
-  copy = small();
-  EXPECT_EQ(flattened(copy), kSmall);
-  payload = std::move(copy);
-  EXPECT_EQ(flattened(payload), kSmall);
-  StringsPayload text;
-  text = StringsPayload("text");
-  EXPECT_TRUE(text.isText() && text.text() == "text");
+  EXPECT_EQ(flattened(payload), kSmall + "late=3 }");
+  payload = std::move(copy = small());
+  EXPECT_EQ(flattened(payload), kSmall + "}");
+  StringsPayload text = "text";
+  EXPECT_EQ(text.text(), "text");
   text.add("k", text);
   EXPECT_TRUE(text.isDictionary() && text.text().isAbsent());
-  EXPECT_EQ(flattened(text), "k=text }");
   const StringsPayload moved = std::move(text);
   EXPECT_EQ(flattened(moved), "k=text }");
 }

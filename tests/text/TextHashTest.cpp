@@ -1,8 +1,6 @@
 #include <algorithm>
-#include <cstdint>
 #include <functional>
 #include <random>
-#include <string>
 #include <unordered_set>
 
 #include <gtest/gtest.h>
@@ -19,26 +17,17 @@ TEST(TextHash, MultipliesAlikeWithAndWithout128Bits) {
     const auto [high, low] = hashing::multiplyByHalves(a, b);
     return ((static_cast<Wide>(high) << 64) | low) == static_cast<Wide>(a) * b;
   };
-  const std::uint64_t edges[] = {0,
-                                 1,
-                                 0x7FFFFFFF,
-                                 0x80000000,
-                                 0xFFFFFFFF,
-                                 0x100000000,
-                                 0x100000001,
-                                 0x7FFFFFFFFFFFFFFF,
-                                 0x8000000000000000,
-                                 0xFFFFFFFF00000000,
-                                 0xFFFFFFFFFFFFFFFF};
-  for (const std::uint64_t a : edges) {
-    for (const std::uint64_t b : edges) {
-      EXPECT_TRUE(agree(a, b)) << a << " * " << b;
+  for (int shift = 0; shift < 64; ++shift) {
+    for (const std::uint64_t a : {std::uint64_t{1} << shift, ~std::uint64_t{0} >> shift}) {
+      for (int other = 0; other < 64; ++other) {
+        ASSERT_TRUE(agree(a, ~std::uint64_t{0} << other)) << a << ' ' << other;
+      }
     }
   }
   std::mt19937_64 random(3);
-  for (int round = 0; round < 100'000; ++round) {
-    const std::uint64_t a = random() >> random() % 64;
-    const std::uint64_t b = random() >> random() % 64;
+  for (int round = 0; round < 10'000; ++round) {
+    const std::uint64_t a = random();
+    const std::uint64_t b = random();
     ASSERT_TRUE(agree(a, b)) << a << " * " << b;
   }
 }
@@ -62,13 +51,10 @@ void expectNoCollision(std::size_t longest) {
   EXPECT_EQ(hashes.size(), texts);
 }
 
-TEST(TextHash, DependsOnEveryByteAndTheLength) {
-  expectNoCollision(200);
-}
-
-// Tables made before stay usable: the secrets of the process are put back.
+// With the secrets drawn at first, and with others. Tables made before stay usable: the secrets of
+// the process are put back.
 TEST(TextHash, CollidesForNoSecrets) {
-  (void)textHash("");
+  expectNoCollision(200);
   std::uint64_t before[8];
   std::copy(std::begin(hashing::secrets.words), std::end(hashing::secrets.words), before);
   std::mt19937_64 random(5);

@@ -1,18 +1,12 @@
 // Which expressions with texts compile, and what they give.
 
 #include <concepts>
-#include <cstddef>
 #include <functional>
 #include <sstream>
-#include <string>
-#include <string_view>
-#include <type_traits>
 #include <unordered_set>
-#include <utility>
 
 #include <gtest/gtest.h>
 
-#include <orvanta/locale/LanguagePart.h>
 #include <orvanta/text/Dictionary.h>
 #include <orvanta/text/String.h>
 #include <orvanta/text/StringList.h>
@@ -102,15 +96,6 @@ TEST(TextTypes, EqualTextsHashAlikeAndAreFoundUnderOneHash) {
   EXPECT_NE(std::hash<String>()("a"), std::hash<String>()("b"));
 }
 
-TEST(TextTypes, LanguagePartTakesAnyText) {
-  EXPECT_EQ(languagePart("en-GB"), "en");
-  const std::string identifier = "zh-Hant-TW";
-  EXPECT_EQ(languagePart(identifier), "zh");
-  const String english = "en";
-  EXPECT_TRUE(languagePart(english).isSameObject(english));
-  EXPECT_TRUE(languagePart(kAbsent).isAbsent());
-}
-
 TEST(TextTypes, ADictionaryIsAskedWithAnyText) {
   const Numbers numbers = {{"one", 1}, {"", 0}, {"one", 2}};
   EXPECT_EQ(numbers.size(), 2U);
@@ -120,11 +105,7 @@ TEST(TextTypes, ADictionaryIsAskedWithAnyText) {
   EXPECT_TRUE(Numbers(numbers).contains("one"));
   EXPECT_FALSE(numbers.contains("two"));
   EXPECT_FALSE(numbers.contains(kAbsent)) << "absent is not empty";
-  int sum = 0;
-  for (const auto& [key, number] : Numbers(numbers)) {
-    sum += number;
-  }
-  EXPECT_EQ(sum, 1);
+  EXPECT_EQ(std::distance(numbers.begin(), numbers.end()), 2);
   const Numbers absent;
   EXPECT_TRUE(absent.isAbsent() && absent.empty());
   EXPECT_EQ(absent.begin(), absent.end());

@@ -1,8 +1,5 @@
 #include <random>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
 #include <tests/support/Bytes.h>
 
 #include <orvanta/strings/encoding/TextEncoding.h>

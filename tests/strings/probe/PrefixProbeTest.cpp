@@ -1,9 +1,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <random>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <tests/support/BinaryList.h>

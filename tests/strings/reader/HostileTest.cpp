@@ -1,7 +1,5 @@
 #include <ctime>
-#include <string>
 
-#include <gtest/gtest.h>
 #include <tests/support/BinaryList.h>
 
 #include "TableReading.h"

@@ -1,7 +1,3 @@
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 #include <tests/support/BinaryList.h>
 
 #include "../TableReading.h"

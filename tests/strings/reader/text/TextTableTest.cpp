@@ -1,7 +1,3 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "../TableReading.h"
 
 namespace orvanta::strings {

@@ -1,8 +1,3 @@
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "../TableReading.h"
 
 namespace orvanta::strings {
