@@ -5,7 +5,6 @@
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/SystemInfo.h>
-#include <orvanta/locale/Version.h>
 
 #include "../support/TestApplication.h"
 
@@ -172,48 +171,6 @@ TEST(Localizer, KeepsTheEnglishBundleThatItFoundFirst) {
   EXPECT_EQ(app.localizer.localizedStringForKey("a"), "downloaded");
 }
 
-// The record that a catalogue listing builds is of the new file; look-ups wait for a change.
-TEST(Localizer, AnswersFromMemoryUntilTheNextChange) {
-  const std::string version(OVOrvantaLanguageVersionKey);
-  SpeakingApplication app({{"en", {{"e", "english"}}}}, {"fr"});
-  app.download("en", {{"e", "old english"}, {version, "1"}});
-  app.download("fr", {{"k", "old"}, {version, "1"}});
-  Localizer localizer;
-  OVStringCache& cache = localizer.stringCache();
-  const auto texts = [&] {
-    return localizer.localizedStringForKey("k").str() + ", " +
-           localizer.localizedStringForKey("e").str();
-  };
-  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
-  EXPECT_EQ(texts(), "old, old english");
-  app.download("en", {{"e", "new english"}, {version, "2"}});
-  app.download("fr", {{"k", "new"}, {version, "2"}});
-  cache.refreshCache();
-  const OVLocaleDictionary languages = cache.availableLanguages();
-  EXPECT_EQ((*languages.find("fr"))->version(), "2");
-  EXPECT_EQ(texts(), "old, old english");
-  localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
-  EXPECT_EQ(texts(), "new, new english");
-}
-
-TEST(Localizer, AnswersAlikeFromClearedTablesAskedBeforeOrNot) {
-  for (const bool wasAsked : {true, false}) {
-    SpeakingApplication app({{"en", {{"e", "shipped"}}}, {"fr", {}}}, {"fr"});
-    app.download("en", {{"e", "downloaded"}});
-    Localizer localizer;
-    EXPECT_TRUE(localizer.defaultLocaleBundle()->bundlePath().view().find("Caches") !=
-                std::string_view::npos);
-    if (wasAsked) {
-      EXPECT_EQ(localizer.localizedStringForKey("e"), "downloaded");
-    }
-    localizer.stringCache().clearCache();
-    localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
-    EXPECT_EQ(localizer.localizedStringForKey("e"), "e") << wasAsked;
-    localizer.changeOrvantaLanguageToPreferredLocales({"en"});
-    EXPECT_EQ(localizer.localizedStringForKey("e"), "shipped") << wasAsked;
-  }
-}
-
 // A bundle of the application's own, without a folder.
 class OwnBundle final : public platform::Bundle {
  public:
@@ -286,11 +243,6 @@ TEST(Localizer, IsSharedByAllThreads) {
   EXPECT_TRUE(SystemInfo::isAtLeastMajorVersion(9, 0, 0));
   EXPECT_FALSE(SystemInfo::isAtLeastMajorVersion(9, 0, 1));
   EXPECT_TRUE(SystemInfo::isIOS() && !SystemInfo::isTVOS());
-}
-
-TEST(Version, IsInTheBinary) {
-  EXPECT_STREQ(reinterpret_cast<const char*>(OrvantaLocalizerVersionString),
-               "@(#)PROGRAM:OrvantaLocalizer  PROJECT:OrvantaLocalizer-1\n");
 }
 
 TEST(Punctuation, FollowsTheFirstLocale) {

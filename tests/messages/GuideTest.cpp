@@ -8,15 +8,10 @@
 #include <orvanta/orvanta.h>
 
 #include "../support/LocalizedApplication.h"
+#include "../support/UpdateFixture.h"
 
 namespace orvanta {
 namespace {
-
-StringsPayload dictionaryOf(const char* key, StringsPayload value) {
-  StringsPayload dictionary = StringsPayload::dictionary();
-  dictionary.add(key, std::move(value));
-  return dictionary;
-}
 
 TEST(GuideToMessages, DoesWhatItSays) {
   test::LocalizedApplication app(
@@ -26,11 +21,8 @@ TEST(GuideToMessages, DoesWhatItSays) {
          {"trail", "{0} walked {1} km"},
          {"files.of", "%2$d files of %1$@"},
          {"export.done", "{count, plural, one {# page} other {# pages}} done"}}}});
-  const StringsPayload payload = dictionaryOf(
-      "it",
-      dictionaryOf(
-          "bundle",
-          dictionaryOf("names", dictionaryOf("zantorData", dictionaryOf("trail", "{0} a piedi")))));
+  const StringsPayload payload = StringsPayload::dictionary(
+      {{"it", test::payloadWith(test::tableOf({{"trail", "{0} a piedi"}}), "names", "bundle")}});
 
   const String line = localizedMessageForKey("cart.items", {{"count", 3}, {"name", "Ada"}});
   EXPECT_EQ(line, "3 items for Ada");

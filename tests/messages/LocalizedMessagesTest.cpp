@@ -9,6 +9,7 @@
 #include <orvanta/messages/TextSnapshot.h>
 
 #include "../support/TestApplication.h"
+#include "../support/UpdateFixture.h"
 
 namespace orvanta {
 namespace {
@@ -291,18 +292,8 @@ TEST(DownloadThread, WritesTablesThatTheMainThreadThenAdopts) {
   std::thread worker([&] {
     OVStringCache cache;
     for (int round = 0; round < 10; ++round) {
-      StringsPayload table = StringsPayload::dictionary();
-      table.add("items", String("round " + std::to_string(round)));
-      StringsPayload download = StringsPayload::dictionary();
-      StringsPayload bundle = StringsPayload::dictionary();
-      StringsPayload names = StringsPayload::dictionary();
-      names.add("zantorData", table);
-      bundle.add("names", names);
-      StringsPayload payload = StringsPayload::dictionary();
-      payload.add("bundle", bundle);
-      download.add("it", payload);
-      download.add("fr", payload);
-      cache.updateStrings(download, "names", "bundle");
+      const test::Pairs pairs = {{"items", "round " + std::to_string(round)}};
+      cache.updateStrings(test::payloadOf({{"it", pairs}, {"fr", pairs}}), "main", "app");
     }
     isWritten = true;
   });

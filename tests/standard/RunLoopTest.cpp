@@ -14,25 +14,22 @@ namespace orvanta::standard {
 namespace {
 
 // The two ways in which the main thread may run what is queued.
-void turnPending(RunLoop& loop) {
-  loop.runPending();
-}
-void turnRunning(RunLoop& loop) {
-  loop.dispatchAsync([&] { loop.quit(); });
-  loop.run();
-}
-
-class RunLoopTurns : public testing::TestWithParam<void (*)(RunLoop&)> {
+class RunLoopTurns : public testing::TestWithParam<bool> {
  protected:
   void turnUntil(const std::function<bool()>& isDone) {
     while (!isDone()) {
-      GetParam()(*loop_);
+      if (GetParam()) {
+        loop_->dispatchAsync([&] { loop_->quit(); });
+        loop_->run();
+      } else {
+        loop_->runPending();
+      }
     }
   }
   std::shared_ptr<RunLoop> loop_ = RunLoop::make();
 };
 
-INSTANTIATE_TEST_SUITE_P(BothWays, RunLoopTurns, testing::Values(turnPending, turnRunning));
+INSTANTIATE_TEST_SUITE_P(BothWays, RunLoopTurns, testing::Bool());
 
 TEST_P(RunLoopTurns, RunsStepsLaterAndInOrder) {
   std::string order;
@@ -160,29 +157,19 @@ TEST(RunLoop, LetsGoOfWaitingThreadsWhenItEnds) {
   EXPECT_FALSE(ran);
 }
 
-// A static object, made after the first use of the library, that joins a thread which waits for the
-// main one.
-class JoinsAtExit {
- public:
-  explicit JoinsAtExit(std::thread thread) : thread_(std::move(thread)) {}
-  JoinsAtExit(const JoinsAtExit&) = delete;
-  JoinsAtExit& operator=(const JoinsAtExit&) = delete;
-  ~JoinsAtExit() { thread_.join(); }
-
- private:
-  std::thread thread_;
-};
-
+// A static object, made after the first use of the library, joins a thread that waits for the main
+// one.
 TEST(RunLoopDeathTest, LetsGoOfWaitingThreadsBeforeStaticObjectsGo) {
   testing::GTEST_FLAG(death_test_style) = "threadsafe";
   const auto program = [] {
     alarm(20);
     const auto loop = RunLoop::main();
     loop->dispatchAsync([] {});
-    static JoinsAtExit joins(std::thread([loop] {
+    static std::thread waiting([loop] {
       loop->performOnMainThreadAndWait([] {});
       loop->performOnMainThreadAndWait([] {});
-    }));
+    });
+    static const std::shared_ptr<void> joins(nullptr, [](void*) { waiting.join(); });
     std::exit(0);
   };
   EXPECT_EXIT(program(), testing::ExitedWithCode(0), "");

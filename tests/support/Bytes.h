@@ -66,6 +66,14 @@ inline std::string unitsOf(const Encoding& encoding, std::string_view text) {
   return bytes;
 }
 
+inline std::string repeated(std::string_view piece, std::size_t times) {
+  std::string all;
+  for (; times > 0; --times) {
+    all += piece;
+  }
+  return all;
+}
+
 inline std::string encode(const Encoding& encoding, std::string_view text) {
   return std::string(encoding.mark) + unitsOf(encoding, text);
 }

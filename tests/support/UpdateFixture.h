@@ -20,11 +20,12 @@ inline StringsPayload tableOf(const Pairs& pairs) {
   return table;
 }
 
-/// One language's payload, whose table stands under the bundle "app" and the namespace "main".
-inline StringsPayload payloadWith(StringsPayload table) {
-  auto space = StringsPayload::dictionary({{"zantorData", std::move(table)}});
-  auto bundle = StringsPayload::dictionary({{"main", std::move(space)}});
-  return StringsPayload::dictionary({{"app", std::move(bundle)}});
+/// One language's payload, whose table stands under the bundle and the namespace.
+inline StringsPayload payloadWith(StringsPayload table, const String& space = "main",
+                                  const String& bundle = "app") {
+  auto data = StringsPayload::dictionary({{"zantorData", std::move(table)}});
+  auto spaces = StringsPayload::dictionary({{space, std::move(data)}});
+  return StringsPayload::dictionary({{bundle, std::move(spaces)}});
 }
 
 /// A download of such payloads.

@@ -15,6 +15,7 @@ using namespace std::string_literals;
 using test::encode;
 using test::Encoding;
 using test::kEncodings;
+using test::repeated;
 
 std::string transcoded(EncodedText text, std::size_t room) {
   Utf8Transcoder transcoder(text);
@@ -26,14 +27,6 @@ std::string transcoded(EncodedText text, std::size_t room) {
     out.append(piece.data(), size);
   }
   return out;
-}
-
-std::string repeated(std::string_view piece, std::size_t count) {
-  std::string all;
-  for (; count > 0; --count) {
-    all += piece;
-  }
-  return all;
 }
 
 TEST(TextEncoding, IsToldWithAndWithoutAMark) {
