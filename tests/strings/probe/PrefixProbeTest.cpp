@@ -2,6 +2,8 @@
 #include <cstdlib>
 #include <random>
 
+#include <fuzz/mutants/Mutant.h>
+#include <fuzz/mutants/Tables.h>
 #include <gtest/gtest.h>
 #include <tests/support/BinaryList.h>
 
@@ -244,65 +246,54 @@ TEST(PrefixProbe, TakesThePrefixThatTheKeysShare) {
   }
 }
 
-// Tables in all forms, made of pieces that are likely to come together as the prefix in one way or
-// another, or to end strings, comments and statements early; then damaged here and there.
+// Tables in all forms, some of whose keys begin with the prefix, in one spelling or another or
+// nearly so; then damaged here and there.
 class TableMaker {
-  std::size_t below(std::size_t end) { return static_cast<std::size_t>(random_()) % end; }
-
-  template <typename List>
-  const auto& anyOf(const List& list) {
-    return list[below(std::size(list))];
-  }
-
  public:
   explicit TableMaker(std::string prefix) : prefix_(std::move(prefix)) {}
 
   std::string make() {
-    switch (below(5)) {
-      case 0:
-        return flipped(binaryList());
-      case 1:
-        return flipped(encode(anyOf(kEncodings), damaged(xmlList())));
-      default:
-        return flipped(encode(anyOf(kEncodings), damaged(statements())));
+    const std::size_t form = below(5);
+    std::string bytes = form == 0 ? binaryList()
+                                  : encode(kEncodings[below(std::size(kEncodings))],
+                                           damaged(form == 1 ? xmlList() : statements()));
+    if (below(12) == 0 && !bytes.empty()) {
+      bytes[below(bytes.size())] = static_cast<char>(below(256));
     }
+    return bytes;
   }
 
  private:
+  std::size_t below(std::size_t limit) { return fuzz::below(random_, limit); }
+
   std::string key() {
+    static const char* const kPieces[] = {"\\",  "\\U",   "\\U0061",  "\\141",
+                                          "\\-", "\\n",   "\\\n",     "\"",
+                                          "/*",  "&#97;", "<!-- -->", "<![CDATA["};
     std::string name = below(3) == 0 ? "ab" : prefix_ + (below(2) == 0 ? "A" : "");
     if (below(4) == 0) {
-      name.replace(below(name.size()), below(2), anyOf(kPieces));
+      name.replace(below(name.size()), below(2), kPieces[below(std::size(kPieces))]);
     }
     return name;
   }
 
-  std::string value() {
-    std::string text;
-    for (std::size_t count = below(3); count > 0; --count) {
-      text += below(4) == 0 ? std::string(below(70), 'v') : anyOf(kHarmless);
+  std::vector<fuzz::RawPair> pairs() {
+    auto pairs = fuzz::inventPairs(random_, below(9));
+    for (fuzz::RawPair& pair : pairs) {
+      pair.key = below(4) == 0 ? pair.key : '"' + key() + '"';
     }
-    return text + std::to_string(below(100));
+    return pairs;
   }
 
   std::string statements() {
-    std::string text;
-    for (std::size_t count = below(9); count > 0; --count) {
-      std::string next = below(8) == 0 ? anyOf(kStrangeForms) : anyOf(kForms);
-      next.replace(next.find('K'), 1, key());
-      const std::size_t at = next.find('V');
-      if (at != std::string::npos) {
-        next.replace(at, 1, value());
-      }
-      text += next;
-    }
-    return text;
+    const auto& layouts = fuzz::layoutsOf(static_cast<fuzz::Group>(below(3)));
+    return layOut(layouts[below(layouts.size())], pairs());
   }
 
   std::string xmlList() {
     std::string text = "<plist><dict>";
-    for (std::size_t count = below(5); count > 0; --count) {
-      text += "<key>" + key() + "</key><string>" + value() + "</string>\n";
+    for (const fuzz::RawPair& pair : pairs()) {
+      text += "<key>" + key() + "</key><string>" + pair.value + "</string>\n";
     }
     return text + "</dict></plist>";
   }
@@ -320,8 +311,7 @@ class TableMaker {
       const bool isShared = !list.objects.empty() && below(4) == 0;
       const std::uint64_t keyObject =
           isShared ? below(list.objects.size()) : list.object(textObject(key()));
-      const std::uint64_t valueObject = list.object(below(6) == 0 ? "\x09" : textObject(value()));
-      list.pair(keyObject, valueObject);
+      list.pair(keyObject, list.object(below(6) == 0 ? "\x09" : textObject(key())));
     }
     // One long text that many keys share may take more than the reader grants.
     if (below(20) == 0) {
@@ -329,53 +319,18 @@ class TableMaker {
       for (std::size_t count = below(100); count > 0; --count) {
         list.pair(shared, shared);
       }
-      list.pair(textObject(key()), textObject(value()));
+      list.pair(textObject(key()), textObject(key()));
     }
     return list.bytes();
   }
 
   std::string damaged(std::string text) {
-    for (std::size_t count = below(2) * below(4); count > 0 && !text.empty(); --count) {
-      const std::size_t at = below(text.size());
-      switch (below(5)) {
-        case 0:
-          text.erase(at, 1);
-          break;
-        case 1:
-          text.erase(at, below(20));
-          break;
-        case 2:
-          text.insert(at, text.substr(below(text.size()), below(60)));
-          break;
-        case 3:
-          text.resize(below(4) == 0 ? at : text.size());
-          break;
-        default:
-          text.insert(at, anyOf(kPieces));
-      }
+    for (std::size_t count = below(2) * below(4); count > 0 && text.size() > 8; --count) {
+      text = fuzz::inventEdit(random_, text).appliedTo(text);
     }
     return text;
   }
 
-  std::string flipped(std::string bytes) {
-    if (below(12) == 0 && !bytes.empty()) {
-      bytes[below(bytes.size())] = static_cast<char>(below(256));
-    }
-    return bytes;
-  }
-
-  const std::string kPieces[22] = {"\"",     "'",     "=",        ";",        "\" = \"", "\";",
-                                   "\\",     "\\U",   "\\n",      "\\U0061",  "\\141",   "\\-",
-                                   "\\\n",   "/*",    "*/",       "//",       "\n",      "{",
-                                   "\u0161", "&#97;", "<!-- -->", "<![CDATA["};
-  const std::string kHarmless[10] = {"\\\"", "\\\\", "\\n",    "\n", " = ",
-                                     "/*",   "//",   "\u5C61", "'",  "\\U00e9"};
-  const std::string kForms[6] = {
-      "/* */\n\"K\" = \"V\";\n\n",       "\"K\" = \"V\";\n",        "\"K\"=\"V\";",
-      "/* it's \"K\" */\"ab\" = \"V\";", "// \"\n\"K\" = \"V\";\n", "\"K\";\n"};
-  const std::string kStrangeForms[7] = {
-      "'K' = 'V';",       "K = V;",       "\"K\" = (\"V\");",     "\"K\" = \"V\"\n",
-      "{\"K\" = \"V\";}", "} \"K\" = V;", "\"K\" = \"V\"; V\";\n"};
   std::string prefix_;
   std::mt19937 random_{20240607};  // NOLINT(cert-msc51-cpp): a run must be repeatable.
 };
