@@ -1,7 +1,6 @@
 // The code of docs/messages.md, and that it does what the page says.
 #include <iostream>
 #include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 
