@@ -25,13 +25,16 @@ inline constexpr std::string_view defaultComment = "No comment provided by engin
 
 /// The result of an update for one language.
 struct StringsUpdate {
+  /// What became of the language's table.
   enum class Result {
     written,  ///< The new table is in place.
     skipped,  ///< The payload holds no table, or one without texts; what was cached stays.
     failed,   ///< What was cached stays.
   };
 
+  /// As the payload names it.
   String language;
+  /// What became of its table.
   Result result;
   URL file;  ///< Absent when skipped, or when the language's name fits in no URL.
   /// For people. Present when written only if the table may not survive a loss of power, or if the
@@ -59,6 +62,7 @@ class ORVANTA_EXPORT OVStringCache {
   /// The cache folder, located and made at the first read; absent when the platform has no caches
   /// directory.
   [[nodiscard]] const URL& cacheDirectoryURL() ORVANTA_LIFETIME_BOUND;
+  /// Used from now on; an absent one makes the next read locate the folder again.
   void setCacheDirectoryURL(URL url);
 
   /// The languages shipped in the main bundle, under their folders' names. Built at every call.
@@ -71,20 +75,24 @@ class ORVANTA_EXPORT OVStringCache {
   /// The downloaded languages, under their records' `appleLocaleName`. A dictionary that was set
   /// is given back unchanged; setting an absent one makes the next read build it again.
   [[nodiscard]] OVLocaleDictionary cachedLanguages();
+  /// See `cachedLanguages`.
   void setCachedLanguages(OVLocaleDictionary languages);
 
   /// The shipped and the downloaded languages; under a key that both have, the downloaded one. Set
   /// and reset as `cachedLanguages` is.
   [[nodiscard]] OVLocaleDictionary availableLanguages();
+  /// See `availableLanguages`.
   void setAvailableLanguages(OVLocaleDictionary languages);
 
   /// The `orvantaLocaleName` of every available language, in no particular order; built at every
   /// call. A list that is set is ignored.
   [[nodiscard]] StringList availableLanguageCodes();
+  /// Does nothing; see `availableLanguageCodes`.
   void setAvailableLanguageCodes(const StringList& codes) noexcept;
 
   /// The same for the downloaded languages.
   [[nodiscard]] StringList cachedLanguageCodes();
+  /// Does nothing; see `cachedLanguageCodes`.
   void setCachedLanguageCodes(const StringList& codes) noexcept;
 
   /// The position of the first identifier whose cleaned form, or whose cleaned language part, is a
@@ -101,6 +109,7 @@ class ORVANTA_EXPORT OVStringCache {
   /// language part is not tried.
   [[nodiscard]] String localizedStringForKey(const String& key, const String& language);
 
+  /// Told of each language's result, on the thread that updates.
   using UpdateReport = std::function<void(const StringsUpdate&)>;
   /// Writes downloaded tables into the cache and forgets the catalogue, so that the next change of
   /// language, also to the same one, reads the new files; until then look-ups answer from the

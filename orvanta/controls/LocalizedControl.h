@@ -40,12 +40,14 @@ class ORVANTA_EXPORT LocalizedControl {
   [[nodiscard]] const String& originalKey() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalKey_;
   }
+  /// Shown from the next refresh on; absent leaves the text alone.
   void setOriginalKey(String key) noexcept { originalKey_ = std::move(key); }
 
   /// The key of the spoken label; remembered with `originalKey`, possibly as absent.
   [[nodiscard]] const String& originalAccessibilityLabel() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalAccessibilityLabel_;
   }
+  /// Used from the next refresh on.
   void setOriginalAccessibilityLabel(String key) noexcept {
     originalAccessibilityLabel_ = std::move(key);
   }
@@ -54,6 +56,7 @@ class ORVANTA_EXPORT LocalizedControl {
   [[nodiscard]] const String& originalAccessibilityHint() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalAccessibilityHint_;
   }
+  /// Used from the next refresh on.
   void setOriginalAccessibilityHint(String key) noexcept {
     originalAccessibilityHint_ = std::move(key);
   }
@@ -62,6 +65,7 @@ class ORVANTA_EXPORT LocalizedControl {
   [[nodiscard]] const std::shared_ptr<const platform::Font>& originalFont() const noexcept {
     return originalFont_;
   }
+  /// Used from the next refresh on.
   void setOriginalFont(std::shared_ptr<const platform::Font> font) noexcept {
     originalFont_ = std::move(font);
   }
@@ -70,6 +74,7 @@ class ORVANTA_EXPORT LocalizedControl {
   [[nodiscard]] platform::TextAlignment originalAlignment() const noexcept {
     return originalAlignment_;
   }
+  /// Used from the next refresh on.
   void setOriginalAlignment(platform::TextAlignment alignment) noexcept {
     originalAlignment_ = alignment;
   }
@@ -100,8 +105,10 @@ class ORVANTA_EXPORT LocalizedControl {
   /// control is still alive afterwards. One serves a whole refresh.
   class Hold {
    public:
+    /// Takes handles of its own.
     explicit Hold(const LocalizedControl& control)
         : driven_(control.driven_), anchor_(control.anchor_) {}
+    /// Whether the localized control has not been destroyed.
     [[nodiscard]] bool controlLives() const noexcept { return anchor_->control() != nullptr; }
 
     /// Takes the steps in their order, as long as the localized control is alive.
@@ -133,6 +140,7 @@ class ORVANTA_EXPORT LocalizedControl {
   /// Sets font and alignment: what the locale makes of the remembered ones.
   void refreshStyle(platform::TextStyle& style, const String& locale, const Hold& hold) const;
 
+  /// Takes the font and the alignment as the designed ones.
   void rememberStyle(const platform::TextStyle& style);
 
  private:

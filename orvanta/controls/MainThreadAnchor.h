@@ -9,6 +9,7 @@ class LocalizedControl;
 /// destroyed.
 class MainThreadAnchor {
  public:
+  /// Leads to `control` until `reset`.
   explicit MainThreadAnchor(LocalizedControl& control) noexcept : control_(&control) {}
 
   /// The control; null once it was destroyed.

@@ -36,6 +36,7 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
   /// Normal, disabled, focused, highlighted, selected, unless the application sets another list;
   /// an absent one brings this back.
   [[nodiscard]] const ControlStates& controlStates() ORVANTA_LIFETIME_BOUND;
+  /// Used from the next refresh on; see `controlStates`.
   void setControlStates(ControlStates states) noexcept { controlStates_ = std::move(states); }
 
   /// Sets the text of the key, looked up once, as the title of each of the states.
@@ -45,6 +46,7 @@ class ORVANTA_EXPORT UILocalizedButton : public LocalizedControl {
   /// alone; strings are always in the current language.
   void refreshStringsForLocale(const String& locale) { refreshOnMainThread(locale); }
 
+  /// The button that is driven.
   [[nodiscard]] platform::Button& button() const noexcept { return button_; }
 
  protected:

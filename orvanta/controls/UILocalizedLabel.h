@@ -38,6 +38,7 @@ class ORVANTA_EXPORT UILocalizedLabel : public LocalizedControl {
   /// alone; strings are always in the current language.
   void refreshStringsFromLocale(const String& locale) { refreshOnMainThread(locale); }
 
+  /// The label that is driven.
   [[nodiscard]] platform::Label& label() const noexcept { return label_; }
 
  protected:

@@ -35,10 +35,12 @@ class ORVANTA_EXPORT UILocalizedTextField : public LocalizedControl {
   [[nodiscard]] const String& originalPlaceholder() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalPlaceholder_;
   }
+  /// Used when the placeholder is localized; see `initializePlaceholder`.
   void setOriginalPlaceholder(String placeholder) noexcept {
     originalPlaceholder_ = std::move(placeholder);
   }
 
+  /// The text field that is driven.
   [[nodiscard]] platform::TextField& field() const noexcept { return field_; }
 
  protected:

@@ -15,6 +15,7 @@
 /// out absent: nothing stands in for it. To be used on the user-interface thread.
 namespace orvanta::localizationUtilities {
 
+/// A font, or null for an absent one.
 using FontHandle = std::shared_ptr<const platform::Font>;
 
 // ── Making fonts ─────────────────────────────────────────────────────────────────────────────
@@ -25,8 +26,10 @@ using FontHandle = std::shared_ptr<const platform::Font>;
 
 /// The system font for the first current locale; regular where no weight is given.
 [[nodiscard]] ORVANTA_EXPORT FontHandle ovSystemFontOfSize(double size);
+/// The same in another weight.
 [[nodiscard]] ORVANTA_EXPORT FontHandle ovSystemFontOfSize(double size,
                                                            platform::FontWeight weight);
+/// The same in bold.
 [[nodiscard]] ORVANTA_EXPORT FontHandle ovBoldSystemFontOfSize(double size);
 
 /// An italic rendition of `ovSystemFontOfSize`, of the regular Arabic face too.
@@ -34,6 +37,7 @@ using FontHandle = std::shared_ptr<const platform::Font>;
 
 /// False for an absent font.
 [[nodiscard]] ORVANTA_EXPORT bool ovFontIsBold(const FontHandle& font);
+/// False for an absent font.
 [[nodiscard]] ORVANTA_EXPORT bool ovFontIsItalic(const FontHandle& font);
 
 // ── Per locale ───────────────────────────────────────────────────────────────────────────────
@@ -51,6 +55,7 @@ using FontHandle = std::shared_ptr<const platform::Font>;
 
 /// Both take a bare language, as `Localizer::languageOnlyFromString` gives it.
 [[nodiscard]] ORVANTA_EXPORT bool languageHasCustomFont(const String& language);
+/// Whether the platform writes it from right to left; a bare language too.
 [[nodiscard]] ORVANTA_EXPORT bool languageAlignmentIsReversed(const String& language);
 
 // ── The Arabic faces ─────────────────────────────────────────────────────────────────────────
@@ -58,8 +63,10 @@ using FontHandle = std::shared_ptr<const platform::Font>;
 /// The two faces at 17 points, each loaded at the first request that the platform has a font for
 /// and from then on the same object for the life of the process. Absent while it has none.
 [[nodiscard]] ORVANTA_EXPORT FontHandle corbetSansKufiArabicFont();
+/// The same in bold.
 [[nodiscard]] ORVANTA_EXPORT FontHandle corbetSansKufiArabicBoldFont();
 
+/// One of the two faces at a size in points. Absent while there is none.
 [[nodiscard]] ORVANTA_EXPORT FontHandle ArabicFontWithSize(double size, bool bold);
 
 /// Registers the font file of this name (without ".ttf") from the library's own resources; the main

@@ -94,9 +94,11 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] String localizedStringForKey(const String& key);
   /// The same; a key that is found nowhere is copied.
   [[nodiscard]] String localizedStringForKey(std::string_view key);
+  /// The same; a key that is found nowhere is copied.
   [[nodiscard]] String localizedStringForKey(const std::string& key) {
     return localizedStringForKey(std::string_view(key));
   }
+  /// The same; absent for a null pointer.
   [[nodiscard]] String localizedStringForKey(const char* key) {
     return key == nullptr ? localizedStringForKey(String())
                           : localizedStringForKey(std::string_view(key));
@@ -114,6 +116,7 @@ class ORVANTA_EXPORT Localizer {
   /// message, at once and on the thread that looks up. One observer at a time; none by default,
   /// and an empty one removes it. It may look up, and set another observer.
   void setTextObserver(TextObserver observer);
+  /// Whether an observer is set.
   [[nodiscard]] bool hasTextObserver() const noexcept { return textObserver_ != nullptr; }
   /// Calls the observer, if there is one.
   void report(const TextProblem& problem) const;
@@ -122,6 +125,7 @@ class ORVANTA_EXPORT Localizer {
   /// one lacks, before English: a table downloaded for an older version of the application lacks
   /// the keys of the new one. Off by default. An empty text of the shipped table stays empty.
   [[nodiscard]] bool shippedTextsStandIn() const noexcept { return shippedTextsStandIn_; }
+  /// Counts from the next look-up on; posts nothing.
   void setShippedTextsStandIn(bool standIn) noexcept;
 
   /// The current identifiers, `preferredLocales` itself.
@@ -189,18 +193,21 @@ class ORVANTA_EXPORT Localizer {
 
   /// Whether the first current identifier is of a right-to-left language.
   [[nodiscard]] bool rightToLeftOrientation() const noexcept { return rightToLeftOrientation_; }
+  /// Replaces it until the next change of language.
   void setRightToLeftOrientation(bool rightToLeft) noexcept;
 
   /// What `updatePreferredLocales` made of its last request; for the application.
   [[nodiscard]] const StringList& originalLocales() const noexcept ORVANTA_LIFETIME_BOUND {
     return originalLocales_;
   }
+  /// Replaces them.
   void setOriginalLocales(StringList locales) noexcept;
 
   /// The adopted identifiers, best first.
   [[nodiscard]] const StringList& preferredLocales() const noexcept ORVANTA_LIFETIME_BOUND {
     return preferredLocales_;
   }
+  /// Replaces them until the next change of language; the bundle stays.
   void setPreferredLocales(StringList locales) noexcept;
 
   /// Where strings come from; absent when the first identifier has no bundle.
@@ -208,6 +215,7 @@ class ORVANTA_EXPORT Localizer {
       ORVANTA_LIFETIME_BOUND {
     return currentLanguageBundle_;
   }
+  /// Replaces it until the next change of language; null lets the next look-up choose.
   void setCurrentLanguageBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
   /// The application's own bundle, taken from the platform when this localizer was made.
@@ -215,20 +223,24 @@ class ORVANTA_EXPORT Localizer {
       ORVANTA_LIFETIME_BOUND {
     return mainBundle_;
   }
+  /// Replaces it; the current language stays.
   void setMainBundle(std::shared_ptr<platform::Bundle> bundle) noexcept;
 
   /// The English bundle, memoized once it was found: later downloads do not replace it. Null while
   /// there is none. A bundle that is set is not owned and must outlive this localizer, or the next
   /// call of the setter.
   [[nodiscard]] platform::Bundle* defaultLocaleBundle() const;
+  /// Replaces it; null makes the next look-up find it again.
   void setDefaultLocaleBundle(platform::Bundle* bundle) noexcept;
 
   /// The regional fallbacks; an absent table makes the next read build the built-in one.
   [[nodiscard]] const FallbackTable& fallbackTable() const ORVANTA_LIFETIME_BOUND;
+  /// Used from the next request on.
   void setFallbackTable(FallbackTable table) noexcept;
 
   /// The catalogue and its cache, made at the first read.
   [[nodiscard]] OVStringCache& stringCache() const ORVANTA_LIFETIME_BOUND;
+  /// Used from now on; null makes the next read make one.
   void setStringCache(std::shared_ptr<OVStringCache> cache) noexcept;
 
  private:

@@ -47,6 +47,7 @@ class ORVANTA_EXPORT OVLocale {
   /// Whether the application's service offers the language. False until the application sets it;
   /// the library does not read it.
   [[nodiscard]] bool availableForDownload() const noexcept { return availableForDownload_; }
+  /// Replaces it.
   void setAvailableForDownload(bool available) noexcept { availableForDownload_ = available; }
 
   /// The application's own code: the folder's name without its extension ("fr-CA" for
@@ -54,6 +55,7 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] const String& orvantaLocaleName() const noexcept ORVANTA_LIFETIME_BOUND {
     return orvantaLocaleName_;
   }
+  /// Replaces it; the catalogue keeps the record where it is.
   void setOrvantaLocaleName(String name) noexcept { orvantaLocaleName_ = std::move(name); }
 
   /// The platform's identifier, under which the catalogue keeps a downloaded language. The very
@@ -61,6 +63,7 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] const String& appleLocaleName() const noexcept ORVANTA_LIFETIME_BOUND {
     return appleLocaleName_;
   }
+  /// Replaces it; the catalogue keeps the record where it is.
   void setAppleLocaleName(String name) noexcept { appleLocaleName_ = std::move(name); }
 
   /// The version of the table, as text. The text of `OVOrvantaLanguageVersionKey` itself when the
@@ -72,6 +75,7 @@ class ORVANTA_EXPORT OVLocale {
       ORVANTA_LIFETIME_BOUND {
     return bundle_;
   }
+  /// Replaces it.
   void setBundle(std::shared_ptr<platform::Bundle> bundle) noexcept { bundle_ = std::move(bundle); }
 
   /// The identifiers that count as this same language, in the order written and untrimmed; absent
@@ -79,6 +83,7 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] const StringList& fallbackLocales() const noexcept ORVANTA_LIFETIME_BOUND {
     return fallbackLocales_;
   }
+  /// Replaces them.
   void setFallbackLocales(StringList locales) noexcept { fallbackLocales_ = std::move(locales); }
 
   /// Whether `other` is of this record's class or of a subclass, and both hold the very same
@@ -91,6 +96,7 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] std::size_t hash() const noexcept;
 
  protected:
+  /// Takes the values as they are.
   OVLocale(String orvantaName, String appleName, String version,
            std::shared_ptr<platform::Bundle> bundle, StringList locales) noexcept;
 

@@ -35,11 +35,14 @@ enum class TextSource : std::uint8_t {
 class ORVANTA_EXPORT TextLink {
  public:
   TextLink() noexcept = default;
+  /// A link to the table of `bundle`. `cache` tells whether it was downloaded; it may be null.
   TextLink(TextSource source, std::shared_ptr<platform::Bundle> bundle,
            std::shared_ptr<OVStringCache> cache) noexcept
       : source_(source), bundle_(std::move(bundle)), cache_(std::move(cache)) {}
 
+  /// What the link is in its chain.
   [[nodiscard]] TextSource source() const noexcept { return source_; }
+  /// The bundle of the table; null in a link made without one.
   [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const& noexcept
       ORVANTA_LIFETIME_BOUND {
     return bundle_;
@@ -67,15 +70,19 @@ class ORVANTA_EXPORT TextLink {
 /// snapshots. A value; used from one thread at a time, as bundles are.
 class ORVANTA_EXPORT TextChain {
  public:
+  /// The most links that a chain has.
   static constexpr std::size_t kMostLinks = 4;
 
+  /// What `find` gives.
   struct Found {
     String text;        ///< Absent when no link has one.
     TextSource source;  ///< `key` then.
     std::size_t link;   ///< Its position among the links.
   };
 
+  /// Whether there are no links.
   [[nodiscard]] bool empty() const noexcept { return size_ == 0; }
+  /// The links in the order in which they are asked; valid until the chain changes.
   [[nodiscard]] std::span<const TextLink> links() const& noexcept ORVANTA_LIFETIME_BOUND {
     return {links_.data(), size_};
   }

@@ -9,9 +9,11 @@ namespace orvanta {
 /// came about.
 struct TextExplanation {
   String text;  ///< Absent for an absent key, or without any bundle.
+  /// The link of the chain that holds the text.
   TextSource source = TextSource::key;
   String locale;      ///< Of the table; absent when the key is shown.
   String bundlePath;  ///< Likewise.
+  /// Whether that table stands in the cache of downloads.
   bool isDownloaded = false;
 
   String currentLocale;  ///< The first of `preferredLocales`.

@@ -11,13 +11,16 @@ namespace orvanta {
 
 /// A text that is not as the application's user should see it.
 struct TextProblem {
+  /// What is wrong.
   enum class Kind : std::uint8_t {
     shownInEnglish,    ///< The current language has no text under the key; English has.
     shownAsKey,        ///< No language has.
     malformedMessage,  ///< The text is no valid pattern; see `localizedMessageForKey`.
   };
 
+  /// What is wrong.
   Kind kind = Kind::shownAsKey;
+  /// As the look-up asked for it.
   String key;
   String locale;             ///< The current locale; of a malformed message that of its table.
   std::size_t position = 0;  ///< Of a malformed message: the byte at which it is wrong,
@@ -26,4 +29,5 @@ struct TextProblem {
 
 using TextObserver = std::function<void(const TextProblem&)>;
 
+/// Told of each problem; see `Localizer::setTextObserver`.
 }  // namespace orvanta

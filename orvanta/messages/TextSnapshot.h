@@ -23,18 +23,24 @@ class ORVANTA_EXPORT TextSnapshot {
   /// Holds nothing: every answer is absent.
   TextSnapshot() noexcept = default;
 
+  /// As `Localizer::localizedStringForKey` answered.
   [[nodiscard]] String localizedStringForKey(const String& key) const;
+  /// As `Localizer::localizedStringForKey` answered.
   [[nodiscard]] String localizedStringForKey(std::string_view key) const;
+  /// As `Localizer::localizedStringForKey` answered.
   [[nodiscard]] String localizedStringForKey(const std::string& key) const {
     return localizedStringForKey(std::string_view(key));
   }
+  /// As `Localizer::localizedStringForKey` answered.
   [[nodiscard]] String localizedStringForKey(const char* key) const {
     return key == nullptr ? String() : localizedStringForKey(std::string_view(key));
   }
   /// What `localizedStringForKey` finds in a table; absent where it would give the key itself.
   [[nodiscard]] String textForKey(std::string_view key) const;
+  /// As `orvanta::localizedMessageForKey`, of the texts of that moment.
   [[nodiscard]] String localizedMessageForKey(std::string_view key,
                                               const MessageArguments& arguments) const;
+  /// As `orvanta::localizedStringWithFormat`, of the texts of that moment.
   [[nodiscard]] String localizedStringWithFormat(std::string_view key,
                                                  const MessageArguments& arguments) const;
 

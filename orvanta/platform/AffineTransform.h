@@ -4,11 +4,17 @@ namespace orvanta::platform {
 
 /// A two-dimensional affine map: (x, y) goes to (a*x + c*y + tx, b*x + d*y + ty).
 struct AffineTransform {
+  /// The factor of x in the new x.
   double a = 1;
+  /// The factor of x in the new y.
   double b = 0;
+  /// The factor of y in the new x.
   double c = 0;
+  /// The factor of y in the new y.
   double d = 1;
+  /// Added to x.
   double tx = 0;
+  /// Added to y.
   double ty = 0;
 
   /// Maps every point to itself, as a default-made transform does.
@@ -18,6 +24,7 @@ struct AffineTransform {
     return {x, 0, 0, y, 0, 0};
   }
 
+  /// Equality of all six numbers.
   friend constexpr bool operator==(const AffineTransform&, const AffineTransform&) = default;
 };
 

@@ -100,6 +100,7 @@ class ORVANTA_EXPORT BundleRegistry {
   /// The bundle of a folder; absent when there is no folder, or no longer one. Opening one again
   /// gives the same object, and leaves its tables in memory as they are.
   [[nodiscard]] virtual std::shared_ptr<Bundle> bundleWithPath(const String& path) = 0;
+  /// The bundle at a URL's path; absent for a URL without one.
   [[nodiscard]] std::shared_ptr<Bundle> bundleWithURL(const URL& url) {
     return bundleWithPath(url.path());
   }

@@ -13,6 +13,7 @@ class ORVANTA_EXPORT Locale {
  public:
   /// With an absent identifier.
   Locale() noexcept = default;
+  /// With an identifier that is kept as it is.
   explicit Locale(String identifier) noexcept : identifier_(std::move(identifier)) {}
 
   /// As it was given; absent when none was.
@@ -28,6 +29,7 @@ class ORVANTA_EXPORT Locale {
 /// unguarded.
 class ORVANTA_EXPORT Calendar {
  public:
+  /// Of a kind, in a locale; neither is checked.
   explicit Calendar(String identifier, Locale locale) noexcept
       : identifier_(std::move(identifier)), locale_(std::move(locale)) {}
 
@@ -37,6 +39,7 @@ class ORVANTA_EXPORT Calendar {
   }
   /// The locale of its names; valid until `setLocale`.
   [[nodiscard]] const Locale& locale() const noexcept ORVANTA_LIFETIME_BOUND { return locale_; }
+  /// Names days and months in this locale from now on.
   void setLocale(Locale locale) noexcept { locale_ = std::move(locale); }
 
  private:

@@ -23,9 +23,11 @@ class ORVANTA_EXPORT Accessible {
 
   /// What the control is.
   [[nodiscard]] virtual String accessibilityLabel() const = 0;
+  /// Absent removes it.
   virtual void setAccessibilityLabel(const String& label) = 0;
   /// What using the control does.
   [[nodiscard]] virtual String accessibilityHint() const = 0;
+  /// Absent removes it.
   virtual void setAccessibilityHint(const String& hint) = 0;
 
  protected:
@@ -45,6 +47,7 @@ class ORVANTA_EXPORT TextStyle {
   virtual void setFont(const std::shared_ptr<const Font>& font) = 0;
   /// The value last set, unchanged, even one without a name.
   [[nodiscard]] virtual TextAlignment textAlignment() const = 0;
+  /// Any value is kept.
   virtual void setTextAlignment(TextAlignment alignment) = 0;
 
  protected:
@@ -65,15 +68,21 @@ class ORVANTA_EXPORT TextField : public Label {
  public:
   /// What is shown while the text is empty; absent when nothing is.
   [[nodiscard]] virtual String placeholder() const = 0;
+  /// Absent shows nothing.
   virtual void setPlaceholder(const String& placeholder) = 0;
 };
 
 /// A state of a control: a sum of the values below, and others that pass through unchanged.
 using ControlState = std::uint64_t;
+/// No other state.
 inline constexpr ControlState kControlStateNormal = 0;
+/// While it is pressed.
 inline constexpr ControlState kControlStateHighlighted = 1;
+/// While it cannot be used.
 inline constexpr ControlState kControlStateDisabled = 2;
+/// While it is chosen.
 inline constexpr ControlState kControlStateSelected = 4;
+/// While it has the input focus.
 inline constexpr ControlState kControlStateFocused = 8;
 
 /// A control that the user presses. It has a title for each state.

@@ -29,6 +29,7 @@ struct FileStamp {
   std::uint64_t size;                    ///< In bytes.
   std::int64_t modificationNanoseconds;  ///< Since the epoch.
 
+  /// Equality of all members.
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
@@ -39,7 +40,9 @@ class ORVANTA_EXPORT ReadableFile : public strings::ByteSource {
 
  protected:
   ReadableFile() = default;
+  /// For implementations.
   ReadableFile(const ReadableFile&) = default;
+  /// For implementations.
   ReadableFile& operator=(const ReadableFile&) = default;
 };
 
@@ -76,6 +79,7 @@ class ORVANTA_EXPORT FileManager {
   /// What `contentsOfDirectoryAtURL` gives.
   struct Contents {
     std::vector<URL> entries;  ///< Empty unless `status` is ok.
+    /// Why the folder could not be listed.
     Status status;
   };
   /// The entries of a folder, hidden ones included, not those of its sub-folders.
@@ -92,7 +96,9 @@ class ORVANTA_EXPORT FileManager {
 
  protected:
   FileManager() = default;
+  /// For implementations.
   FileManager(const FileManager&) = default;
+  /// For implementations.
   FileManager& operator=(const FileManager&) = default;
 };
 

@@ -22,6 +22,7 @@ class ORVANTA_EXPORT Folder {
   /// What `openFolder` gives.
   struct Opening {
     std::unique_ptr<Folder> folder;  ///< Null unless `status` is ok.
+    /// Why there is none.
     Status status;
   };
   /// Opens a sub-folder.
@@ -37,6 +38,7 @@ class ORVANTA_EXPORT Folder {
   /// What `list` gives.
   struct Listing {
     std::vector<Entry> entries;  ///< Empty unless `status` is ok.
+    /// Why the folder could not be listed.
     Status status;
   };
   /// All entries, hidden ones included, in the file system's order.
@@ -45,6 +47,7 @@ class ORVANTA_EXPORT Folder {
   /// What `createFile` gives.
   struct Creation {
     std::unique_ptr<WritableFile> file;  ///< Null unless `status` is ok.
+    /// Why there is none.
     Status status;
   };
   /// Makes a new file and locks it, without waiting, until its object goes or the process ends.
@@ -62,7 +65,9 @@ class ORVANTA_EXPORT Folder {
 
  protected:
   Folder() = default;
+  /// For implementations.
   Folder(const Folder&) = default;
+  /// For implementations.
   Folder& operator=(const Folder&) = default;
 };
 

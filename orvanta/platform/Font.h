@@ -10,7 +10,9 @@ namespace orvanta::platform {
 
 /// The style bits of a font. Bits without a constant here are kept and mean nothing.
 using SymbolicTraits = std::uint32_t;
+/// Slanted.
 inline constexpr SymbolicTraits kItalicTrait = 1U << 0;
+/// Heavier than the regular face.
 inline constexpr SymbolicTraits kBoldTrait = 1U << 1;
 
 /// A face at a size. Immutable, shared, with identity; an absent font is a null pointer. Made by a

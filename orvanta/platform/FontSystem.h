@@ -12,7 +12,9 @@ namespace orvanta::platform {
 
 /// How heavy a face of the system font is, on a scale from -1 to 1.
 using FontWeight = double;
+/// The weight of running text.
 inline constexpr FontWeight kFontWeightRegular = 0.0;
+/// The weight of bold text.
 inline constexpr FontWeight kFontWeightBold = 0.4;
 
 /// The platform's fonts. Used on the main thread. Sizes are in points.

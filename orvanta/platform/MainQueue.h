@@ -14,6 +14,7 @@ namespace orvanta::platform {
 /// only after `exec`, or fork before other threads do.
 class ORVANTA_EXPORT MainQueue {
  public:
+  /// What is run on the main thread.
   using Step = std::function<void()>;
 
   virtual ~MainQueue();

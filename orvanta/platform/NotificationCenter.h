@@ -20,6 +20,7 @@ struct Notification {
 /// may also be called from inside a handler.
 class ORVANTA_EXPORT NotificationCenter {
  public:
+  /// Called with each notification, on the thread that posts it.
   using Handler = std::function<void(const Notification&)>;
 
   virtual ~NotificationCenter();

@@ -20,13 +20,21 @@ namespace orvanta::platform {
 /// platform with its default options is used. To replace single members, let
 /// `makeStandardPlatform` fill in the others. No member is null in an installed platform.
 struct ORVANTA_EXPORT Platform {
+  /// The disk.
   std::shared_ptr<FileManager> files;
+  /// What is known about languages, and the device's own ones.
   std::shared_ptr<LocaleData> locales;
+  /// The folders of resources.
   std::shared_ptr<BundleRegistry> bundles;
+  /// The fonts.
   std::shared_ptr<FontSystem> fonts;
+  /// Who is told of what.
   std::shared_ptr<NotificationCenter> notifications;
+  /// The steps of the main thread.
   std::shared_ptr<MainQueue> mainQueue;
+  /// The version of the system.
   std::shared_ptr<ProcessInfo> processInfo;
+  /// Where messages go.
   std::shared_ptr<Log> log;
 
   /// The installed platform, else the default one, made at the first call. Thread-safe. Valid for

@@ -8,10 +8,14 @@ namespace orvanta::platform {
 
 /// A version of the operating system, compared number by number.
 struct OperatingSystemVersion {
+  /// Counts first.
   long majorVersion = 0;
+  /// Counts where the major versions are equal.
   long minorVersion = 0;
+  /// Counts last.
   long patchVersion = 0;
 
+  /// Number by number.
   friend auto operator<=>(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
 };
 

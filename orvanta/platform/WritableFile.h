@@ -17,7 +17,9 @@ class ORVANTA_EXPORT WritableFile : public strings::ByteSink {
 
  protected:
   WritableFile() = default;
+  /// For implementations.
   WritableFile(const WritableFile&) = default;
+  /// For implementations.
   WritableFile& operator=(const WritableFile&) = default;
 };
 

@@ -13,6 +13,7 @@ class ORVANTA_QT_EXPORT FormLoader : public QUiLoader {
   Q_OBJECT
 
  public:
+  /// As QUiLoader's.
   explicit FormLoader(QObject* parent = nullptr);
 
   /// The form's root, awake with everything in it; null when `device` holds no form.
@@ -20,6 +21,7 @@ class ORVANTA_QT_EXPORT FormLoader : public QUiLoader {
   /// The same for the file at `path`.
   [[nodiscard]] QWidget* load(const QString& path, QWidget* parent = nullptr);
 
+  /// As QUiLoader's, with the localized widgets under their class names.
   [[nodiscard]] QWidget* createWidget(const QString& className, QWidget* parent = nullptr,
                                       const QString& name = {}) override;
 };

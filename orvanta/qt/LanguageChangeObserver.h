@@ -11,6 +11,7 @@ namespace orvanta::qt {
 /// Observers and localized widgets are told in the order in which they began to observe.
 class ORVANTA_QT_EXPORT LanguageChangeObserver {
  public:
+  /// Observes from now on. What `step` throws reaches the poster of the notification.
   explicit LanguageChangeObserver(std::function<void()> step);
   LanguageChangeObserver(const LanguageChangeObserver&) = delete;
   LanguageChangeObserver& operator=(const LanguageChangeObserver&) = delete;

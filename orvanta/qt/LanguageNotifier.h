@@ -13,6 +13,7 @@ class ORVANTA_QT_EXPORT LanguageNotifier : public QObject {
   Q_OBJECT
 
  public:
+  /// Notifies from now on.
   explicit LanguageNotifier(QObject* parent = nullptr);
 
   /// The current locales, the first one in front.

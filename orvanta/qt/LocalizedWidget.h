@@ -30,7 +30,9 @@ class ORVANTA_QT_EXPORT LocalizedWidget {
  protected:
   LocalizedWidget();
 
+  /// The rules and the remembered state of the widget.
   [[nodiscard]] virtual LocalizedControl& control() const = 0;
+  /// Takes the designed state and localizes the widget; called once.
   virtual void awake() = 0;
   /// For a widget that localizes itself without a layout.
   void setAwake();

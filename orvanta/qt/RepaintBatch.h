@@ -15,6 +15,7 @@ namespace orvanta::qt {
 /// order. `window` must outlive it.
 class ORVANTA_QT_EXPORT RepaintBatch {
  public:
+  /// Observes from now on.
   explicit RepaintBatch(QWidget& window);
 
  private:

@@ -12,6 +12,7 @@ namespace orvanta::qt {
                          : QString::fromUtf8(text.view().data(), qsizetype(text.size()));
 }
 
+/// The other direction of `toQString`.
 [[nodiscard]] inline String fromQString(const QString& text) {
   if (text.isNull()) {
     return {};

@@ -38,6 +38,7 @@ class ORVANTA_QT_EXPORT Translator : public QTranslator {
   using KeyMapping = std::function<std::string(const char* context, const char* sourceText,
                                                const char* disambiguation)>;
 
+  /// With the source text, or id, as the key.
   explicit Translator(QObject* parent = nullptr);
   /// With another mapping than that of the source text to itself.
   explicit Translator(KeyMapping mapping, QObject* parent = nullptr);

@@ -29,31 +29,42 @@ class ORVANTA_QT_EXPORT UILocalizedButton : public QPushButton, public Localized
   Q_PROPERTY(bool mnemonics READ mnemonics WRITE setMnemonics)
 
  public:
+  /// Not localized before its layout awakens it or `configure` is called.
   explicit UILocalizedButton(QWidget* parent = nullptr);
   ~UILocalizedButton() override;
 
   /// For a button made in code, once it has its title.
   void configure();
 
+  /// The title of a state: its own, else that of the normal state; null without one.
   [[nodiscard]] QString titleForState(platform::ControlState state) const;
   /// A null title takes the state's own away: it has the normal one again.
   void setTitle(const QString& title, platform::ControlState state);
 
+  /// Where the title stands.
   [[nodiscard]] Qt::Alignment titleAlignment() const { return titleAlignment_; }
+  /// Takes effect at once.
   void setTitleAlignment(Qt::Alignment alignment);
 
+  /// Whether "&" marks a mnemonic.
   [[nodiscard]] bool mnemonics() const { return mnemonics_; }
+  /// Counts for titles that are set later.
   void setMnemonics(bool mnemonics) { mnemonics_ = mnemonics; }
 
   /// The button's rules and remembered state. Lives as long as the button.
   [[nodiscard]] orvanta::UILocalizedButton& control() const override { return *control_; }
 
+  /// Room for the largest of the titles.
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  /// As of the base class.
   void awake() override;
+  /// As of the base class.
   bool event(QEvent* event) override;
+  /// As of the base class.
   void paintEvent(QPaintEvent* event) override;
+  /// As of the base class.
   void initStyleOption(QStyleOptionButton* option) const override;
 
  private:

@@ -25,6 +25,7 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
   Q_PROPERTY(bool mnemonics READ mnemonics WRITE setMnemonics)
 
  public:
+  /// Not localized before its layout awakens it; see `initLocalizedWithFrame`.
   explicit UILocalizedLabel(QWidget* parent = nullptr);
   ~UILocalizedLabel() override;
 
@@ -39,14 +40,20 @@ class ORVANTA_QT_EXPORT UILocalizedLabel : public QLabel, public LocalizedWidget
   /// As QLabel's. A "&" in the text means the same before and after.
   void setBuddy(QWidget* buddy);
 
+  /// Whether "&" marks a mnemonic.
   [[nodiscard]] bool mnemonics() const;
+  /// Counts for texts that are set later.
   void setMnemonics(bool mnemonics);
 
+  /// As of the base class.
   [[nodiscard]] QSize sizeHint() const override;
+  /// As of the base class.
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  /// As of the base class.
   void awake() override;
+  /// As of the base class.
   bool event(QEvent* event) override;
 
  private:

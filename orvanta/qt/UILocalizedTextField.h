@@ -20,6 +20,7 @@ class ORVANTA_QT_EXPORT UILocalizedTextField : public QLineEdit, public Localize
   Q_OBJECT
 
  public:
+  /// Not localized before its layout awakens it.
   explicit UILocalizedTextField(QWidget* parent = nullptr);
   ~UILocalizedTextField() override;
 
@@ -27,7 +28,9 @@ class ORVANTA_QT_EXPORT UILocalizedTextField : public QLineEdit, public Localize
   [[nodiscard]] orvanta::UILocalizedTextField& control() const override { return *control_; }
 
  protected:
+  /// As of the base class.
   void awake() override;
+  /// As of the base class.
   bool event(QEvent* event) override;
 
  private:

@@ -15,9 +15,13 @@ namespace orvanta::standard {
 template <typename Interface>
 class MemoryAccessible : public Interface {
  public:
+  /// Absent until one is set.
   [[nodiscard]] String accessibilityLabel() const override { return label_; }
+  /// Remembers it.
   void setAccessibilityLabel(const String& label) override { label_ = label; }
+  /// Absent until one is set.
   [[nodiscard]] String accessibilityHint() const override { return hint_; }
+  /// Remembers it.
   void setAccessibilityHint(const String& hint) override { hint_ = hint; }
 
  private:
@@ -29,9 +33,13 @@ class MemoryAccessible : public Interface {
 template <typename Interface>
 class MemoryStyled : public Interface {
  public:
+  /// Null until one is set.
   [[nodiscard]] std::shared_ptr<const platform::Font> font() const override { return font_; }
+  /// Remembers it.
   void setFont(const std::shared_ptr<const platform::Font>& font) override { font_ = font; }
+  /// Natural until one is set.
   [[nodiscard]] platform::TextAlignment textAlignment() const override { return alignment_; }
+  /// Remembers it.
   void setTextAlignment(platform::TextAlignment alignment) override { alignment_ = alignment; }
 
  private:
@@ -43,11 +51,16 @@ class MemoryStyled : public Interface {
 template <typename Interface>
 class MemoryTexted : public MemoryStyled<MemoryAccessible<Interface>> {
  public:
+  /// With a frame, which is only remembered.
   explicit MemoryTexted(const platform::Rect& frame = {}) : frame_(frame) {}
 
+  /// As it was given.
   [[nodiscard]] const platform::Rect& frame() const ORVANTA_LIFETIME_BOUND { return frame_; }
+  /// Absent until one is set.
   [[nodiscard]] String text() const override { return text_; }
+  /// Remembers it.
   void setText(const String& text) override { text_ = text; }
+  /// The text where none is set.
   [[nodiscard]] String accessibilityLabel() const override {
     const String label = MemoryAccessible<Interface>::accessibilityLabel();
     return label.isAbsent() ? text_ : label;
@@ -58,13 +71,18 @@ class MemoryTexted : public MemoryStyled<MemoryAccessible<Interface>> {
   String text_;
 };
 
+/// A label that only remembers.
 using MemoryLabel = MemoryTexted<platform::Label>;
 
+/// A text field that only remembers.
 class MemoryTextField : public MemoryTexted<platform::TextField> {
  public:
+  /// See `MemoryTexted`.
   using MemoryTexted::MemoryTexted;
 
+  /// Absent until one is set.
   [[nodiscard]] String placeholder() const override { return placeholder_; }
+  /// Remembers it.
   void setPlaceholder(const String& placeholder) override { placeholder_ = placeholder; }
 
  private:

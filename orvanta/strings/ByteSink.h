@@ -16,7 +16,9 @@ class ORVANTA_EXPORT ByteSink {
 
  protected:
   ByteSink() = default;
+  /// For implementations.
   ByteSink(const ByteSink&) = default;
+  /// For implementations.
   ByteSink& operator=(const ByteSink&) = default;
 };
 

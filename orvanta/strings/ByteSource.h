@@ -18,7 +18,9 @@ class ORVANTA_EXPORT ByteSource {
 
  protected:
   ByteSource() = default;
+  /// For implementations.
   ByteSource(const ByteSource&) = default;
+  /// For implementations.
   ByteSource& operator=(const ByteSource&) = default;
 };
 

@@ -30,8 +30,11 @@ class StringTableBuilder;
 /// Reading one table from several threads is safe.
 class ORVANTA_EXPORT StringTable {
  public:
+  /// A key and its text.
   struct Entry {
+    /// UTF-8.
     std::string_view key;
+    /// UTF-8.
     std::string_view value;
   };
 
@@ -47,10 +50,12 @@ class ORVANTA_EXPORT StringTable {
   /// The same as a view, its data null when there is none, and the handle to what was found: for
   /// callers who look on elsewhere and make one handle in the end.
   [[nodiscard]] std::string_view find(const HashedKey& key) const noexcept ORVANTA_LIFETIME_BOUND;
+  /// The handle to what `find` found, which must be this table's.
   [[nodiscard]] String handleTo(std::string_view found) const noexcept {
     return arena_.part(found);
   }
 
+  /// The number of entries.
   [[nodiscard]] std::size_t size() const noexcept { return size_; }
 
   /// The entries in the order of the statements that hold. The views live as long as the table.

@@ -40,10 +40,13 @@ class Dictionary {
   Dictionary(std::initializer_list<std::pair<const String, Value>> entries)
       : Dictionary(Map(entries)) {}
 
+  /// Whether there is no dictionary.
   [[nodiscard]] bool isAbsent() const noexcept { return entries_ == nullptr; }
+  /// Whether there is one, empty or not.
   [[nodiscard]] bool isPresent() const noexcept { return entries_ != nullptr; }
   /// No entries: true for the empty dictionary and for absent.
   [[nodiscard]] bool empty() const noexcept { return size() == 0; }
+  /// The number of entries; 0 for absent.
   [[nodiscard]] std::size_t size() const noexcept { return isAbsent() ? 0 : entries_->map.size(); }
 
   /// The value under exactly this key, or null. Valid as long as some handle to this dictionary
@@ -51,6 +54,7 @@ class Dictionary {
   [[nodiscard]] const Value* find(const HashedKey& key) const& noexcept ORVANTA_LIFETIME_BOUND {
     return isAbsent() ? nullptr : entries_->find(key);
   }
+  /// The same for a key that is not hashed yet.
   [[nodiscard]] const Value* find(std::string_view key) const& noexcept ORVANTA_LIFETIME_BOUND {
     return find(HashedKey(key));
   }
@@ -72,6 +76,7 @@ class Dictionary {
   [[nodiscard]] auto begin() const& noexcept ORVANTA_LIFETIME_BOUND {
     return isAbsent() ? typename Map::const_iterator() : entries_->map.begin();
   }
+  /// See `begin`.
   [[nodiscard]] auto end() const& noexcept ORVANTA_LIFETIME_BOUND {
     return isAbsent() ? typename Map::const_iterator() : entries_->map.end();
   }

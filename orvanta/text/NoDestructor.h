@@ -14,6 +14,7 @@ namespace orvanta {
 template <typename T>
 class NoDestructor {
  public:
+  /// Makes the object in place.
   template <typename... Arguments>
   explicit NoDestructor(Arguments&&... arguments) {
     ::new (static_cast<void*>(storage_)) T(std::forward<Arguments>(arguments)...);
@@ -22,7 +23,9 @@ class NoDestructor {
   NoDestructor& operator=(const NoDestructor&) = delete;
   ~NoDestructor() = default;
 
+  /// The object.
   [[nodiscard]] T& operator*() noexcept { return *get(); }
+  /// The object.
   [[nodiscard]] T* operator->() noexcept { return get(); }
 
  private:

@@ -47,6 +47,7 @@ class ORVANTA_EXPORT String {
   constexpr String(std::string_view text)
       // What a constant expression refers to lives as long as the process.
       : String(std::is_constant_evaluated() ? fromStatic(text) : copyOf(text)) {}
+  /// A copy of `text`. Throws `std::bad_alloc`.
   String(const std::string& text) : String(std::string_view(text)) {}
   /// A copy of `text`; absent for a null pointer. Throws `std::bad_alloc`.
   constexpr String(const char* text)
@@ -63,17 +64,21 @@ class ORVANTA_EXPORT String {
   /// `std::bad_alloc`; the block then stays the caller's.
   [[nodiscard]] static String takingOver(char* block, std::size_t size);
 
+  /// Shares the text.
   constexpr String(const String& other) noexcept
       : text_(other.text_), size_(other.size_), storage_(other.storage_) {
     if (storage_ != nullptr) {
       storage_->retain();
     }
   }
+  /// Takes the text over; `other` is absent then.
   constexpr String(String&& other) noexcept
       : text_(std::exchange(other.text_, nullptr)),
         size_(std::exchange(other.size_, 0)),
         storage_(std::exchange(other.storage_, nullptr)) {}
+  /// Shares the text.
   constexpr String& operator=(const String& other) noexcept { return *this = String(other); }
+  /// Takes the text over; `other` is absent then.
   constexpr String& operator=(String&& other) noexcept {
     String incoming(std::move(other));
     std::swap(text_, incoming.text_);
@@ -87,7 +92,9 @@ class ORVANTA_EXPORT String {
     }
   }
 
+  /// Whether there is no text.
   [[nodiscard]] constexpr bool isAbsent() const noexcept { return text_ == nullptr; }
+  /// Whether there is one, empty or not.
   [[nodiscard]] constexpr bool isPresent() const noexcept { return text_ != nullptr; }
 
   /// No characters: true for the empty text and for absent.
@@ -131,6 +138,7 @@ class ORVANTA_EXPORT String {
   friend constexpr bool operator==(const String& a, const char* b) noexcept {
     return b == nullptr ? a.isAbsent() : a == std::string_view(b);
   }
+  /// Equality of characters; false where `a` is absent.
   template <OtherText Text>
   friend constexpr bool operator==(const String& a, const Text& b) noexcept {
     return a.isPresent() && a.view() == std::string_view(b);
@@ -142,9 +150,11 @@ class ORVANTA_EXPORT String {
     return a.isAbsent() || b.isAbsent() ? a.isPresent() <=> b.isPresent()
                                         : a.view().compare(b.view()) <=> 0;
   }
+  /// A null pointer stands where absent does.
   friend constexpr std::strong_ordering operator<=>(const String& a, const char* b) noexcept {
     return a <=> (b == nullptr ? String() : fromStatic(b));
   }
+  /// Order of the bytes.
   template <OtherText Text>
   friend constexpr std::strong_ordering operator<=>(const String& a, const Text& b) noexcept {
     return a <=> fromStatic(b);
@@ -176,8 +186,11 @@ constexpr String operator""_s(const char* text, std::size_t size) noexcept {
 
 }  // namespace orvanta
 
+/// @cond
 /// Differs from run to run; see `orvanta::textHash`.
 template <>
 struct ORVANTA_EXPORT std::hash<orvanta::String> {
+  /// The hash of the characters.
   [[nodiscard]] std::size_t operator()(const orvanta::String& text) const noexcept;
 };
+/// @endcond

@@ -23,10 +23,12 @@ class ORVANTA_EXPORT StringList {
  public:
   /// Absent. For the empty list see `emptyList`.
   StringList() noexcept = default;
+  /// A list of these entries, present even when there are none. Throws `std::bad_alloc`.
   StringList(std::initializer_list<String> items)
       : StringList(std::span<const String>(items.begin(), items.size())) {}
   /// A snapshot of `items`, present even when there are none. Throws `std::bad_alloc`.
   explicit StringList(std::span<const String> items);
+  /// The same. Throws `std::bad_alloc`.
   explicit StringList(const std::vector<String>& items)
       : StringList(std::span<const String>(items)) {}
 
@@ -36,11 +38,14 @@ class ORVANTA_EXPORT StringList {
   /// A list without entries that is present.
   [[nodiscard]] static StringList emptyList() { return StringList(std::span<const String>()); }
 
+  /// Whether there is no list.
   [[nodiscard]] bool isAbsent() const noexcept { return items_ == nullptr; }
+  /// Whether there is one, empty or not.
   [[nodiscard]] bool isPresent() const noexcept { return items_ != nullptr; }
 
   /// No entries: true for the empty list and for absent.
   [[nodiscard]] bool empty() const noexcept { return size_ == 0; }
+  /// The number of entries; 0 for absent.
   [[nodiscard]] std::size_t size() const noexcept { return size_; }
 
   /// Iterators stay valid as long as some handle to this list lives. Not for a temporary list,
@@ -48,6 +53,7 @@ class ORVANTA_EXPORT StringList {
   [[nodiscard]] const String* begin() const& noexcept ORVANTA_LIFETIME_BOUND {
     return items_.get();
   }
+  /// See `begin`.
   [[nodiscard]] const String* end() const& noexcept ORVANTA_LIFETIME_BOUND {
     return items_.get() + size_;
   }
@@ -58,11 +64,13 @@ class ORVANTA_EXPORT StringList {
   [[nodiscard]] const String& operator[](std::size_t index) const& noexcept ORVANTA_LIFETIME_BOUND {
     return items_.get()[index];
   }
+  /// The same of a temporary list, as a handle of the caller's own.
   [[nodiscard]] String operator[](std::size_t index) const&& noexcept {
     return items_.get()[index];
   }
   /// The first entry; the list must not be empty.
   [[nodiscard]] const String& front() const& noexcept ORVANTA_LIFETIME_BOUND { return items_[0]; }
+  /// The same of a temporary list, as a handle of the caller's own.
   [[nodiscard]] String front() const&& noexcept { return items_[0]; }
 
   /// Identity: both handles refer to the same list. Absent is the same object as absent.
@@ -80,6 +88,7 @@ class ORVANTA_EXPORT StringList {
   std::size_t size_ = 0;
 };
 
+/// Makes a list entry by entry.
 class StringList::Builder {
  public:
   /// At most `most` calls of `add` may follow.

@@ -18,6 +18,7 @@ namespace orvanta {
 /// ordinary value: copies are independent, and different threads may read one payload.
 class ORVANTA_EXPORT StringsPayload {
  public:
+  /// A key and its value.
   using Entry = std::pair<String, StringsPayload>;
 
   /// Nothing.
@@ -34,8 +35,11 @@ class ORVANTA_EXPORT StringsPayload {
 
   /// Copying takes time and memory linear in the number of entries, and throws `std::bad_alloc`.
   StringsPayload(const StringsPayload& other);
+  /// Takes everything over; `other` is nothing then.
   StringsPayload(StringsPayload&& other) noexcept;
+  /// See the copy constructor.
   StringsPayload& operator=(const StringsPayload& other);
+  /// Takes everything over; `other` is nothing then.
   StringsPayload& operator=(StringsPayload&& other) noexcept;
   ~StringsPayload();
 
@@ -46,11 +50,14 @@ class ORVANTA_EXPORT StringsPayload {
   /// look-up finds the last. Throws `std::bad_alloc`.
   void add(String key, StringsPayload value);
 
+  /// Whether this is a text.
   [[nodiscard]] bool isText() const noexcept { return !isDictionary_ && text_.isPresent(); }
+  /// Whether this is a dictionary, empty or not.
   [[nodiscard]] bool isDictionary() const noexcept { return isDictionary_; }
 
   /// Absent unless this is a text.
   [[nodiscard]] const String& text() const& noexcept ORVANTA_LIFETIME_BOUND { return text_; }
+  /// The same of a temporary payload.
   [[nodiscard]] String text() && noexcept { return std::move(text_); }
 
   /// In the order in which they were added; none unless this is a dictionary. Valid until the

@@ -118,27 +118,37 @@ ORVANTA_EXPORT std::uint64_t hashLong(const char* bytes, std::size_t size,
 /// A key with its hash, computed once for look-ups in several tables. A view: the text must outlive
 /// it. It cannot be absent: a view with null data is the empty key.
 struct HashedKey {
+  /// Views the key, which must live as long as this.
   explicit HashedKey(std::string_view key ORVANTA_LIFETIME_BOUND) noexcept
       : text(key.empty() ? std::string_view("") : key), hash(textHash(key)) {}
 
   std::string_view text;  ///< Its data is never null.
+  /// Its `textHash`.
   std::uint64_t hash;
 };
 
 /// Hash and equality for a dictionary that is searched with a view of the key. An absent key and an
 /// empty one are different keys with the same hash.
 struct TextHash {
+  /// Lets maps be asked with views.
   using is_transparent = void;
+  /// The hash of the characters.
   std::size_t operator()(std::string_view text) const noexcept {
     return static_cast<std::size_t>(textHash(text));
   }
+  /// The hash of the characters; that of the empty text for absent.
   std::size_t operator()(const String& text) const noexcept { return (*this)(text.view()); }
 };
 
+/// Equality to go with `TextHash`.
 struct TextEqual {
+  /// Lets maps be asked with views.
   using is_transparent = void;
+  /// Absent equals only absent.
   bool operator()(const String& a, const String& b) const noexcept { return a == b; }
+  /// False where `a` is absent.
   bool operator()(const String& a, std::string_view b) const noexcept { return a == b; }
+  /// False where `b` is absent.
   bool operator()(std::string_view a, const String& b) const noexcept { return a == b; }
 };
 

@@ -23,6 +23,7 @@ class ORVANTA_EXPORT TextStorage {
   TextStorage(const TextStorage&) = delete;
   TextStorage& operator=(const TextStorage&) = delete;
 
+  /// Counts one handle more.
   void retain() noexcept {
     if (processHasOneThread()) {
       handles_.store(handles_.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
@@ -31,6 +32,7 @@ class ORVANTA_EXPORT TextStorage {
     }
   }
 
+  /// Counts one handle less, and deletes this with the last.
   void release() noexcept {
     if (processHasOneThread()) {
       const std::uint64_t left = handles_.load(std::memory_order_relaxed) - 1;

@@ -31,7 +31,9 @@ class ORVANTA_EXPORT URL {
   /// "/". Absent stays absent.
   [[nodiscard]] URL URLByAppendingPathComponent(std::string_view component, bool isDirectory) const;
 
+  /// Whether there is no URL.
   [[nodiscard]] constexpr bool isAbsent() const noexcept { return text_.isAbsent(); }
+  /// Whether there is one.
   [[nodiscard]] constexpr bool isPresent() const noexcept { return text_.isPresent(); }
   /// The same as `isAbsent`: no URL has an empty text.
   [[nodiscard]] constexpr bool empty() const noexcept { return text_.empty(); }
@@ -42,6 +44,7 @@ class ORVANTA_EXPORT URL {
   [[nodiscard]] const String& absoluteString() const& noexcept ORVANTA_LIFETIME_BOUND {
     return text_;
   }
+  /// The same of a temporary URL.
   [[nodiscard]] String absoluteString() && noexcept { return std::move(text_); }
 
   /// The path with its escapes decoded, without query, fragment and trailing "/". Absent when the

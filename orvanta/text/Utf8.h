@@ -10,11 +10,13 @@
 /// and values above U+10FFFF are invalid. Thread-safe.
 namespace orvanta::utf8 {
 
+/// U+FFFD, which stands for what is no character.
 inline constexpr char32_t kReplacement = 0xFFFD;
 
 /// The length of the longest character in bytes.
 inline constexpr std::size_t kLongest = 4;
 
+/// What `decode` gives.
 struct Decoded {
   char32_t codePoint;  ///< U+FFFD where the bytes are not valid.
   std::size_t length;  ///< Bytes taken; 0 only for an empty text.

@@ -76,14 +76,15 @@ def wrong_links(page, text):
 
 def tests_of(root):
     names = set()
-    for file in (root / "tests").rglob("*"):
+    files = [*(root / "tests").rglob("*"), root / "cmake/Documentation.cmake"]
+    for file in files:
         if file.suffix in (".cpp", ".h"):
             text = file.read_text()
             names |= {f"{suite}.{name}" for suite, name in re.findall(TEST, text)}
             if file.parent.name in ("qt", "quick"):  # A class of the file's name, with slots.
                 slots = re.findall(r"^  (?:static )?void (\w+)\(\)", text, re.MULTILINE)
                 names |= {f"{file.stem}.{slot}" for slot in slots}
-        elif file.name == "CMakeLists.txt":
+        elif file.name == "CMakeLists.txt" or file.suffix == ".cmake":
             text = file.read_text()
             names |= set(re.findall(r"add_test\(NAME (\w+)", text))
             names |= {"Consumer" + n for n in re.findall(r"orvanta_add_consumer_test\((\w+)", text)}

@@ -14,11 +14,15 @@ namespace orvanta::strings {
 /// Where a reader stumbled. Lines and columns count from 1, columns in characters; a binary file
 /// has neither, both are 0.
 struct TableProblem {
+  /// From 1; 0 in a binary file.
   std::size_t line = 0;
+  /// In characters, from 1; 0 in a binary file.
   std::size_t column = 0;
+  /// What is wrong, for people.
   std::string message;
 };
 
+/// Told of each problem, in the order of the file.
 using ProblemCollector = std::function<void(const TableProblem&)>;
 
 /// Reads a strings file in any of its three forms, told apart by content: the text form, an XML

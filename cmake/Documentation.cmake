@@ -1,0 +1,36 @@
+# The reference of the public headers: `cmake --build build --target docs` writes it to docs/html in
+# the build folder. Only where Doxygen is found. An undocumented public name is an error.
+find_package(Doxygen QUIET)
+if(NOT DOXYGEN_FOUND)
+  return()
+endif()
+
+set(DOXYGEN_PROJECT_NAME "Orvanta Localizer")
+set(DOXYGEN_PROJECT_BRIEF "${PROJECT_DESCRIPTION}")
+set(DOXYGEN_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/docs)
+set(DOXYGEN_GENERATE_LATEX NO)
+set(DOXYGEN_STRIP_FROM_PATH ${PROJECT_SOURCE_DIR})
+set(DOXYGEN_STRIP_FROM_INC_PATH ${PROJECT_SOURCE_DIR})
+set(DOXYGEN_USE_MDFILE_AS_MAINPAGE ${PROJECT_SOURCE_DIR}/docs/guide.md)
+set(DOXYGEN_JAVADOC_AUTOBRIEF YES)
+set(DOXYGEN_EXCLUDE_SYMBOLS "orvanta::hashing" "orvanta::Dictionary::Indexed" "std::*")
+set(DOXYGEN_HIDE_UNDOC_MEMBERS NO)
+set(DOXYGEN_WARN_AS_ERROR FAIL_ON_WARNINGS)
+set(DOXYGEN_QUIET YES)
+# Macros that Doxygen's parser does not know.
+set(DOXYGEN_MACRO_EXPANSION YES)
+set(DOXYGEN_EXPAND_ONLY_PREDEF YES)
+set(DOXYGEN_PREDEFINED
+  ORVANTA_EXPORT= ORVANTA_HIDDEN= ORVANTA_QT_EXPORT= ORVANTA_LIFETIME_BOUND= Q_OBJECT=)
+
+set(documented "")
+foreach(library IN ITEMS orvanta orvanta_qt orvanta_quick)
+  if(TARGET ${library})
+    get_target_property(headers ${library} HEADER_SET)
+    list(APPEND documented ${headers})
+  endif()
+endforeach()
+doxygen_add_docs(docs ${documented} COMMENT "Writing the reference")
+if(ORVANTA_BUILD_TESTS AND NOT ORVANTA_SANITIZE)
+  add_test(NAME Reference COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target docs)
+endif()
