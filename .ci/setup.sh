@@ -100,3 +100,7 @@ core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-
 test_packages=(libgtest-dev libgmock-dev clang clang-format libclang-rt-14-dev libicu-dev pkgconf doxygen)
 # The last is a font with Han letters, for the pictures of the demo.
 qt_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev fonts-droid-fallback)
+# The modules are what QtQuick.Controls needs at run time.
+quick_packages=(qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-controls
+  qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
+  qml6-module-qtqml-workerscript)

@@ -1,15 +1,18 @@
 # What is installed, in the components of which packages are made: Core and Qt are what a program
-# needs to run, Development and QtDevelopment what is needed to build one, Command is ovlocalize.
+# needs to run, Development and QtDevelopment what is needed to build one, and so for Quick; Command
+# is ovlocalize.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OrvantaLocalizer)
 
-# Installs a library and the file of targets that find_package reads for a component.
+# orvanta_install_library(TARGET COMPONENT DEVELOPMENT PART...) installs a library and the file of
+# targets that find_package reads for a component. PARTs are objects that belong to a static one.
 function(orvanta_install_library target component development)
-  install(TARGETS ${target} EXPORT OrvantaLocalizer${component}
+  install(TARGETS ${target} ${ARGN} EXPORT OrvantaLocalizer${component}
     RUNTIME COMPONENT ${component}
     LIBRARY COMPONENT ${component} NAMELINK_COMPONENT ${development}
     ARCHIVE COMPONENT ${development}
+    OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/orvanta COMPONENT ${development}
     FILE_SET HEADERS COMPONENT ${development})
   install(EXPORT OrvantaLocalizer${component} NAMESPACE OrvantaLocalizer::
     DESTINATION ${package_dir} COMPONENT ${development})
@@ -18,6 +21,12 @@ endfunction()
 orvanta_install_library(orvanta Core Development)
 if(TARGET orvanta_qt)
   orvanta_install_library(orvanta_qt Qt QtDevelopment)
+endif()
+if(TARGET orvanta_quick)
+  get_property(quick_parts GLOBAL PROPERTY ORVANTA_QUICK_TARGETS)
+  orvanta_install_library(orvanta_quick Quick QuickDevelopment ${quick_parts})
+  install(FILES orvanta/quick/Import.cpp DESTINATION ${CMAKE_INSTALL_DATADIR}/orvanta/quick
+          COMPONENT QuickDevelopment)
 endif()
 if(TARGET orvanta_resources)
   install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)

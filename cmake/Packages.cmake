@@ -38,5 +38,13 @@ if(TARGET orvanta_qt)
                   "Live localization: development files of the Qt widgets"
                   "${qt} ${same_version}, liborvanta-dev ${same_version}, qt6-base-dev, qt6-tools-dev, libqt6opengl6-dev")
 endif()
+if(TARGET orvanta_quick)
+  set(quick liborvanta-quick${PROJECT_VERSION_MAJOR})
+  orvanta_package(Quick ${quick} libs "Live localization: the Qt Quick module"
+                  "${qt} ${same_version}, qml6-module-qtquick-controls")
+  orvanta_package(QuickDevelopment liborvanta-quick-dev libdevel
+                  "Live localization: development files of the Qt Quick module"
+                  "${quick} ${same_version}, liborvanta-qt-dev ${same_version}, qt6-declarative-dev")
+endif()
 
 include(CPack)

@@ -6,6 +6,7 @@
 
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/locale/Localizer.h>
+#include <orvanta/qt/FontProperties.h>
 #include <orvanta/qt/WidgetFont.h>
 #include <orvanta/qt/platform/QtFont.h>
 #include <orvanta/qt/platform/QtFonts.h>
@@ -14,27 +15,8 @@ namespace orvanta::qt {
 
 namespace {
 
-// Those of `properties` for which both fonts have the same value. They are QFont's, one a bit.
-uint agreement(uint properties, QFont font, const QFont& other) {
-  uint same = 0;
-  for (uint property = 1; property <= properties; property <<= 1U) {
-    if ((property & properties) != 0) {
-      font.setResolveMask(property);
-      same |= font.resolve(other) == other ? property : 0U;
-    }
-  }
-  return same;
-}
-
 bool isSameOwnFont(const QFont& font, const QFont& other) {
   return font.resolveMask() == other.resolveMask() && font == other;
-}
-
-QFont withProperties(uint properties, QFont font, const QFont& rest) {
-  font.setResolveMask(properties);
-  QFont both = font.resolve(rest);
-  both.setResolveMask(properties | rest.resolveMask());
-  return both;
 }
 
 // The properties that were set on the widget itself or by a style sheet, under which nothing is

@@ -2,7 +2,7 @@
 # installed tree may be moved.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
-foreach(component IN ITEMS Core Development Qt QtDevelopment)
+foreach(component IN ITEMS Core Development Qt QtDevelopment Quick QuickDevelopment)
   must_run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component ${component}
            --prefix ${WORK_DIR}/first)
 endforeach()

@@ -7,8 +7,9 @@ configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/core ${find_options}
 must_answer(${WORK_DIR}/core/consumer "${core_answer}")
 must_answer(${WORK_DIR}/core/consumer_plain "${core_answer}")
 if(WITH_QT)
-  configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/qt ${find_options} -DCOMPONENT=Qt)
-  must_answer(${WORK_DIR}/qt/consumer_qt "${qt_answer}")
+  configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/qt ${find_options}
+                      -DCOMPONENT=${component})
+  applications_must_answer(${WORK_DIR}/qt)
 endif()
 
 file(GLOB_RECURSE pc ${WORK_DIR}/prefix/*/orvanta.pc)

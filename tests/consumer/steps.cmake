@@ -27,3 +27,22 @@ endfunction()
 
 set(core_answer "1 Connexion Connexion")
 set(qt_answer "Connexion")
+
+# The component that is furthest from the core.
+set(component Core)
+if(WITH_QUICK)
+  set(component Quick)
+elseif(WITH_QT)
+  set(component Qt)
+endif()
+
+# applications_must_answer(FOLDER) runs those that were built there for the component.
+function(applications_must_answer folder)
+  must_answer(${folder}/consumer "${core_answer}")
+  if(WITH_QT)
+    must_answer(${folder}/consumer_qt "${qt_answer}")
+  endif()
+  if(WITH_QUICK)
+    must_answer(${folder}/consumer_quick "${qt_answer}")
+  endif()
+endfunction()
