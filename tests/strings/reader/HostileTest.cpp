@@ -25,63 +25,65 @@ void checkInTime(const std::string& bytes) {
   EXPECT_EQ(reading.table->textForKey(HashedKey("good")), "G");
 }
 
+struct Row {
+  const char* name;
+  std::string head;
+  std::string unit;
+  std::string tail;
+};
+const Row kRows[] = {
+    {"opening quotes", "", "\"", ""},
+    {"open strings", "", "k = \"x\n", ""},
+    {"open strings of both kinds", "", "k = \"x\nk = 'x\n", ""},
+    {"open strings with escapes", "", "k = \"\\\"\nk=\"\\", ""},
+    {"an open string before many statements", "\"k\" = \"x\n", "k = v;\n", ""},
+    {"escapes", "k = \"", "\\\"", ""},
+    {"open comments", "", "/*", ""},
+    {"open comments behind values", "", "k = v /*\n", ""},
+    {"a comment that ends far away", "", "k = v /*\n", "*/ !"},
+    {"chains of comments", "", "'k' /*\n'k' /*x*/ ", ""},
+    {"comments behind escaped quotes", "k = \"", "/*\\\";\n/**/", ""},
+    {"line comments", "", ";a=//", ""},
+    {"line comments and statements", "a'>", "k=v;\"//", "\"k\""},
+    {"line comments within lines", "", "k=v;(k='//", ""},
+    {"brackets", "k = ", "(", ""},
+    {"brackets on lines", "", "k = (\n", ""},
+    {"braces on lines", "", "k = {\n", ""},
+    {"braces with statements", "", "k = {k = v; ", ""},
+    {"data without end", "", "k = <00\n", ""},
+    {"semicolons", "", ";", ""},
+    {"statements by halves in a line", "", ";a=b!", ""},
+    {"open strings in a line", "", ";a='\\';", ""},
+    {"quotes before comments", "a=\"b\"c", "/*\";/*/", ">"},
+    {"heads over lines", "", "\"k\"\n/**/", "!"},
+    {"values over lines", "", "\"k\" =\n", "!"},
+    {"dictionaries inside of dictionaries", "", "\"k\"={\"k\"=", ""},
+    {"indented dictionaries", "k", "\n k = {", "!"},
+    {"data inside of a dictionary", "k={", "<", ""},
+    {"closing braces", "{k=v;", "x}", ""},
+    {"comments inside of comments", "", "/*\na=b;\n/* */", ""},
+    {"signs of markup", "", "<", ""},
+    {"bare quotes", "k = \"", "\"x", "\";"},
+    {"bare quotes and semicolons", "k = \"", "\"; x", "\";\n"},
+    {"blank lines", "k = \"x", "\n", "!"},
+    {"spaces", "", " =", ""},
+    {"wide spaces", "", "\u00A0\u00E9", ""},
+    {"control characters", "", "\x01\x02=", ""},
+    {"marks of UTF-16", "", "\uFEFF\xFF", ""},
+    {"XML: nested dictionaries", kXml + "<key>a</key>", "<dict>", ""},
+    {"XML: crossed ends", kXml + "<key>a</key>" + filled("<dict>"), "</array>", ""},
+    {"XML: comments without end", kXml, "<!--", ""},
+    {"XML: literal sections without end", kXml, "<![CDATA[", ""},
+    {"XML: instructions without end", kXml, "<?", ""},
+    {"XML: open quotes", kXml, "<a b='", ""},
+    {"XML: keys and blemishes", kXml, "<key>a</key>?", ""},
+    {"XML: references", kXml + "<key>", "&#x;", "</key><string>"},
+    {"XML: ampersands", kXml + "<key>a</key><string>", "&", ""},
+};
+
+// A good statement, the head, the unit again and again, and the tail.
 TEST(HostileTable, TakesLinearTimeWhateverComes) {
-  struct Row {
-    const char* name;
-    std::string head;
-    std::string unit;
-    std::string tail;
-  };
-  const Row rows[] = {
-      {"opening quotes", "", "\"", ""},
-      {"open strings", "", "k = \"x\n", ""},
-      {"open strings of both kinds", "", "k = \"x\nk = 'x\n", ""},
-      {"open strings with escapes", "", "k = \"\\\"\nk=\"\\", ""},
-      {"an open string before many statements", "\"k\" = \"x\n", "k = v;\n", ""},
-      {"escapes", "k = \"", "\\\"", ""},
-      {"open comments", "", "/*", ""},
-      {"open comments behind values", "", "k = v /*\n", ""},
-      {"a comment that ends far away", "", "k = v /*\n", "*/ !"},
-      {"chains of comments", "", "'k' /*\n'k' /*x*/ ", ""},
-      {"comments behind escaped quotes", "k = \"", "/*\\\";\n/**/", ""},
-      {"line comments", "", ";a=//", ""},
-      {"line comments and statements", "a'>", "k=v;\"//", "\"k\""},
-      {"line comments within lines", "", "k=v;(k='//", ""},
-      {"brackets", "k = ", "(", ""},
-      {"brackets on lines", "", "k = (\n", ""},
-      {"braces on lines", "", "k = {\n", ""},
-      {"braces with statements", "", "k = {k = v; ", ""},
-      {"data without end", "", "k = <00\n", ""},
-      {"semicolons", "", ";", ""},
-      {"statements by halves in a line", "", ";a=b!", ""},
-      {"open strings in a line", "", ";a='\\';", ""},
-      {"quotes before comments", "a=\"b\"c", "/*\";/*/", ">"},
-      {"heads over lines", "", "\"k\"\n/**/", "!"},
-      {"values over lines", "", "\"k\" =\n", "!"},
-      {"dictionaries inside of dictionaries", "", "\"k\"={\"k\"=", ""},
-      {"indented dictionaries", "k", "\n k = {", "!"},
-      {"data inside of a dictionary", "k={", "<", ""},
-      {"closing braces", "{k=v;", "x}", ""},
-      {"comments inside of comments", "", "/*\na=b;\n/* */", ""},
-      {"signs of markup", "", "<", ""},
-      {"bare quotes", "k = \"", "\"x", "\";"},
-      {"bare quotes and semicolons", "k = \"", "\"; x", "\";\n"},
-      {"blank lines", "k = \"x", "\n", "!"},
-      {"spaces", "", " =", ""},
-      {"wide spaces", "", "\u00A0\u00E9", ""},
-      {"control characters", "", "\x01\x02=", ""},
-      {"marks of UTF-16", "", "\uFEFF\xFF", ""},
-      {"XML: nested dictionaries", kXml + "<key>a</key>", "<dict>", ""},
-      {"XML: crossed ends", kXml + "<key>a</key>" + filled("<dict>"), "</array>", ""},
-      {"XML: comments without end", kXml, "<!--", ""},
-      {"XML: literal sections without end", kXml, "<![CDATA[", ""},
-      {"XML: instructions without end", kXml, "<?", ""},
-      {"XML: open quotes", kXml, "<a b='", ""},
-      {"XML: keys and blemishes", kXml, "<key>a</key>?", ""},
-      {"XML: references", kXml + "<key>", "&#x;", "</key><string>"},
-      {"XML: ampersands", kXml + "<key>a</key><string>", "&", ""},
-  };
-  for (const Row& row : rows) {
+  for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
     const std::string good = row.head.starts_with(kXml) ? "" : "good = G;\n";
     checkInTime(good + row.head + filled(row.unit) + row.tail);
