@@ -1,12 +1,10 @@
-#include <array>
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <span>
-#include <vector>
 
 #include <orvanta/fonts/ResourceFace.h>
 #include <orvanta/platform/Platform.h>
+#include <orvanta/strings/ReadBuffer.h>
 
 namespace orvanta::localizationUtilities {
 
@@ -14,19 +12,8 @@ namespace {
 
 constexpr double kSizeAtCreation = 17.0;
 
-// Nothing when the file is missing or reading fails half-way.
-std::vector<char> contentsOfFile(const String& path) {
-  std::vector<char> contents;
-  const std::unique_ptr<platform::ReadableFile> file =
-      platform::Platform::current().files->openFileForReading(path);
-  std::array<char, 64UL * 1024> buffer;
-  std::optional<std::size_t> count = file == nullptr ? 0 : file->read(buffer);
-  while (count && *count > 0) {
-    contents.insert(contents.end(), buffer.data(), buffer.data() + *count);
-    count = file->read(buffer);
-  }
-  return count ? contents : std::vector<char>();
-}
+// What most fonts need. Larger ones are read as well.
+constexpr std::size_t kExpectedSize = std::size_t{512} * 1024;
 
 }  // namespace
 
@@ -36,8 +23,12 @@ void ovLoadFontNamed(const String& name) {
   if (library == nullptr) {
     return;
   }
-  const std::vector<char> data = contentsOfFile(library->pathForResource(name, "ttf"_s));
-  platform.fonts->registerFontData(std::as_bytes(std::span(data)));
+  const std::unique_ptr<platform::ReadableFile> file =
+      platform.files->openFileForReading(library->pathForResource(name, "ttf"_s));
+  strings::ReadBuffer data;
+  // No data when the file is missing or cannot be read to its end.
+  static_cast<void>(file != nullptr && data.read(*file, kExpectedSize));
+  platform.fonts->registerFontData(std::as_bytes(std::span(data.view())));
 }
 
 FontHandle ResourceFace::font() {

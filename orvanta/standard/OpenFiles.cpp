@@ -17,19 +17,9 @@ class PosixReadableFile final : public platform::ReadableFile {
   explicit PosixReadableFile(FileDescriptor file) : file_(std::move(file)) {}
 
   std::optional<std::size_t> read(std::span<char> buffer) override {
-    std::size_t filled = 0;
-    while (filled < buffer.size()) {
-      const ssize_t count = uninterrupted(
-          [&] { return ::read(file_.get(), buffer.data() + filled, buffer.size() - filled); });
-      if (count < 0) {
-        return std::nullopt;
-      }
-      if (count == 0) {
-        break;
-      }
-      filled += static_cast<std::size_t>(count);
-    }
-    return filled;
+    const ssize_t count =
+        uninterrupted([&] { return ::read(file_.get(), buffer.data(), buffer.size()); });
+    return count < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(count));
   }
 
  private:

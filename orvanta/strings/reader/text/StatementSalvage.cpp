@@ -11,7 +11,6 @@ constexpr const char* kNoSign = R"("=" or ";" is missing behind the key; stateme
 constexpr const char* kNoValue = "the value is missing; statement skipped";
 constexpr const char* kMissingSemicolon = "the semicolon is missing";
 constexpr const char* kNoSemicolon = "\";\" is missing behind the value; statement skipped";
-constexpr const char* kBareQuote = "a quote without a backslash inside a value; taken as text";
 constexpr const char* kOpenString = "a string that is never closed; taken to end with its line";
 constexpr const char* kOpenKey = "a key that is never closed; statement skipped";
 

@@ -5,6 +5,10 @@
 
 namespace orvanta::strings {
 
+/// The message of a value that ends behind such a quote.
+inline constexpr const char* kBareQuote =
+    "a quote without a backslash inside a value; taken as text";
+
 /// What can be saved of a damaged statement.
 struct Salvage {
   TextToken value;      ///< None when the statement is lost.

@@ -47,6 +47,11 @@ inline constexpr std::array<unsigned char, 256> kCharacterKinds = makeCharacterK
   return (kCharacterKinds[static_cast<unsigned char>(c)] & kind) != 0;
 }
 
+/// Whether words are made of `c`; the marks of paths and addresses are not.
+[[nodiscard]] inline bool isWordCharacter(char c) noexcept {
+  return isKind(c, kPlain | kWide) && c != '.' && c != '-' && c != ':' && c != '/';
+}
+
 /// The size of the line break at the front of `text`; 0 when there is none.
 ///
 ///     LF    CR    CR LF    U+2028    U+2029

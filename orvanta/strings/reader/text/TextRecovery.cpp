@@ -16,13 +16,8 @@ constexpr const char* kMissingBrace = "the closing brace is missing";
 constexpr const char* kOtherValue = "the value is no text; statement skipped";
 constexpr const char* kOpenCollection = "a value that is no text and does not end; skipped";
 constexpr const char* kLostStatement = "no sound statement; skipped";
-constexpr const char* kBareQuote = "a quote without a backslash inside a value; taken as text";
 constexpr const char* kLoneSurrogate = "half a surrogate pair; U+FFFD stands for it";
 constexpr const char* kTooDamaged = "too much damage; what follows is read line by line";
-
-bool isWordCharacter(char c) noexcept {
-  return isKind(c, kPlain | kWide) && c != '.' && c != '-' && c != ':' && c != '/';
-}
 
 }  // namespace
 
