@@ -33,25 +33,28 @@ bool isXml(EncodedText text) noexcept {
   return looksLikeXmlTable({first.data(), size});
 }
 
-std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems) {
+std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems,
+                                            const StatementCollector& statements) {
   StringTableBuilder table(expectedArena(text));
-  const bool isTable =
-      isXml(text) ? readXmlTable(text, table, problems) : readTextTable(text, table, problems);
+  const bool isTable = isXml(text) ? readXmlTable(text, table, problems, statements)
+                                   : readTextTable(text, table, problems, statements);
   return isTable ? table.build() : nullptr;
 }
 
 std::shared_ptr<const StringTable> readBinary(std::string_view bytes,
-                                              const ProblemCollector& problems) {
+                                              const ProblemCollector& problems,
+                                              const StatementCollector& statements) {
   StringTableBuilder table(bytes.size());
-  return readBinaryTable(bytes, table, problems) ? table.build() : nullptr;
+  return readBinaryTable(bytes, table, problems, statements) ? table.build() : nullptr;
 }
 
 }  // namespace
 
 std::shared_ptr<const StringTable> readStringTable(std::string_view bytes,
-                                                   const ProblemCollector& problems) {
-  return looksLikeBinaryTable(bytes) ? readBinary(bytes, problems)
-                                     : readText(detectEncoding(bytes), problems);
+                                                   const ProblemCollector& problems,
+                                                   const StatementCollector& statements) {
+  return looksLikeBinaryTable(bytes) ? readBinary(bytes, problems, statements)
+                                     : readText(detectEncoding(bytes), problems, statements);
 }
 
 }  // namespace orvanta::strings

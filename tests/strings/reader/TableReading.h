@@ -16,18 +16,21 @@ namespace orvanta::strings {
 /// What came of reading a file, as texts for a row to hold.
 struct TableReading {
   std::shared_ptr<const StringTable> table;
-  std::string pairs;   ///< "key=value", by key, with "|" between them; or `kNoTable`.
-  std::string places;  ///< "line:column" of every problem, with blanks between them.
+  std::string pairs;         ///< "key=value", by key, with "|" between them; or `kNoTable`.
+  std::string places;        ///< "line:column" of every problem, with blanks between them.
+  std::string statements{};  ///< "key@line:column" of every statement, and a blank.
 };
 
 inline constexpr const char* kNoTable = "no table";
 
 inline TableReading readTable(std::string_view bytes) {
   TableReading reading;
+  const auto add = [](std::string& list, std::size_t line, std::size_t column) {
+    list += (list.empty() ? "" : " ") + std::to_string(line) + ":" + std::to_string(column);
+  };
   reading.table = readStringTable(bytes, [&](const TableProblem& problem) {
     EXPECT_FALSE(problem.message.empty());
-    reading.places += (reading.places.empty() ? "" : " ") + std::to_string(problem.line) + ":" +
-                      std::to_string(problem.column);
+    add(reading.places, problem.line, problem.column);
   });
   if (reading.table == nullptr) {
     EXPECT_FALSE(reading.places.empty()) << "a refusal says why";
@@ -35,7 +38,16 @@ inline TableReading readTable(std::string_view bytes) {
     return reading;
   }
   std::map<std::string_view, std::string_view> sorted;
+  std::map<std::string, std::string> told;
+  static_cast<void>(readStringTable(bytes, {}, [&](const TableStatement& statement) {
+    told[statement.key];
+    std::string place;
+    add(place, statement.line, statement.column);
+    reading.statements += statement.key + "@" + place + " ";
+  }));
+  EXPECT_EQ(told.size(), reading.table->size());
   for (const StringTable::Entry& entry : reading.table->entries()) {
+    EXPECT_TRUE(told.contains(std::string(entry.key))) << "not told: " << entry.key;
     EXPECT_TRUE(sorted.emplace(entry.key, entry.value).second) << "twice: " << entry.key;
   }
   for (const auto& [key, value] : sorted) {

@@ -24,10 +24,11 @@ constexpr std::size_t kLongestQuote = 80;
 class BinaryTableReader {
  public:
   BinaryTableReader(std::string_view file, const BinaryObjects& objects, StringTableBuilder& table,
-                    const ProblemCollector& problems)
+                    const ProblemCollector& problems, const StatementCollector& statements)
       : objects_(objects),
         table_(table),
         problems_(problems),
+        statements_(statements),
         left_(kAlwaysGranted + kLargestGrowth * file.size()) {}
 
   // False when the dictionary has pairs, but no key is a text.
@@ -82,8 +83,12 @@ class BinaryTableReader {
     }
     table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
                        static_cast<std::size_t>(valueEnd - keyEnd));
+    if (statements_) {
+      statements_({0, 0, std::string(begin, keyEnd)});
+    }
     if (replacements.count > 0) {
-      report("damaged characters under \"" + quoted(key) + "\"; U+FFFD stands for them");
+      report("damaged characters under \"" + quoted(key) + "\"; U+FFFD stands for them",
+             TableProblem::Kind::characters);
     }
     return true;
   }
@@ -95,15 +100,16 @@ class BinaryTableReader {
     return BinaryText(key).str() + (whole ? "" : "...");
   }
 
-  void report(std::string message) const {
+  void report(std::string message, TableProblem::Kind kind = TableProblem::Kind::statement) const {
     if (problems_) {
-      problems_({0, 0, std::move(message)});
+      problems_({0, 0, std::move(message), kind});
     }
   }
 
   const BinaryObjects& objects_;
   StringTableBuilder& table_;
   const ProblemCollector& problems_;
+  const StatementCollector& statements_;
   std::size_t left_;
 };
 
@@ -114,10 +120,10 @@ bool looksLikeBinaryTable(std::string_view bytes) noexcept {
 }
 
 bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
-                     const ProblemCollector& problems) {
+                     const ProblemCollector& problems, const StatementCollector& statements) {
   const auto refuse = [&](const char* why) {
     if (problems) {
-      problems({0, 0, why});
+      problems({0, 0, why, TableProblem::Kind::statement});
     }
     return false;
   };
@@ -132,7 +138,7 @@ bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
   if (!top || top->kind != BinaryKind::kDictionary) {
     return refuse("a binary property list without a dictionary at its top");
   }
-  return BinaryTableReader(bytes, *objects, table, problems).read(*top);
+  return BinaryTableReader(bytes, *objects, table, problems, statements).read(*top);
 }
 
 }  // namespace orvanta::strings

@@ -21,6 +21,7 @@ namespace orvanta::strings {
 /// False, with the reason reported, when the frame of the file is broken, its top object is no
 /// dictionary or none of its keys is a text; nothing was added then.
 [[nodiscard]] bool readBinaryTable(std::string_view bytes, StringTableBuilder& table,
-                                   const ProblemCollector& problems);
+                                   const ProblemCollector& problems,
+                                   const StatementCollector& statements);
 
 }  // namespace orvanta::strings

@@ -1,13 +1,13 @@
-#include <orvanta/strings/reader/text/TextCharacters.h>
 #include <orvanta/strings/reader/text/TextProblems.h>
 
 namespace orvanta::strings {
 
-void TextProblems::add(const char* at, std::string_view message) {
+void TextProblems::add(const char* at, std::string_view message, TableProblem::Kind kind) {
   for (; damageReported_ < damage_.size() && damage_[damageReported_].at <= at; ++damageReported_) {
-    report(damage_[damageReported_].at, damage_[damageReported_].message);
+    report(damage_[damageReported_].at, damage_[damageReported_].message,
+           TableProblem::Kind::characters);
   }
-  report(at, message);
+  report(at, message, kind);
 }
 
 void TextProblems::addDamage(const WholeUtf8& text) {
@@ -24,31 +24,16 @@ void TextProblems::addDamage(const WholeUtf8& text) {
 
 void TextProblems::finish() {
   for (; damageReported_ < damage_.size(); ++damageReported_) {
-    report(damage_[damageReported_].at, damage_[damageReported_].message);
+    report(damage_[damageReported_].at, damage_[damageReported_].message,
+           TableProblem::Kind::characters);
   }
 }
 
-void TextProblems::report(const char* at, std::string_view message) {
+void TextProblems::report(const char* at, std::string_view message, TableProblem::Kind kind) {
   any_ = true;
   if (collector_) {
-    countTo(at);
-    collector_({line_, column_, std::string(message)});
-  }
-}
-
-// Of a character only the first byte counts. A line break that `at` cuts in two counts as far as it
-// stands before `at`.
-void TextProblems::countTo(const char* at) noexcept {
-  while (counted_ < at) {
-    const std::size_t lineBreak = lineBreakAt({counted_, at});
-    if (lineBreak > 0) {
-      counted_ += lineBreak;
-      ++line_;
-      column_ = 1;
-    } else {
-      column_ += (static_cast<unsigned char>(*counted_) & 0xC0) != 0x80 ? 1 : 0;
-      ++counted_;
-    }
+    counter_.countTo(at);
+    collector_({counter_.line(), counter_.column(), std::string(message), kind});
   }
 }
 

@@ -7,6 +7,7 @@
 
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/strings/reader/text/LineCounter.h>
 
 namespace orvanta::strings {
 
@@ -16,9 +17,10 @@ class TextProblems {
  public:
   /// `collector` must outlive this; it may be empty.
   TextProblems(const char* begin, const ProblemCollector& collector) noexcept
-      : collector_(collector), counted_(begin) {}
+      : collector_(collector), counter_(begin) {}
 
-  void add(const char* at, std::string_view message);
+  void add(const char* at, std::string_view message,
+           TableProblem::Kind kind = TableProblem::Kind::statement);
 
   /// Adds what was damaged when `text` was converted to UTF-8: it is reported in its turn.
   void addDamage(const WholeUtf8& text);
@@ -35,13 +37,10 @@ class TextProblems {
     std::string message;
   };
 
-  void report(const char* at, std::string_view message);
-  void countTo(const char* at) noexcept;
+  void report(const char* at, std::string_view message, TableProblem::Kind kind);
 
   const ProblemCollector& collector_;
-  const char* counted_;
-  std::size_t line_ = 1;
-  std::size_t column_ = 1;
+  LineCounter counter_;
   bool any_ = false;
   std::vector<Problem> damage_;  // In the order of the text.
   std::size_t damageReported_ = 0;

@@ -255,7 +255,7 @@ std::optional<std::size_t> TextRecovery::indentation(const char* at) noexcept {
 
 void TextRecovery::add(const TextToken& key, const TextToken& value) {
   if (!statements_.add(key, value)) {
-    problems_.add(value.end, kLoneSurrogate);
+    problems_.add(value.end, kLoneSurrogate, TableProblem::Kind::characters);
   }
 }
 

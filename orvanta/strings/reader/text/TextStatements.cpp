@@ -107,6 +107,9 @@ bool TextStatements::put(const TextToken& key, const TextToken& value, Damaged d
     table_.commitEntry(static_cast<std::size_t>(keyEnd - begin),
                        static_cast<std::size_t>(valueEnd - keyEnd));
     ++count_;
+    if (places_ != nullptr) {
+      places_->add(key.begin, {begin, keyEnd});
+    }
   }
   return isSound;
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include <orvanta/strings/StringTableBuilder.h>
+#include <orvanta/strings/reader/text/StatementPlaces.h>
 #include <orvanta/strings/reader/text/TextScanner.h>
 
 namespace orvanta::strings {
@@ -17,7 +18,9 @@ class TextStatements {
  public:
   enum class Braces { kNone, kOpen, kClosed, kLeft };
 
-  explicit TextStatements(StringTableBuilder& table) noexcept : table_(table) {}
+  /// Tells `places`, if it is not null, where the key of each entry stands.
+  explicit TextStatements(StringTableBuilder& table, StatementPlaces* places = nullptr) noexcept
+      : table_(table), places_(places) {}
 
   /// Reads on from `at` and gives where it had to stop: the end of the text, or the beginning of
   /// what is no sound statement, or is not all there.
@@ -53,6 +56,7 @@ class TextStatements {
   bool put(const TextToken& key, const TextToken& value, Damaged damaged);
 
   StringTableBuilder& table_;
+  StatementPlaces* places_;
   const char* last_ = nullptr;
   std::size_t count_ = 0;
   Braces braces_ = Braces::kNone;

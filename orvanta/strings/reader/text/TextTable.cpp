@@ -1,4 +1,5 @@
 #include <orvanta/strings/reader/text/NotATable.h>
+#include <orvanta/strings/reader/text/StatementPlaces.h>
 #include <orvanta/strings/reader/text/TextProblems.h>
 #include <orvanta/strings/reader/text/TextRecovery.h>
 #include <orvanta/strings/reader/text/TextStatements.h>
@@ -123,19 +124,26 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
 
 }  // namespace
 
-bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems) {
-  TextStatements statements(table);
+bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems,
+                   const StatementCollector& collector) {
+  StatementPlaces places;
+  TextStatements statements(table, collector ? &places : nullptr);
   Progress progress;
   const bool isUtf8 =
       text.encoding == TextEncoding::kUtf8 || text.encoding == TextEncoding::kBrokenUtf8;
-  if (!isUtf8) {
+  // A place is an address in the whole text.
+  if (!isUtf8 && !collector) {
     progress = readThroughWindow(text, statements);
     if (statements.full() || progress.isDone) {
       return true;
     }
   }
   const WholeUtf8 whole(text);
-  return WholeText(whole, statements, problems).read(progress);
+  const bool isTable = WholeText(whole, statements, problems).read(progress);
+  if (collector) {
+    places.report(whole.view().data(), collector);
+  }
+  return isTable;
 }
 
 }  // namespace orvanta::strings

@@ -16,13 +16,14 @@ namespace orvanta::strings {
 ///     key = value;
 ///     "a key that is its own value";
 ///
-/// Damage costs the statement that it hits and is reported. Time is linear in the size of the
-/// text, whatever stands in it.
+/// `collector` may be empty, as `problems` may. Damage costs the statement that it hits and is
+/// reported. Time is linear in the size of the text, whatever stands in it.
 ///
 /// False, with the reason reported, when this is nothing like a table: no statement could be read
 /// and something was wrong; it begins as markup does; or it begins with something else than a
 /// statement and next to nothing of it is one.
 [[nodiscard]] bool readTextTable(EncodedText text, StringTableBuilder& table,
-                                 const ProblemCollector& problems);
+                                 const ProblemCollector& problems,
+                                 const StatementCollector& collector = {});
 
 }  // namespace orvanta::strings

@@ -13,7 +13,7 @@ void XmlProblems::handOver() {
   std::stable_sort(problems_.begin(), problems_.end(),
                    [](const Problem& a, const Problem& b) { return a.offset < b.offset; });
   for (const Problem& problem : problems_) {
-    inOrder_.add(begin_ + problem.offset, problem.message);
+    inOrder_.add(begin_ + problem.offset, problem.message, problem.kind);
   }
   problems_.clear();
 }

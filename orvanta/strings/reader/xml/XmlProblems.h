@@ -16,7 +16,10 @@ class XmlProblems {
   XmlProblems(const WholeUtf8& text, const ProblemCollector& collector);
 
   /// `message` must live as long as this object.
-  void add(std::size_t offset, const char* message) { problems_.push_back({offset, message}); }
+  void add(std::size_t offset, const char* message,
+           TableProblem::Kind kind = TableProblem::Kind::statement) {
+    problems_.push_back({offset, message, kind});
+  }
 
   /// Reports what was added, in the order of the text. Nothing before it may be added later.
   void handOver();
@@ -28,6 +31,7 @@ class XmlProblems {
   struct Problem {
     std::size_t offset;
     const char* message;
+    TableProblem::Kind kind;
   };
 
   const char* begin_;

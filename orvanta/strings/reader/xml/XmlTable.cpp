@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include <orvanta/strings/reader/text/StatementPlaces.h>
 #include <orvanta/strings/reader/xml/XmlEncoding.h>
 #include <orvanta/strings/reader/xml/XmlNesting.h>
 #include <orvanta/strings/reader/xml/XmlProblems.h>
@@ -35,8 +36,9 @@ bool endsDictionary(const XmlToken& token) noexcept {
 
 class XmlTableReader {
  public:
-  XmlTableReader(std::string_view utf8, StringTableBuilder& table, XmlProblems& problems)
-      : scanner_(utf8), table_(table), problems_(problems) {}
+  XmlTableReader(std::string_view utf8, StringTableBuilder& table, XmlProblems& problems,
+                 StatementPlaces* places)
+      : begin_(utf8.data()), scanner_(utf8), table_(table), problems_(problems), places_(places) {}
 
   bool read() {
     if (!enterDictionary()) {
@@ -172,6 +174,9 @@ class XmlTableReader {
 
   bool add(const XmlToken& value) {
     if (table_.add(key_.view(), value_.view())) {
+      if (places_ != nullptr) {
+        places_->add(begin_ + keyAt_, key_.view());
+      }
       return true;
     }
     problems_.add(value.offset, "the table grows too large, all that follows is left out");
@@ -215,7 +220,8 @@ class XmlTableReader {
     const XmlText::BadReferences bad = text.appendData(token.text);
     if (bad.toNoCharacter) {
       problems_.add(token.offset + *bad.toNoCharacter,
-                    "a reference to no character; U+FFFD stands for it");
+                    "a reference to no character; U+FFFD stands for it",
+                    TableProblem::Kind::characters);
     }
     if (bad.unknown) {
       problems_.add(token.offset + *bad.unknown, "a reference to an entity that is not known");
@@ -260,9 +266,11 @@ class XmlTableReader {
     }
   }
 
+  const char* begin_;
   XmlScanner scanner_;
   StringTableBuilder& table_;
   XmlProblems& problems_;
+  StatementPlaces* places_;
   XmlText key_;
   XmlText value_;
   Key held_ = Key::kNone;
@@ -284,15 +292,22 @@ bool looksLikeXmlTable(std::string_view utf8) noexcept {
          });
 }
 
-bool readXmlTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems) {
+bool readXmlTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems,
+                  const StatementCollector& statements) {
   const DeclaredText declared = asDeclared(text);
   const WholeUtf8 whole(declared.text);
   XmlProblems found(whole, problems);
   if (!declared.isKnown) {
     found.add(declared.nameAt, "an encoding that is not known");
   }
-  const bool isTable = declared.isKnown && XmlTableReader(whole.view(), table, found).read();
+  StatementPlaces places;
+  const bool isTable =
+      declared.isKnown &&
+      XmlTableReader(whole.view(), table, found, statements ? &places : nullptr).read();
   found.finish();
+  if (statements) {
+    places.report(whole.view().data(), statements);
+  }
   return isTable;
 }
 

@@ -35,6 +35,7 @@ namespace orvanta::strings {
 /// False, with the reason reported, when there is no property list or it is no dictionary; nothing
 /// was added then.
 [[nodiscard]] bool readXmlTable(EncodedText text, StringTableBuilder& table,
-                                const ProblemCollector& problems);
+                                const ProblemCollector& problems,
+                                const StatementCollector& statements);
 
 }  // namespace orvanta::strings

@@ -1,3 +1,5 @@
+#include <tests/support/Bytes.h>
+
 #include "../TableReading.h"
 
 namespace orvanta::strings {
@@ -27,6 +29,15 @@ TEST(TextTable, ReadsStatements) {
       {"braces around nothing", "/**/{}", ""},
       {"beyond ASCII", "\"\u05E9\" = \"\U0001F600\u00E9\";", "\u05E9=\U0001F600\u00E9"},
   });
+}
+
+TEST(TextTable, TellsWhereStatementsStand) {
+  const std::string text = "/* \u00E9 */ \"a\" = 1;\nb\r\n;\n\"c\" \"lost\";\n  'a' = \"2\";\n";
+  const char* const places = "a@1:10 b@2:1 a@5:4 ";
+  for (const test::Encoding& encoding : test::kEncodings) {
+    EXPECT_EQ(readTable(test::encode(encoding, text)).statements, places) << encoding.name;
+  }
+  EXPECT_EQ(readTable("<plist><dict>\n <key>a</key><string/></dict></plist>").statements, "a@2:2 ");
 }
 
 TEST(TextTable, ResolvesEscapes) {
