@@ -1,75 +1,13 @@
 #include <algorithm>
 #include <charconv>
-#include <optional>
 
 #include <orvanta/messages/FormatString.h>
+#include <orvanta/messages/Placeholders.h>
 #include <orvanta/messages/PlainNumber.h>
 
 namespace orvanta {
 
 namespace {
-
-constexpr std::size_t kMostDigits = 2;
-
-struct Placeholder {
-  std::size_t size = 0;                 // In characters of the text, with the "%".
-  std::optional<std::size_t> position;  // Counted from 0.
-  bool isLeft = false;                  // Padded behind the text.
-  bool hasZeros = false;
-  std::size_t width = 0;
-  std::optional<int> precision;
-  char conversion = '\0';
-};
-
-class PlaceholderParser {
- public:
-  // `text` begins with the "%".
-  explicit PlaceholderParser(std::string_view text) noexcept : text_(text) {}
-
-  std::optional<Placeholder> parse() {
-    const std::optional<int> leading = number();
-    if (leading && *leading > 0 && skip('$')) {
-      placeholder_.position = static_cast<std::size_t>(*leading - 1);
-    } else {
-      at_ = 1;
-    }
-    placeholder_.isLeft = skip('-');
-    placeholder_.hasZeros = skip('0') && !placeholder_.isLeft;
-    placeholder_.width = static_cast<std::size_t>(number().value_or(0));
-    if (skip('.')) {
-      placeholder_.precision = number().value_or(0);
-    }
-    at_ = std::min(text_.find_first_not_of("hlqLzjt", at_), text_.size());
-    if (at_ == text_.size() ||
-        std::string_view("@sSdDiuUxXofFeEgGcC").find(text_[at_]) == text_.npos) {
-      return std::nullopt;
-    }
-    placeholder_.conversion = text_[at_];
-    placeholder_.size = at_ + 1;
-    return placeholder_;
-  }
-
- private:
-  bool skip(char character) {
-    const bool isThere = at_ < text_.size() && text_[at_] == character;
-    at_ += isThere ? 1 : 0;
-    return isThere;
-  }
-
-  std::optional<int> number() {
-    int value = 0;
-    const std::size_t begin = at_;
-    while (at_ < text_.size() && at_ - begin < kMostDigits && text_[at_] >= '0' &&
-           text_[at_] <= '9') {
-      value = value * 10 + (text_[at_++] - '0');
-    }
-    return at_ > begin ? std::optional(value) : std::nullopt;
-  }
-
-  std::string_view text_;
-  std::size_t at_ = 1;
-  Placeholder placeholder_;
-};
 
 // Hexadecimal and octal; a negative number as printf shows it.
 std::string inBase(const MessageValue& value, char conversion) {
@@ -138,32 +76,22 @@ void write(const MessageValue& value, const Placeholder& placeholder,
 
 void formatPlaceholders(std::string_view text, const MessageArguments& arguments,
                         const MessageLanguage& language, std::pmr::string& out) {
-  std::size_t following = 0;
-  for (;;) {
-    const std::size_t percent = std::min(text.find('%'), text.size());
-    out += text.substr(0, percent);
-    text.remove_prefix(percent);
-    if (text.empty()) {
-      return;
-    }
-    if (text.starts_with("%%")) {
-      out += '%';
-      text.remove_prefix(2);
+  PlaceholderReader placeholders(text);
+  std::size_t copied = 0;
+  while (const auto placeholder = placeholders.next()) {
+    const MessageValue* const value = arguments.at(placeholder->argument);
+    if (!placeholder->isPercent() && value == nullptr) {
       continue;
     }
-    const auto placeholder = PlaceholderParser(text).parse();
-    const std::size_t size = placeholder ? placeholder->size : 1;
-    const MessageValue* value = nullptr;
-    if (placeholder) {
-      value = arguments.at(placeholder->position ? *placeholder->position : following++);
-    }
-    if (value == nullptr) {
-      out += text.substr(0, size);
+    out += text.substr(copied, placeholder->begin - copied);
+    copied = placeholder->begin + placeholder->size;
+    if (placeholder->isPercent()) {
+      out += '%';
     } else {
       write(*value, *placeholder, language, out);
     }
-    text.remove_prefix(size);
   }
+  out += text.substr(copied);
 }
 
 }  // namespace orvanta

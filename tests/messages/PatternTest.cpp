@@ -5,6 +5,7 @@
 
 #include <orvanta/messages/FormatString.h>
 #include <orvanta/messages/PlainNumber.h>
+#include <orvanta/messages/PluralKeyword.h>
 #include <orvanta/messages/pattern/MessageFormat.h>
 #include <orvanta/standard/StandardLocaleData.h>
 
@@ -34,6 +35,25 @@ std::string filled(std::string_view text, const MessageArguments& arguments) {
   std::pmr::string out;
   formatPlaceholders(text, arguments, language("en"), out);
   return std::string(out);
+}
+
+TEST(PluralKeyword, IsTheBranchThatAMessageTakes) {
+  const struct {
+    const char* locale;
+    MessageValue number;
+    PluralType type;
+    const char* keyword;
+  } rows[] = {
+      {"en", 1, PluralType::cardinal, "one"},
+      {"en", Decimal{1, 1}, PluralType::cardinal, "other"},
+      {"en", 23, PluralType::ordinal, "few"},
+      {"ar-EG", 11U, PluralType::cardinal, "many"},
+      {"xx", 1, PluralType::cardinal, "other"},
+      {"en", "1", PluralType::cardinal, "other"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(pluralKeyword(row.locale, row.number, row.type), row.keyword) << row.locale;
+  }
 }
 
 TEST(PlainNumber, ShowsTheDigitsThatTheValueAllows) {

@@ -16,8 +16,4 @@ std::string MessageLanguage::written(const PlainNumber& number) const {
                            : std::string(number.text());
 }
 
-PluralCategory MessageLanguage::categoryOf(const PlainNumber& number, PluralRule rule) noexcept {
-  return number.isFinite() ? rule(PluralOperands::of(number.text())) : PluralCategory::other;
-}
-
 }  // namespace orvanta

@@ -27,8 +27,6 @@ class MessageLanguage {
   [[nodiscard]] std::string written(const PlainNumber& number) const;
 
  private:
-  static PluralCategory categoryOf(const PlainNumber& number, PluralRule rule) noexcept;
-
   String locale_;
   platform::LocaleData* data_;
   const PluralRow* rules_;

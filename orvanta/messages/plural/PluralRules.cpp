@@ -30,6 +30,10 @@ const PluralRow& pluralRulesForLocale(std::string_view locale) noexcept {
   return row == nullptr ? kNoRules : *row;
 }
 
+PluralCategory categoryOf(const PlainNumber& number, PluralRule rule) noexcept {
+  return number.isFinite() ? rule(PluralOperands::of(number.text())) : PluralCategory::other;
+}
+
 std::string_view keywordOf(PluralCategory category) noexcept {
   static constexpr std::string_view kKeywords[] = {"zero", "one", "two", "few", "many", "other"};
   return kKeywords[static_cast<std::size_t>(category)];
