@@ -22,4 +22,19 @@ class RefusedAllocations {
   [[nodiscard]] static bool anyWas() noexcept;
 };
 
+/// Watches how much of the heap is in use while it lives, on one thread. Sanitizers count nothing.
+class HeapPeak {
+ public:
+  HeapPeak() noexcept;
+  ~HeapPeak();
+  HeapPeak(const HeapPeak&) = delete;
+  HeapPeak& operator=(const HeapPeak&) = delete;
+
+  /// The most so far beyond what was in use before.
+  [[nodiscard]] std::size_t bytes() const noexcept;
+
+ private:
+  std::size_t before_;
+};
+
 }  // namespace orvanta::test

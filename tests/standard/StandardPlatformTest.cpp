@@ -6,6 +6,7 @@
 #include <orvanta/standard/RunLoop.h>
 #include <orvanta/standard/StandardFiles.h>
 #include <orvanta/standard/StandardLocaleData.h>
+#include <orvanta/standard/StandardLog.h>
 #include <orvanta/standard/StandardPlatform.h>
 #include <orvanta/standard/StandardProcessInfo.h>
 
@@ -70,6 +71,8 @@ TEST(StandardPlatform, StandsOnTheProcessWithoutAnyOption) {
   platform.log->log("one");
   platform.log->log("");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "one\n\n");
+  const auto throwing = makeLog([](std::string_view message) { throw std::string(message); });
+  throwing->log("what a sink throws is dropped");
 }
 
 TEST(StandardPlatform, TakesARelativePathOfCaches) {
