@@ -1,7 +1,8 @@
 # Makes the library's resources, the two Arabic font files and their licence.
 #
 # In the build tree they stand where an installed tree has them, so that the library finds its
-# resources by one rule in both.
+# resources by one rule in both: near the library's file. A static library's is the program's, which
+# another project builds somewhere below its own build folder.
 
 set(ORVANTA_KUFI_SOURCE_DIR /usr/share/fonts/truetype/noto CACHE PATH
     "Folder with the static NotoKufiArabic-Regular.ttf and NotoKufiArabic-Bold.ttf")
@@ -35,7 +36,12 @@ if(NOT ORVANTA_FONTTOOLS_PYTHON)
 endif()
 
 set(resources_dir share/orvanta/resources)
-set(built_resources ${PROJECT_BINARY_DIR}/${resources_dir})
+get_target_property(orvanta_type orvanta TYPE)
+if(orvanta_type STREQUAL STATIC_LIBRARY)
+  set(built_resources ${CMAKE_BINARY_DIR}/${resources_dir})
+else()
+  set(built_resources ${PROJECT_BINARY_DIR}/${resources_dir})
+endif()
 set(resource_files
   ${built_resources}/CorbetSansKufiArabic-Regular.ttf
   ${built_resources}/CorbetSansKufiArabic-Bold.ttf

@@ -26,7 +26,7 @@ String resourcesOfTreeAround(const fs::path& file) {
   if (error) {
     return {};
   }
-  for (const fs::path& root : {folder.parent_path(), folder.parent_path().parent_path()}) {
+  for (const fs::path& root : {folder, folder.parent_path(), folder.parent_path().parent_path()}) {
     const fs::path resources = root / "share" / "orvanta" / "resources";
     if (fs::is_directory(resources, error)) {
       return resources.native();

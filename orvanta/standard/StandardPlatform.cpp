@@ -32,6 +32,11 @@ String mainBundlePathFor(const StandardOptions& options) {
                                 : absolutePath(".");
 }
 
+String resourcesPathFor(const StandardOptions& options) {
+  return options.resourcesPath.empty() ? libraryResourcesPath()
+                                       : absolutePath(options.resourcesPath);
+}
+
 StringList deviceLanguagesFor(const StandardOptions& options) {
   if (!options.deviceLanguages) {
     return deviceLanguagesOf(processEnvironment());
@@ -53,7 +58,7 @@ platform::Platform makeStandardPlatform(const StandardOptions& options,
   }
   if (platform.bundles == nullptr) {
     platform.bundles = makeBundleRegistry(platform.files, platform.locales,
-                                          mainBundlePathFor(options), libraryResourcesPath());
+                                          mainBundlePathFor(options), resourcesPathFor(options));
   }
   if (platform.fonts == nullptr) {
     platform.fonts = makeStandardFonts();

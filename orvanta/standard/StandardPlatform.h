@@ -22,6 +22,11 @@ struct StandardOptions {
   /// the executable in `$XDG_CACHE_HOME`, or in `~/.cache`.
   std::string cachesPath{};
 
+  /// The folder with the library's own resources, the Arabic fonts. Empty: the folder
+  /// "share/orvanta/resources" near the library's file, or near the program's. To be set by a
+  /// program that is linked statically and keeps them elsewhere.
+  std::string resourcesPath{};
+
   /// The device's languages, best first. Absent: what `LANGUAGE`, `LC_ALL`, `LC_MESSAGES` and
   /// `LANG` say.
   std::optional<std::vector<std::string>> deviceLanguages{};

@@ -4,6 +4,10 @@
 #include <orvanta/orvanta.h>
 #include <orvanta/standard/StandardPlatform.h>
 
+#ifndef CONSUMER_RESOURCES
+#define CONSUMER_RESOURCES ""
+#endif
+
 namespace {
 
 orvanta::String signIn() {
@@ -13,8 +17,8 @@ orvanta::String signIn() {
 /// Asks for a text while static objects are initialised, possibly before those of the library.
 struct Early {
   Early() {
-    orvanta::platform::Platform::install(
-        orvanta::standard::makeStandardPlatform({.mainBundlePath = std::getenv("BUNDLE")}));
+    orvanta::platform::Platform::install(orvanta::standard::makeStandardPlatform(
+        {.mainBundlePath = std::getenv("BUNDLE"), .resourcesPath = CONSUMER_RESOURCES}));
     orvanta::Localizer::sharedLocalizer().updatePreferredLocales({"fr-CA"}, nullptr);
     text = signIn();
   }
@@ -24,6 +28,8 @@ struct Early {
 }  // namespace
 
 int main() {
-  std::cout << OrvantaLocalizerVersionNumber << ' ' << early.text << ' ' << signIn() << '\n';
+  const auto arabic = orvanta::localizationUtilities::corbetSansKufiArabicFont();
+  std::cout << OrvantaLocalizerVersionNumber << ' ' << early.text << ' ' << signIn() << ' '
+            << (arabic == nullptr ? "no font" : arabic->fontName()) << '\n';
   return 0;
 }

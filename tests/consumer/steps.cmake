@@ -25,7 +25,11 @@ function(must_answer program text)
   endif()
 endfunction()
 
-set(core_answer "1 Connexion Connexion")
+if(WITH_FONTS)
+  set(core_answer "1 Connexion Connexion CorbetSansKufiArabic")
+else()
+  set(core_answer "1 Connexion Connexion no font")
+endif()
 set(qt_answer "Connexion")
 
 # The component that is furthest from the core.
