@@ -22,7 +22,7 @@ void ReadBuffer::reserve(std::size_t capacity) {
   }
   // Files of similar sizes need not each enlarge it by a little.
   capacity = std::max(capacity, capacity_ + capacity_ / 2);
-  Bytes larger(allocateBytes(capacity));
+  Bytes larger(allocateBytes(capacity, Pages::atOnce));
   if (larger == nullptr) {
     throw std::bad_alloc();
   }

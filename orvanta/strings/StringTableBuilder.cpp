@@ -26,7 +26,7 @@ bool StringTableBuilder::reserve(std::size_t more) {
   }
   if (used_ + more > capacity_) {
     const std::size_t wanted = std::min(std::max(used_ + more, 2 * capacity_), kLargestArena);
-    char* larger = arena_ == nullptr ? allocateBytes(wanted)
+    char* larger = arena_ == nullptr ? allocateBytes(wanted, Pages::atOnce)
                                      : static_cast<char*>(std::realloc(arena_, wanted));
     if (larger == nullptr) {
       throw std::bad_alloc();

@@ -14,6 +14,10 @@ constexpr std::size_t kCacheLine = 64;
 constexpr std::size_t kHugePage = std::size_t{2} * 1024 * 1024;  // The size on most systems.
 // Smaller blocks would waste most of a huge page.
 constexpr std::size_t kHugePageThreshold = std::size_t{1024} * 1024;
+// The size on most systems. Advice for another size is refused, or given for parts of pages.
+constexpr std::uintptr_t kPage = 4096;
+// For fewer pages a call is not worth it.
+constexpr std::uintptr_t kFewPages = 4;
 // A remainder below this stands in small pages: clearing a huge page takes about as long as
 // clearing so many bytes page by page.
 constexpr std::size_t kRemainderWorthHugePage = std::size_t{256} * 1024;
@@ -26,14 +30,29 @@ char* allocateAligned(std::size_t alignment, std::size_t size) noexcept {
              : nullptr;
 }
 
+// Advice only: where it is refused or unknown, the pages come when they are touched.
+void providePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size) noexcept {
+#ifdef MADV_POPULATE_WRITE
+  const auto begin = (reinterpret_cast<std::uintptr_t>(bytes) + kPage - 1) / kPage * kPage;
+  const auto end = (reinterpret_cast<std::uintptr_t>(bytes) + size) / kPage * kPage;
+  if (begin < end && end - begin >= kFewPages * kPage) {
+    static_cast<void>(madvise(reinterpret_cast<void*>(begin), end - begin, MADV_POPULATE_WRITE));
+  }
+#endif
+}
+
 }  // namespace
 
-char* allocateBytes(std::size_t size) noexcept {
+char* allocateBytes(std::size_t size, Pages pages) noexcept {
   if (size > static_cast<std::size_t>(PTRDIFF_MAX) - kHugePage) {
     return nullptr;
   }
   if (size < kHugePageThreshold) {
-    return allocateAligned(kCacheLine, size);
+    char* const bytes = allocateAligned(kCacheLine, size);
+    if (bytes != nullptr && pages == Pages::atOnce) {
+      providePages(bytes, size);
+    }
+    return bytes;
   }
   const std::size_t remainder = size % kHugePage;
   const std::size_t inHugePages =
