@@ -96,7 +96,7 @@ OVLocaleDictionary OVStringCache::mainBundleLocales() const {
   locales.reserve(names.size());
   for (const String& name : names) {
     const String folder = mainBundle->pathForResource(name, "lproj"_s);
-    if (auto locale = OVLocale::initWithBundle(bundles.bundleWithPath(folder))) {
+    if (auto locale = OVLocale::initWithUnreadBundle(bundles.bundleWithPath(folder))) {
       locales.insert_or_assign(name, std::move(locale));
     } else {
       locales.erase(name);

@@ -1,4 +1,6 @@
 #include <array>
+#include <mutex>
+#include <span>
 #include <typeinfo>
 #include <utility>
 
@@ -25,7 +27,22 @@ bool isOfClassOf(const OVLocale& self, const OVLocale& other) noexcept {
                              kNoHint) != nullptr;
 }
 
+// What `takeOver` takes, in its order.
+std::span<const HashedKey> entryKeys() {
+  static const std::array keys = {HashedKey(OVOrvantaLanguageVersionKey),
+                                  HashedKey(OVOrvantaLanguageAppleIDKey),
+                                  HashedKey(OVOrvantaLanguageEquivalentsKey)};
+  return keys;
+}
+
 }  // namespace
+
+// What a record reads later, and the lock for it.
+struct OVLocale::Unread {
+  explicit Unread(platform::Bundle::TextsReader reader) noexcept : read(std::move(reader)) {}
+  std::mutex mutex;
+  platform::Bundle::TextsReader read;  // Empty once it was called.
+};
 
 OVLocale::OVLocale(String orvantaName, String appleName, String version,
                    std::shared_ptr<platform::Bundle> bundle, StringList locales) noexcept
@@ -46,36 +63,62 @@ std::shared_ptr<OVLocale> OVLocale::initWithOrvantaName(String orvantaName, Stri
                                                 std::move(locales)));
 }
 
+std::shared_ptr<OVLocale> OVLocale::recordOf(const std::shared_ptr<platform::Bundle>& bundle) {
+  const String path = bundle == nullptr ? String() : bundle->bundlePath();
+  const String name = path::stringByDeletingPathExtension(path::lastPathComponent(path));
+  // The name stands in for the platform's identifier until the table is read.
+  return name.isAbsent() ? nullptr : initWithOrvantaName(name, name, {}, bundle, {});
+}
+
 std::shared_ptr<OVLocale> OVLocale::initWithBundle(
     const std::shared_ptr<platform::Bundle>& bundle) {
-  if (bundle == nullptr) {
-    return nullptr;
+  auto record = recordOf(bundle);
+  if (record != nullptr) {
+    record->takeOver(bundle->textsForKeys(entryKeys()));
   }
-  const String name =
-      path::stringByDeletingPathExtension(path::lastPathComponent(bundle->bundlePath()));
-  const std::array keys = {HashedKey(OVOrvantaLanguageVersionKey),
-                           HashedKey(OVOrvantaLanguageAppleIDKey),
-                           HashedKey(OVOrvantaLanguageEquivalentsKey)};
-  const std::vector<String> texts = bundle->textsForKeys(keys);
+  return record;
+}
+
+std::shared_ptr<OVLocale> OVLocale::initWithUnreadBundle(
+    const std::shared_ptr<platform::Bundle>& bundle) {
+  platform::Bundle::TextsReader read = bundle == nullptr ? nullptr : bundle->laterTexts();
+  if (!read) {
+    return initWithBundle(bundle);
+  }
+  auto record = recordOf(bundle);
+  if (record != nullptr) {
+    record->unread_ = std::make_unique<Unread>(std::move(read));
+    record->isUnread_.store(true, std::memory_order_relaxed);
+  }
+  return record;
+}
+
+void OVLocale::readTable() const {
+  const std::lock_guard lock(unread_->mutex);
+  if (!isUnread_.load(std::memory_order_relaxed)) {
+    return;
+  }
+  takeOver(unread_->read(entryKeys()));
+  unread_->read = nullptr;
+  isUnread_.store(false, std::memory_order_release);
+}
+
+void OVLocale::takeOver(const std::vector<String>& texts) const {
   const auto lookUp = [&](std::size_t index, const String& value) {
-    return platform::lookUpResult(texts[index], String::fromStatic(keys[index].text), value);
+    return platform::lookUpResult(texts[index], String::fromStatic(entryKeys()[index].text), value);
   };
-  String version = lookUp(0, {});
-  String appleName = lookUp(1, name);
   String equivalents = lookUp(2, {});
   if (equivalents == OVOrvantaLanguageEquivalentsKey) {
     equivalents = {};
   }
-  if (name.isAbsent() || appleName.isAbsent()) {
-    return nullptr;
-  }
-  return initWithOrvantaName(name, std::move(appleName), std::move(version), bundle,
-                             componentsSeparatedBy(',', equivalents));
+  fallbackLocales_ = componentsSeparatedBy(',', equivalents);
+  version_ = lookUp(0, {});
+  appleLocaleName_ = lookUp(1, appleLocaleName_);
 }
 
-bool OVLocale::isEqual(const OVLocale* other) const noexcept {
+bool OVLocale::isEqual(const OVLocale* other) const {
   return other != nullptr && isOfClassOf(*this, *other) &&
-         appleLocaleName_.isSameObject(other->appleLocaleName_);
+         appleLocaleName().isSameObject(other->appleLocaleName());
 }
 
 std::size_t OVLocale::hash() const noexcept {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <memory>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include <orvanta/Export.h>
 #include <orvanta/platform/Bundle.h>
@@ -28,6 +31,10 @@ inline constexpr std::string_view OVOrvantaLanguageVersionKey =
 /// A record is a shared object with identity: never copied, its hash is its address. Built and
 /// changed on the thread that uses the catalogue; reading one from several threads is safe once it
 /// is built.
+///
+/// What a shipped table says of its language is read when it is first asked for, as the file is
+/// then: an application starts without reading all its tables. Those operations may throw
+/// `std::bad_alloc` and are then as if they had not been called.
 class ORVANTA_EXPORT OVLocale {
  public:
   /// A record of exactly these values; absent ones are kept as absent.
@@ -38,6 +45,10 @@ class ORVANTA_EXPORT OVLocale {
   /// Reads the record from the configuration entries of a language's table. Absent when `bundle`
   /// is absent or its path gives no name.
   [[nodiscard]] static std::shared_ptr<OVLocale> initWithBundle(
+      const std::shared_ptr<platform::Bundle>& bundle);
+
+  /// The same; the table is read when a value that it may name is first asked for.
+  [[nodiscard]] static std::shared_ptr<OVLocale> initWithUnreadBundle(
       const std::shared_ptr<platform::Bundle>& bundle);
 
   OVLocale(const OVLocale&) = delete;
@@ -60,15 +71,22 @@ class ORVANTA_EXPORT OVLocale {
 
   /// The platform's identifier, under which the catalogue keeps a downloaded language. The very
   /// object of `orvantaLocaleName` when the table names none.
-  [[nodiscard]] const String& appleLocaleName() const noexcept ORVANTA_LIFETIME_BOUND {
+  [[nodiscard]] const String& appleLocaleName() const ORVANTA_LIFETIME_BOUND {
+    makeRead();
     return appleLocaleName_;
   }
   /// Replaces it; the catalogue keeps the record where it is.
-  void setAppleLocaleName(String name) noexcept { appleLocaleName_ = std::move(name); }
+  void setAppleLocaleName(String name) {
+    makeRead();
+    appleLocaleName_ = std::move(name);
+  }
 
   /// The version of the table, as text. The text of `OVOrvantaLanguageVersionKey` itself when the
   /// table names none.
-  [[nodiscard]] const String& version() const noexcept ORVANTA_LIFETIME_BOUND { return version_; }
+  [[nodiscard]] const String& version() const ORVANTA_LIFETIME_BOUND {
+    makeRead();
+    return version_;
+  }
 
   /// Where the language's strings are.
   [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const noexcept
@@ -80,16 +98,20 @@ class ORVANTA_EXPORT OVLocale {
 
   /// The identifiers that count as this same language, in the order written and untrimmed; absent
   /// when the table names none. For the application: the matching does not read it.
-  [[nodiscard]] const StringList& fallbackLocales() const noexcept ORVANTA_LIFETIME_BOUND {
+  [[nodiscard]] const StringList& fallbackLocales() const ORVANTA_LIFETIME_BOUND {
+    makeRead();
     return fallbackLocales_;
   }
   /// Replaces them.
-  void setFallbackLocales(StringList locales) noexcept { fallbackLocales_ = std::move(locales); }
+  void setFallbackLocales(StringList locales) {
+    makeRead();
+    fallbackLocales_ = std::move(locales);
+  }
 
   /// Whether `other` is of this record's class or of a subclass, and both hold the very same
   /// `appleLocaleName` object. Equal characters in two objects are not enough; two absent names
   /// are. False for a null `other`.
-  [[nodiscard]] bool isEqual(const OVLocale* other) const noexcept;
+  [[nodiscard]] bool isEqual(const OVLocale* other) const;
 
   /// The record's address. Two records that are equal still have different hashes: in a hashed
   /// container a record is found through itself alone.
@@ -101,12 +123,29 @@ class ORVANTA_EXPORT OVLocale {
            std::shared_ptr<platform::Bundle> bundle, StringList locales) noexcept;
 
  private:
+  struct ORVANTA_HIDDEN Unread;
+
+  void makeRead() const {
+    if (isUnread_.load(std::memory_order_acquire)) [[unlikely]] {
+      readTable();
+    }
+  }
+  void readTable() const;
+  // With the name and the bundle alone; null where the bundle gives no name.
+  [[nodiscard]] ORVANTA_HIDDEN static std::shared_ptr<OVLocale> recordOf(
+      const std::shared_ptr<platform::Bundle>& bundle);
+  // `texts` are those under the three keys above.
+  ORVANTA_HIDDEN void takeOver(const std::vector<String>& texts) const;
+
   bool availableForDownload_ = false;
+  // While true, what the table may name is written under the lock of `unread_`, and read by nobody.
+  mutable std::atomic<bool> isUnread_{false};
+  std::unique_ptr<Unread> unread_;
   String orvantaLocaleName_;
-  String appleLocaleName_;
-  String version_;
+  mutable String appleLocaleName_;
+  mutable String version_;
   std::shared_ptr<platform::Bundle> bundle_;
-  StringList fallbackLocales_;
+  mutable StringList fallbackLocales_;
 };
 
 /// Languages under their identifiers.

@@ -18,6 +18,10 @@ std::shared_ptr<const strings::StringTable> Bundle::shareDefaultTable() const {
   return defaultTable_;
 }
 
+Bundle::TextsReader Bundle::laterTexts() const {
+  return {};
+}
+
 std::vector<String> Bundle::textsForKeys(std::span<const HashedKey> keys) const {
   std::vector<String> texts;
   texts.reserve(keys.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -59,6 +60,14 @@ class ORVANTA_EXPORT Bundle {
   /// last opened: what a new record of the language is built from. One result for each key. A
   /// bundle may find out that none of them is there without reading the table.
   [[nodiscard]] virtual std::vector<String> textsForKeys(std::span<const HashedKey> keys) const;
+
+  /// Gives what `textsForKeys` gives, of the file as it is when this is called. Callable on any
+  /// thread, also after the bundle's life; the texts of the keys must be static. May throw
+  /// `std::bad_alloc`.
+  using TextsReader = std::function<std::vector<String>(std::span<const HashedKey>)>;
+  /// What reads the texts of the table "Localizable" later. Empty where they have to be asked for
+  /// now: the bundle holds the table in memory, or keeps its texts elsewhere.
+  [[nodiscard]] virtual TextsReader laterTexts() const;
 
   /// The table "Localizable" once it is in memory: asking it gives what `textForKey` gives, without
   /// a virtual call. Null before, and for a bundle that keeps its texts elsewhere.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <orvanta/standard/BundlePaths.h>
+#include <orvanta/standard/LaterTexts.h>
 #include <orvanta/standard/LocalizationRanking.h>
 #include <orvanta/standard/StandardBundles.h>
 #include <orvanta/standard/TableFile.h>
@@ -31,6 +32,17 @@ struct Services {
   std::shared_ptr<platform::FileManager> files;
   std::shared_ptr<platform::LocaleData> locales;
   std::shared_ptr<strings::PrefixProbe> probe;
+  // Owned by those who will read.
+  std::shared_ptr<std::weak_ptr<LaterTexts>> laterTexts =
+      std::make_shared<std::weak_ptr<LaterTexts>>();
+
+  [[nodiscard]] std::shared_ptr<LaterTexts> later() const {
+    std::shared_ptr<LaterTexts> texts = laterTexts->lock();
+    if (texts == nullptr) {
+      *laterTexts = texts = std::make_shared<LaterTexts>(files);
+    }
+    return texts;
+  }
 };
 
 class StandardBundle final : public platform::Bundle {
@@ -109,10 +121,16 @@ class StandardBundle final : public platform::Bundle {
             : file.entriesWithPrefix(prefix, pathOfTable(kDefaultTable));
     const strings::StringTable& answering =
         entries == nullptr ? loadedTable(file, table, kDefaultTable) : *entries;
-    std::vector<String> texts(keys.size());
-    std::transform(keys.begin(), keys.end(), texts.begin(),
-                   [&](const HashedKey& key) { return answering.textForKey(key); });
-    return texts;
+    return textsIn(answering, keys);
+  }
+
+  TextsReader laterTexts() const override {
+    if (role_ == Role::main || defaultTable() != nullptr || changed_) {
+      return {};
+    }
+    return [later = services_.later(),
+            path = path::stringByAppendingPathComponent(path_, "Localizable.strings")](
+               std::span<const HashedKey> keys) { return later->read(path, keys); };
   }
 
   // To be called when the bundle is opened again. A table in memory stays as it is.

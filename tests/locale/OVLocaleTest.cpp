@@ -1,5 +1,11 @@
+#include <array>
+#include <filesystem>
+#include <thread>
+#include <vector>
+
 #include <gtest/gtest.h>
 
+#include <orvanta/cache/OVStringCache.h>
 #include <orvanta/locale/OVLocale.h>
 
 #include "../support/TestApplication.h"
@@ -43,6 +49,56 @@ TEST(OVLocale, SplitsEquivalentsAsTheyAreWritten) {
     EXPECT_EQ(locale->fallbackLocales(), locales) << entry;
     EXPECT_EQ(locale->appleLocaleName(), "own");
     EXPECT_EQ(locale->version(), "1.2");
+  }
+}
+
+std::shared_ptr<OVLocale> shippedFrench() {
+  const OVLocaleDictionary shipped = OVStringCache().mainBundleLocales();
+  return *shipped.find("fr");
+}
+
+// What a shipped record says is what the file says when the record is first asked, and stays.
+TEST(OVLocale, ReadsAShippedTableWhenItIsFirstAsked) {
+  const test::TestApplication app;
+  const auto folder = app.bundle() / "fr.lproj";
+  const auto write = [&](const std::string& version) {
+    test::writeTable(folder, {{kVersion, version}, {kAppleId, "fr-" + version}});
+  };
+  write("1");
+  const auto asked = shippedFrench();
+  const auto unasked = shippedFrench();
+  const auto renamed = shippedFrench();
+  EXPECT_EQ(asked->version(), "1");
+  write("2");
+  EXPECT_EQ(asked->appleLocaleName(), "fr-1");
+  EXPECT_EQ(unasked->appleLocaleName(), "fr-2");
+  renamed->setAppleLocaleName("own");
+  EXPECT_EQ(renamed->appleLocaleName(), "own");
+  EXPECT_EQ(renamed->version(), "2");
+  const auto gone = shippedFrench();
+  std::filesystem::remove_all(folder);
+  gone->setOrvantaLocaleName("other");
+  EXPECT_EQ(gone->appleLocaleName(), "fr");
+  EXPECT_EQ(gone->version(), kVersion);
+}
+
+TEST(OVLocaleThreads, ReadOneRecordOnce) {
+  const test::TestApplication app;
+  test::writeTable(app.bundle() / "fr.lproj", {{kVersion, "1"}});
+  for (int round = 0; round < 20; ++round) {
+    const auto record = shippedFrench();
+    std::array<const String*, 4> versions = {};
+    std::vector<std::thread> readers;
+    for (const String*& version : versions) {
+      readers.emplace_back([&version, &record] { version = &record->version(); });
+    }
+    for (std::thread& reader : readers) {
+      reader.join();
+    }
+    for (const String* version : versions) {
+      EXPECT_TRUE(version->isSameObject(record->version()));
+      EXPECT_EQ(*version, "1");
+    }
   }
 }
 
