@@ -100,7 +100,7 @@ class ORVANTA_EXPORT TextChain {
   }
 
  private:
-  [[nodiscard]] Found findInBundles(const HashedKey& key, std::size_t first) const;
+  [[nodiscard]] ORVANTA_HIDDEN Found findInBundles(const HashedKey& key, std::size_t first) const;
 
   std::array<TextLink, kMostLinks> links_;
   std::size_t size_ = 0;
