@@ -1,55 +1,10 @@
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <string>
+#include "Command.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/wait.h>
+namespace ovlocalize {
 
 namespace {
 
-namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-class Command : public testing::Test {
- public:
-  Command() {
-    std::string name = (fs::temp_directory_path() / "ovlocalize-XXXXXX").string();
-    folder_ = ::mkdtemp(name.data());
-  }
-  ~Command() override { fs::remove_all(folder_); }
-  Command(const Command&) = delete;
-  Command& operator=(const Command&) = delete;
-
- protected:
-  // Runs a shell command in which $OV is the program, in a folder of the test's own.
-  void run(const std::string& command) {
-    const std::string line = "cd " + folder_.string() +
-                             " && OV='" OVLOCALIZE " --bundle " BUNDLE " --cache '$PWD; { " +
-                             command + "\n} >out 2>err </dev/null";
-    const int result = std::system(line.c_str());
-    status_ = WIFEXITED(result) ? WEXITSTATUS(result) : -1;
-    out_ = contents("out");
-    err_ = contents("err");
-  }
-
-  void write(const std::string& name, const std::string& text) const {
-    std::ofstream(folder_ / name, std::ios::binary) << text;
-  }
-
-  [[nodiscard]] std::string contents(const std::string& name) const {
-    std::ostringstream text;
-    text << std::ifstream(folder_ / name, std::ios::binary).rdbuf();
-    return text.str();
-  }
-
-  fs::path folder_;
-  int status_ = 0;
-  std::string out_;
-  std::string err_;
-};
 
 TEST_F(Command, RefusesInOneLine) {
   write("bad.json", "{\"fr\": ");
@@ -150,3 +105,5 @@ TEST_F(Command, ListsTheFirstOfManyProblems) {
 }
 
 }  // namespace
+
+}  // namespace ovlocalize

@@ -29,4 +29,8 @@ std::shared_ptr<const orvanta::strings::StringTable> tableOfLanguage(const Setti
   return table;
 }
 
+bool isConfigurationKey(std::string_view key) {
+  return key.starts_with("CONFIG-DO_NOT_TRANSLATE-");
+}
+
 }  // namespace ovlocalize

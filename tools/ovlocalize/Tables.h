@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <orvanta/strings/StringTable.h>
 
@@ -17,5 +18,8 @@ namespace ovlocalize {
 /// table.
 [[nodiscard]] std::shared_ptr<const orvanta::strings::StringTable> tableOfLanguage(
     const Settings& settings, const std::string& language);
+
+/// Whether the key is one of those that configure a language, which nobody translates.
+[[nodiscard]] bool isConfigurationKey(std::string_view key);
 
 }  // namespace ovlocalize

@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     ovlocalize::addDump(commands);
     ovlocalize::addUpdate(commands);
     ovlocalize::addClear(commands);
+    ovlocalize::addCheck(commands);
     ovlocalize::addKeys(commands);
     return commands.run(argc, argv);
   } catch (const std::exception& error) {

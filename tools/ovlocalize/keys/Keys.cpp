@@ -24,8 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kConfigurationPrefix = "CONFIG-DO_NOT_TRANSLATE-";
-
 struct KeysRequest {
   std::vector<std::string> sources;    ///< Files, and folders that are searched for sources.
   std::vector<std::string> functions;  ///< Further functions whose first argument is a key.
@@ -69,7 +67,7 @@ struct Report {
 };
 
 bool isKept(const std::string& key, const std::vector<std::string>& patterns) {
-  return key.starts_with(kConfigurationPrefix) ||
+  return isConfigurationKey(key) ||
          std::any_of(patterns.begin(), patterns.end(), [&](const std::string& pattern) {
            return fnmatch(pattern.c_str(), key.c_str(), 0) == 0;
          });

@@ -1,0 +1,153 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <orvanta/messages/PluralKeyword.h>
+
+#include "../Escaping.h"
+#include "../MessageShape.h"
+#include "Rules.h"
+
+namespace ovlocalize {
+
+namespace {
+
+constexpr std::array<std::string_view, 6> kKeywords = {"zero", "one",  "two",
+                                                       "few",  "many", "other"};
+constexpr std::int64_t kUsual = 1000;
+constexpr std::int64_t kMillion = 1'000'000;
+
+// The first number of so many from 0 on for which a plural lacks the branch.
+struct Lack {
+  std::string_view keyword;
+  std::int64_t number;
+};
+
+std::string_view keywordFor(std::string_view language, const PluralShape& plural,
+                            std::int64_t number) {
+  const double left = static_cast<double>(number) - plural.offset;
+  return std::trunc(left) == left
+             ? orvanta::pluralKeyword(language, static_cast<std::int64_t>(left), plural.type)
+             : orvanta::pluralKeyword(language, left, plural.type);
+}
+
+std::vector<Lack> lacksOf(std::string_view language, const PluralShape& plural) {
+  std::vector<Lack> lacks;
+  const auto ask = [&](std::int64_t number) {
+    if (plural.numbers.contains(static_cast<double>(number))) {
+      return;
+    }
+    const std::string_view keyword = keywordFor(language, plural, number);
+    const bool isKnown = std::any_of(lacks.begin(), lacks.end(),
+                                     [&](const Lack& lack) { return lack.keyword == keyword; });
+    if (!isKnown && !plural.keywords.contains(keyword)) {
+      lacks.push_back({keyword, number});
+    }
+  };
+  for (std::int64_t number = 0; number <= kUsual; ++number) {
+    ask(number);
+  }
+  ask(kMillion);
+  return lacks;
+}
+
+void checkPlurals(LanguageFile& file, std::string_view key, const MessageShape& shape) {
+  for (const PluralShape& plural : shape.plurals) {
+    const std::string choice =
+        plural.type == orvanta::PluralType::cardinal ? "the plural of " : "the ordinal of ";
+    const std::string name = choice + std::string(plural.argument);
+    for (const Lack& lack : lacksOf(file.language, plural)) {
+      file.add(lack.number < kMillion ? rules::kPlural : rules::kRarePlural, key,
+               name + " lacks the branch " + std::string(lack.keyword) + ", which " +
+                   std::to_string(lack.number) + " takes");
+    }
+    for (const std::string_view keyword : plural.keywords) {
+      if (std::find(kKeywords.begin(), kKeywords.end(), keyword) == kKeywords.end()) {
+        file.add(rules::kMessage, key,
+                 name + " has a branch " + std::string(keyword) + ", which no number takes");
+      }
+    }
+  }
+}
+
+std::string_view kindOf(const ArgumentShape& argument) {
+  return argument.isSelect ? "a select" : argument.isNumber ? "a number" : "a plain argument";
+}
+
+// A plain argument may be a number, but nothing may stand for a select.
+bool fit(const ArgumentShape& one, const ArgumentShape& other) {
+  return one.isSelect == other.isSelect;
+}
+
+void compareArgument(LanguageFile& file, std::string_view key, std::string_view name,
+                     const ArgumentShape& english, const ArgumentShape& here) {
+  if (!fit(english, here)) {
+    file.add(rules::kArguments, key,
+             "the argument " + std::string(name) + " is " + std::string(kindOf(here)) +
+                 ", in English " + std::string(kindOf(english)));
+    return;
+  }
+  for (const std::string_view selector : here.selectors) {
+    if (!english.selectors.contains(selector)) {
+      file.add(rules::kArguments, key,
+               "the select of " + std::string(name) + " has a branch " + std::string(selector) +
+                   ", which English does not have");
+    }
+  }
+}
+
+void compare(LanguageFile& file, std::string_view key, const MessageShape& english,
+             const MessageShape& here) {
+  for (const auto& [name, argument] : english.arguments) {
+    const auto found = here.arguments.find(name);
+    if (found != here.arguments.end()) {
+      compareArgument(file, key, name, argument, found->second);
+    } else if (!argument.isSelect) {
+      // A language without genders, say, needs no select.
+      file.add(rules::kArguments, key,
+               "the argument " + std::string(name) + " of English is not in the message");
+    }
+  }
+  for (const auto& [name, argument] : here.arguments) {
+    if (!english.arguments.contains(name)) {
+      file.add(rules::kArguments, key, "the argument " + std::string(name) + " is not in English");
+    }
+  }
+}
+
+void addError(LanguageFile& file, std::string_view key, std::string_view text,
+              const MessageShape& shape) {
+  const std::string_view before = text.substr(0, shape.error->position);
+  const auto character = 1 + std::count_if(before.begin(), before.end(), [](char byte) {
+                           return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+                         });
+  file.add(rules::kMessage, key,
+           "malformed message, at character " + std::to_string(character) + ": " +
+               std::string(shape.error->reason));
+}
+
+}  // namespace
+
+bool checkMessage(LanguageFile& file, std::string_view key, std::string_view english,
+                  std::string_view text) {
+  if (english.find('{') == std::string_view::npos && text.find('{') == std::string_view::npos) {
+    return false;
+  }
+  const MessageShape here = messageShapeOf(text);
+  const bool hasEnglish = english.data() != nullptr;
+  const MessageShape source = hasEnglish ? messageShapeOf(english) : here;
+  if (!source.isMessage && !here.isMessage) {
+    return false;
+  }
+  if (here.error) {
+    addError(file, key, text, here);
+  } else {
+    if (!source.error) {
+      compare(file, key, source, here);
+    }
+    checkPlurals(file, key, here);
+  }
+  return true;
+}
+
+}  // namespace ovlocalize
