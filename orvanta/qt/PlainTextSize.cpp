@@ -13,7 +13,7 @@ bool hasOneSize(const QLabel& label) {
          !label.alignment().testFlag(Qt::AlignJustify);
 }
 
-// QLabel's own rule: a frame alone brings an indentation with it.
+// QLabel's rule: without an indentation of its own, a label with a frame is indented.
 int indentOf(const QLabel& label) {
   const int indent = label.indent();
   return indent < 0 && label.frameWidth() > 0

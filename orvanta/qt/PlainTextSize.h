@@ -9,13 +9,13 @@ class QLabel;
 
 namespace orvanta::qt {
 
-/// The size hint of a label whose text is plain and not wrapped. QLabel measures a text three
-/// times, for as many widths, after every change; this one measures once what has the same size in
-/// all.
+/// Memoized size hint of a label. After each change QLabel lays out its text three times, for three
+/// widths. A plain text that is not wrapped has the same size for all of them, and is measured
+/// once.
 class PlainTextSize {
  public:
-  /// What QLabel itself would give as both of its hints; none where the two may differ, and where
-  /// the label shows no text.
+  /// The size that QLabel would give as size hint and as minimum size hint. Absent when the two may
+  /// differ, and when the label has no text.
   [[nodiscard]] std::optional<QSize> hintFor(const QLabel& label);
 
  private:

@@ -6,9 +6,9 @@ namespace orvanta::qt {
 
 namespace {
 
-// A window that was told to update would be painted apart from the widgets in it that are updated
-// after it, and those twice. What a child uncovers when it is hidden is due at once instead: Qt
-// does not list widgets in such a place any more.
+// Not with `QWidget::update`: Qt would paint the window and, once more, each widget in it that
+// calls `update` afterwards. When a child is hidden, the area behind it is marked as exposed at
+// once, and Qt does not mark the widgets in an exposed area again.
 void markWholeWindow(QWidget& window) {
   if (!window.isVisible()) {
     return;

@@ -7,15 +7,14 @@ class QWidget;
 
 namespace orvanta::qt {
 
-/// Spares a window with many localized widgets one repaint for each of them at a change of
-/// language: the whole window is marked for repainting first, and what changes in it then adds
-/// nothing.
+/// Repaints a window with many localized widgets once at a change of language, instead of once for
+/// each widget: it marks the whole window for repainting before the widgets change.
 ///
-/// To be made before the localized widgets of the window are awakened, since observers are told in
-/// order. `window` must outlive it.
+/// Make it before the window's localized widgets are awakened, because observers are called in the
+/// order of their registration. `window` must outlive it.
 class ORVANTA_QT_EXPORT RepaintBatch {
  public:
-  /// Observes from now on.
+  /// Starts to observe changes of language.
   explicit RepaintBatch(QWidget& window);
 
  private:

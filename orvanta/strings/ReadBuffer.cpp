@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
 
-// Large enough for few calls of the system, small enough for a core's second-level cache.
+// Large enough for few system calls, small enough for the second-level cache.
 constexpr std::size_t kObservedPiece = std::size_t{256} * 1024;
 
 }  // namespace
@@ -20,7 +20,7 @@ void ReadBuffer::reserve(std::size_t capacity) {
   if (capacity <= capacity_) {
     return;
   }
-  // Files of similar sizes need not each enlarge it by a little.
+  // Grow by half at least, so that files of slowly growing sizes do not reallocate each time.
   capacity = std::max(capacity, capacity_ + capacity_ / 2);
   Bytes larger(allocateBytes(capacity, Pages::atOnce));
   if (larger == nullptr) {
@@ -56,7 +56,7 @@ bool ReadBuffer::read(ByteSource& file, std::uint64_t expectedSize, const Observ
   if (expectedSize >= kLargestFile) {
     return false;
   }
-  // One byte more than expected shows the end of the file without another buffer.
+  // One byte more than expected, so that the end of the file is seen without enlarging the buffer.
   reserve(static_cast<std::size_t>(expectedSize) + 1);
   const bool isRead = readToEnd(file, observer);
   size_ = isRead ? size_ : 0;

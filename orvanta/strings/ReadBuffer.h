@@ -10,16 +10,17 @@
 
 namespace orvanta::strings {
 
-/// The bytes of a whole file. The memory is kept for the next file: fresh memory costs more than
-/// reading a file into it. Row startup-configured-last.
+/// Reads whole files into memory, one after the other. The buffer is reused: page faults on fresh
+/// memory take longer than reading a file into it (benchmark row startup-configured-last).
 class ReadBuffer {
  public:
-  /// Gets all bytes so far.
+  /// Called with all bytes read so far.
   using Observer = std::function<void(std::string_view bytes)>;
 
-  /// Reads a file, whose size may have changed since it was `expectedSize`. False, with no bytes,
-  /// when it cannot be read to its end or is larger than a string table may be. An observer is
-  /// called after each piece, while that is in a core's own cache. Throws `std::bad_alloc`.
+  /// Reads a file to its end. `expectedSize` is a hint; the file may be larger or smaller. False,
+  /// with an empty view, when reading fails or the file is larger than a string table may be. An
+  /// observer is called after each piece, which is then still in the processor's cache. Throws
+  /// `std::bad_alloc`.
   [[nodiscard]] bool read(ByteSource& file, std::uint64_t expectedSize,
                           const Observer& observer = {});
 

@@ -22,10 +22,10 @@ class StringTableBuilder;
 ///
 ///     key length (4 bytes) | value length (4 bytes) | key | value
 ///
-/// so that the bytes a lookup compares and the text it hands out lie side by side. Behind them
-/// stands the index, an array of 8-byte slots, at most a third of them used, or half in a large
-/// table, probed one after the other; a slot holds the high half of the key's hash and where the
-/// record stands. A text that is handed out shares the arena: it stays valid when the table goes.
+/// so that the bytes that a look-up compares and the text that it returns are adjacent. The index
+/// follows in the same block: an open-addressing hash table with linear probing of 8-byte slots, at
+/// most a third full, half in a large table. A slot holds the high half of the key's hash and the
+/// offset of the record. Returned texts share the arena and stay valid when the table is destroyed.
 ///
 /// Reading one table from several threads is safe.
 class ORVANTA_EXPORT StringTable {
@@ -47,8 +47,8 @@ class ORVANTA_EXPORT StringTable {
     return text.data() == nullptr ? String() : handleTo(text);
   }
 
-  /// The same as a view, its data null when there is none, and the handle to what was found: for
-  /// callers who look on elsewhere and make one handle in the end.
+  /// The same as a view, with null data when there is none; `handleTo` makes the handle. For
+  /// callers that ask several tables and need one handle in the end.
   [[nodiscard]] std::string_view find(const HashedKey& key) const noexcept ORVANTA_LIFETIME_BOUND;
   /// The handle to what `find` found, which must be this table's.
   [[nodiscard]] String handleTo(std::string_view found) const noexcept {
@@ -58,10 +58,11 @@ class ORVANTA_EXPORT StringTable {
   /// The number of entries.
   [[nodiscard]] std::size_t size() const noexcept { return size_; }
 
-  /// The entries in the order of the statements that hold. The views live as long as the table.
+  /// The entries, one for each key, in the order of their statements in the file. The views live as
+  /// long as the table.
   [[nodiscard]] std::vector<Entry> entries() const;
 
-  /// Bytes of heap that the table holds on to.
+  /// The heap memory that the table occupies, in bytes.
   [[nodiscard]] std::size_t heapBytes() const noexcept;
 
  private:
@@ -73,15 +74,15 @@ class ORVANTA_EXPORT StringTable {
   static constexpr Slot kFree = std::numeric_limits<Slot>::max();
   static constexpr Slot kHashMask = 0xFFFFFFFF00000000;
 
-  // How a slot tells where its record stands.
+  // The offset of a slot's record in the arena.
   static std::size_t offsetIn(Slot slot) noexcept { return slot & ~kHashMask; }
   static bool mayHoldSameKey(Slot slot, std::uint64_t hash) noexcept {
     return ((slot ^ hash) & kHashMask) == 0;
   }
 
-  // Where the record of a key belongs, in an index of any number of slots. Spreads the half of the
-  // hash that a slot stores: neighbours agree in its upper bits, the lower ones still tell all but
-  // a few in a million apart.
+  // The first slot to probe for a key: the hash's high half, scaled to the number of slots. Keys in
+  // neighbouring slots agree in the upper bits of that half; its lower bits, which the slot stores,
+  // distinguish all but a few in a million.
   static std::size_t homeSlot(std::uint64_t hash, std::uint32_t slotCount) noexcept {
     return static_cast<std::size_t>(((hash >> 32) * slotCount) >> 32);
   }
@@ -90,7 +91,7 @@ class ORVANTA_EXPORT StringTable {
     return at + 1 == slotCount_ ? 0 : at + 1;
   }
 
-  // Looks on behind a slot with the key's hash and another key.
+  // Continues a search behind a slot that has the key's hash but another key.
   [[nodiscard]] std::string_view findBehind(std::size_t at, const HashedKey& key) const noexcept;
 
   [[nodiscard]] Entry entryAt(std::size_t offset) const noexcept {
@@ -108,8 +109,8 @@ class ORVANTA_EXPORT StringTable {
   std::size_t size_ = 0;
 };
 
-// Here, because it is what a look-up consists of: without a call for each of its steps it takes
-// half the time. A slot that has the key's hash has the key, all but always.
+// Inline: a look-up consists of this, and takes half the time without calls. A slot with the key's
+// hash almost always has the key.
 inline std::string_view StringTable::find(const HashedKey& key) const noexcept {
   std::size_t at = homeSlot(key.hash, slotCount_);
   const Slot* const index = index_;
@@ -123,8 +124,7 @@ inline std::string_view StringTable::find(const HashedKey& key) const noexcept {
     at = slotBehind(at);
   }
   const auto [candidate, text] = entryAt(offsetIn(index[at]));
-  // By the length of the key, which is known, not that of the candidate, which has to come from
-  // memory first: `memcmp` branches on it.
+  // `memcmp` branches on the length. The key's is known; the candidate's has to be loaded first.
   const bool isSame = candidate.size() == key.text.size() &&
                       std::memcmp(candidate.data(), key.text.data(), key.text.size()) == 0;
   return isSame ? text : findBehind(at, key);

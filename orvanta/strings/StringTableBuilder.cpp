@@ -10,7 +10,7 @@
 namespace orvanta::strings {
 
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
-  // Too much for longer entries; what is not used is never touched.
+  // Reserves too much when entries are longer; pages that are not used are never touched.
   constexpr std::size_t kShortEntry = 64;
   records_.reserve(expectedBytes / kShortEntry);
   static_cast<void>(reserve(expectedBytes));
@@ -57,7 +57,7 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   if (records == 0) {
     return table;
   }
-  // Misses are faster in a sparse index, but one that exceeds the caches should be small.
+  // A sparse index makes misses faster; a large one should rather fit into the caches.
   const std::size_t slotsForEach = records < 50'000 ? 3 : 2;
   const std::size_t count =
       std::min<std::size_t>(slotsForEach * records, std::numeric_limits<std::uint32_t>::max());

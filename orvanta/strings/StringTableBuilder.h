@@ -14,11 +14,12 @@
 
 namespace orvanta::strings {
 
-/// Fills a table. Of a key that is added twice the last value holds, except that a tentative entry
-/// yields to every other one.
+/// Builds a table. When a key is added several times, the last value wins; a tentative entry loses
+/// to any other entry with its key.
 class StringTableBuilder {
  public:
-  /// `expectedBytes` is an estimate of the sum of all keys and values; too little costs a copy.
+  /// `expectedBytes` estimates the size of all keys and values together; when it is too small, the
+  /// arena is reallocated.
   explicit StringTableBuilder(std::size_t expectedBytes = 0);
   ~StringTableBuilder();
   StringTableBuilder(const StringTableBuilder&) = delete;
@@ -27,9 +28,9 @@ class StringTableBuilder {
   /// Adds an entry. False when the table would exceed 4 GiB.
   bool add(std::string_view key, std::string_view value);
 
-  /// Room for one entry, into which the caller writes the key and directly behind it the value, at
-  /// most `bytes` together. Null when the table would exceed 4 GiB. Only `commitEntry` adds the
-  /// entry; any other call reuses the room.
+  /// Room of `bytes` bytes for one entry: the caller writes the key and, directly behind it, the
+  /// value. Null when the table would exceed 4 GiB. `commitEntry` adds the entry; any other call
+  /// discards it.
   [[nodiscard]] char* beginEntry(std::size_t bytes) {
     if (bytes > capacity_ - used_ || kHeader > capacity_ - used_ - bytes) {
       if (bytes > kLargestArena - kHeader || !reserve(kHeader + bytes)) {
@@ -68,7 +69,7 @@ class StringTableBuilder {
   char* arena_ = nullptr;
   std::size_t used_ = 0;
   std::size_t capacity_ = 0;
-  // In the order of adding.
+  // In the order in which they were added.
   std::vector<Slot> records_;
   std::vector<Slot> tentativeRecords_;
 };

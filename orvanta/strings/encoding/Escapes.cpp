@@ -29,8 +29,8 @@ Number readNumber(const char* at, const char* end, unsigned base, int mostDigits
   return number;
 }
 
-// The unit of which the digits begin at `at`, joined with the one after it if the two are a pair of
-// surrogates.
+// The UTF-16 unit whose digits begin at `at`; the whole character when it and the next escape are a
+// pair of surrogates.
 Number readUnits(const char* at, const char* end) noexcept {
   const Number unit = readNumber(at, end, kHexadecimal, kUnitDigits);
   const bool isHigh = (unit.value & 0xFC00) == 0xD800;
@@ -68,7 +68,7 @@ char namedEscape(char c) noexcept {
   }
 }
 
-// Resolves what follows a backslash; moves `out` on and gives the end of the escape.
+// Resolves the escape behind a backslash into `out` and returns the end of the escape.
 const char* resolveEscape(const char* at, const char* end, ResolvedText& out) noexcept {
   if (*at == kUnitEscape) {
     const Number units = readUnits(at + 1, end);

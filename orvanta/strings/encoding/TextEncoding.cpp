@@ -26,7 +26,7 @@ constexpr Mark kMarks[] = {
     {"\xFE\xFF"sv, TextEncoding::kUtf16Big},
 };
 
-// How many of the first 16-bit units are ASCII in either byte order.
+// How many of the first 16-bit units are ASCII characters, for each byte order.
 struct AsciiUnits {
   std::size_t little = 0;
   std::size_t big = 0;
@@ -44,7 +44,7 @@ AsciiUnits countAsciiUnits(std::string_view bytes) noexcept {
 }
 
 // Whether the first two characters, or the only one, have their zero bytes where UTF-32 has them.
-// One alone does not tell in a longer text: a few NUL bytes may have come in front of UTF-8.
+// One character is not enough in a longer text: a few NUL bytes may stand in front of UTF-8.
 bool looksLikeUtf32(std::string_view bytes, bool isBig) noexcept {
   if (bytes.size() < 4) {
     return false;
@@ -71,7 +71,7 @@ std::optional<TextEncoding> wideEncodingWithoutMark(std::string_view bytes) noex
   if (bytes.size() < 2 || (bytes[0] == 0) == (bytes[1] == 0)) {
     return std::nullopt;
   }
-  // A single zero byte may as well be a NUL within UTF-8; a file of two bytes cannot show more.
+  // A single zero byte may be a NUL character of UTF-8. A file of two bytes cannot have more.
   const AsciiUnits units = countAsciiUnits(bytes);
   const std::size_t enough = bytes.size() < 4 ? 1 : 2;
   if (bytes[1] == 0 && units.little >= enough && units.little > units.big) {
@@ -153,7 +153,7 @@ Utf8Transcoder::Utf8Transcoder(EncodedText text) noexcept
 
 std::size_t Utf8Transcoder::roomForRest() const noexcept {
   const auto left = static_cast<std::size_t>(end_ - at_);
-  // A unit becomes three bytes at most, but a unit of UTF-32 four.
+  // A unit becomes at most three bytes; a unit of UTF-32, four.
   return kSlack + (unitSize(encoding_) == 4 ? left : 3 * left / unitSize(encoding_));
 }
 
@@ -200,7 +200,7 @@ WholeUtf8::WholeUtf8(EncodedText text) {
   }
   Utf8Transcoder transcoder(text);
   std::size_t size = 0;
-  // Broken UTF-8 rarely grows; its room is enlarged when it does.
+  // Repaired UTF-8 is rarely longer; when it is, the buffer is enlarged.
   std::size_t room = text.encoding == TextEncoding::kBrokenUtf8
                          ? text.bytes.size() + text.bytes.size() / 8 + Utf8Transcoder::kSlack
                          : transcoder.roomForRest();

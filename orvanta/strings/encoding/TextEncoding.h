@@ -16,7 +16,7 @@ enum class TextEncoding {
   kUtf16Big,
   kUtf32Little,
   kUtf32Big,
-  kLatin1,  ///< Only where an XML document declares it, as the next one.
+  kLatin1,  ///< This and the next only where an XML document declares them.
   kWindows1252,
 };
 
@@ -27,36 +27,36 @@ struct EncodedText {
   bool hasMark = false;
 };
 
-/// Tells the encoding by the byte-order mark or, without one, by the zero bytes of the first
-/// characters, which are ASCII in a strings file. Everything else is UTF-8, whose validity is
-/// checked here and nowhere else.
+/// Detects the encoding by the byte-order mark or, without one, by the zero bytes of the first
+/// characters, which are ASCII in a strings file. Everything else is UTF-8. Its validity is checked
+/// here and nowhere else.
 [[nodiscard]] EncodedText detectEncoding(std::string_view bytes) noexcept;
 
 /// Converts text to UTF-8, piece by piece. What is no character (invalid UTF-8, a lone surrogate, a
 /// byte that the encoding leaves undefined) becomes U+FFFD; a torn unit at the end is left out.
 class Utf8Transcoder {
  public:
-  /// Less room than this may be left unused although there is more text.
+  /// The transcoder may stop with less room than this left, although there is more text.
   static constexpr std::size_t kSlack = 64;
 
   explicit Utf8Transcoder(EncodedText text) noexcept;
 
   [[nodiscard]] bool atEnd() const noexcept { return at_ == end_; }
 
-  /// The room in which the rest is certain to fit at once.
+  /// An upper bound of the room that the rest needs.
   [[nodiscard]] std::size_t roomForRest() const noexcept;
 
-  /// Writes as much as fits into `out` and gives the number of bytes written. May overwrite all of
-  /// `room`.
+  /// Writes as much as fits into `out` and returns the number of bytes written. May overwrite all
+  /// of `room`.
   std::size_t transcode(char* out, std::size_t room) noexcept;
 
-  /// How many times U+FFFD stands for what is no character.
+  /// How many U+FFFD were written for invalid input.
   [[nodiscard]] std::size_t replacements() const noexcept { return replacements_; }
 
   /// The offset of the first of them in the output.
   [[nodiscard]] std::size_t firstReplacement() const noexcept { return firstReplacement_; }
 
-  /// Whether the text ends within a unit.
+  /// Whether the text ends within a code unit.
   [[nodiscard]] bool isTorn() const noexcept { return isTorn_; }
 
  private:

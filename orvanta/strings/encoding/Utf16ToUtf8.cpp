@@ -5,8 +5,8 @@
 
 #include <orvanta/strings/encoding/Utf16ToUtf8.h>
 
-// Most of the loading time of a downloaded table is spent here (benchmark row load-utf16). Such
-// tables are mostly ASCII keys and values in one other script. Blocks of sixteen units take one of
+// Loading a downloaded table spends most of its time here (benchmark row load-utf16). Such tables
+// are mostly ASCII keys, and values in one other script. Each block of sixteen units takes one of
 // three paths, none of which branches on single characters.
 
 namespace orvanta::strings {
@@ -28,8 +28,8 @@ constexpr std::array<std::uint32_t, 0x800> makePairs() {
 
 constexpr std::array<std::uint32_t, 0x800> kPairs = makePairs();
 
-// The part of the UTF-8 that units with the same upper ten bits share. The lower six bits stand in
-// the last byte.
+// The UTF-8 of all units with the same upper ten bits; only the lower six bits, in the last byte,
+// differ.
 struct Form {
   std::uint32_t bytes;  // The first byte in the lowest bits; zeros for the unit's lower six bits.
   std::uint8_t shift;   // The position of the lower six bits.
@@ -148,7 +148,7 @@ char* putBlockBelow800(const char* in, char* out) noexcept {
   return out;
 }
 
-// Null when there is a surrogate among them.
+// Null when one of the units is a surrogate.
 template <std::endian kOrder, std::size_t kUnits = kBlock>
 char* putBlock(const char* in, char* out) noexcept {
   std::uint32_t seen = 0;
@@ -162,7 +162,7 @@ char* putBlock(const char* in, char* out) noexcept {
   return (seen & kSurrogate) == 0 ? out : nullptr;
 }
 
-// The block, and one unit more where it ends within a pair of surrogates.
+// Converts the block, and one more unit when the block ends within a pair of surrogates.
 template <std::endian kOrder>
 Transcoded putBlockWithSurrogates(const char* in, const char* inEnd, char* out,
                                   Replacements& replacements) noexcept {
@@ -192,7 +192,8 @@ Transcoded transcode(const char* in, const char* inEnd, char* begin, const char*
       at = putBlockWithSurrogates<kOrder>(at.in, inEnd, at.out, replacements);
     }
   }
-  // The rest, and short texts: four units at a time, then one by one from the first surrogate on.
+  // The rest of a text, and short texts: four units at a time up to the first surrogate, then one
+  // at a time.
   while (hasRoom() && inEnd - at.in >= 8) {
     char* out = putBlock<kOrder, 4>(at.in, at.out);
     if (out == nullptr) {

@@ -6,18 +6,18 @@
 
 namespace orvanta::strings {
 
-/// Where a conversion stopped, in both texts.
+/// Where a conversion stopped in its input and in its output.
 struct Transcoded {
   const char* in;
   char* out;
 };
 
-/// Where a conversion had to put U+FFFD for what is no character.
+/// The U+FFFD that a conversion wrote for invalid input.
 struct Replacements {
   std::size_t count = 0;
   const char* first = nullptr;  ///< In the output.
 
-  /// Writes one and gives its end.
+  /// Writes one and returns its end.
   char* put(char* out) noexcept {
     first = count == 0 ? out : first;
     ++count;
@@ -25,8 +25,8 @@ struct Replacements {
   }
 };
 
-/// Copies UTF-8, with U+FFFD for invalid sequences, and stops where less than `utf8::kLongest`
-/// bytes of room are left. The output is up to three times as long as the input.
+/// Copies UTF-8 and writes U+FFFD for invalid sequences. Stops when less than `utf8::kLongest`
+/// bytes of room are left. The output is at most three times as long as the input.
 [[nodiscard]] Transcoded repairUtf8(const char* in, const char* inEnd, char* out,
                                     const char* outEnd, Replacements& replacements) noexcept;
 

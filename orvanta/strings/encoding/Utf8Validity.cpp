@@ -5,13 +5,13 @@
 
 #include <orvanta/strings/encoding/Utf8Validity.h>
 
-// Every byte is judged by itself and the three before it, without branches, so that the compiler
-// judges a vector of them at once. A block of ASCII is passed over at the cost of looking at it.
+// Whether a byte is valid depends on it and on the three bytes before it alone. The check has no
+// branches, so that the compiler vectorizes it. A block of ASCII takes a faster path.
 
 namespace orvanta::strings {
 
-// Compiled twice where the compiler can choose at run time: with vectors of 32 bytes it takes half
-// the time. Not under ThreadSanitizer, which is not there yet when the choice is made.
+// Compiled a second time for AVX2, which halves the time; the version is chosen when the program is
+// loaded. Not under ThreadSanitizer, which is not yet initialised at that time.
 #if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && defined(__GLIBC__) && \
     !defined(__SANITIZE_THREAD__)
 #define ORVANTA_ALSO_FOR_WIDE_VECTORS [[gnu::target_clones("avx2", "default")]]
@@ -36,31 +36,32 @@ constexpr std::size_t kLookBack = 3;
   return (any & 0x8080808080808080) == 0;
 }
 
-// Whether a character that began in the three bytes before `block` reaches into it.
-[[gnu::always_inline]] inline bool isAwaited(const Byte* block) noexcept {
+// Whether a character that begins in the three bytes before `block` continues in it.
+[[gnu::always_inline]] inline bool expectsContinuation(const Byte* block) noexcept {
   return block[-1] >= 0xC0 || block[-2] >= 0xE0 || block[-3] >= 0xF0;
 }
 
-// The three bytes before the block count as valid as far as they go.
+// The three bytes before the block are taken for valid.
 [[gnu::always_inline]] inline bool isValidBlock(const Byte* block) noexcept {
   Byte wrong = 0;
   for (std::ptrdiff_t index = 0; index < static_cast<std::ptrdiff_t>(kBlock); ++index) {
     const Byte byte = block[index];
     const Byte before = block[index - 1];
     const bool continues = (byte & 0xC0) == 0x80;
-    const bool awaited = (before >= 0xC0) | (block[index - 2] >= 0xE0) | (block[index - 3] >= 0xF0);
+    const bool mustContinue =
+        (before >= 0xC0) | (block[index - 2] >= 0xE0) | (block[index - 3] >= 0xF0);
     const bool overlong = ((byte & 0xFE) == 0xC0) | ((before == 0xE0) & (byte < 0xA0)) |
                           ((before == 0xF0) & (byte < 0x90));
     const bool surrogate = (before == 0xED) & (byte >= 0xA0);
     const bool beyond = (byte >= 0xF5) | ((before == 0xF4) & (byte >= 0x90));
-    const bool isWrong = (continues != awaited) | overlong | surrogate | beyond;
+    const bool isWrong = (continues != mustContinue) | overlong | surrogate | beyond;
     wrong |= static_cast<Byte>(isWrong);
   }
   return wrong == 0;
 }
 
 [[gnu::always_inline]] inline bool isSound(const Byte* block) noexcept {
-  return isAscii(block) && !isAwaited(block) ? true : isValidBlock(block);
+  return isAscii(block) && !expectsContinuation(block) ? true : isValidBlock(block);
 }
 
 }  // namespace
@@ -69,8 +70,8 @@ ORVANTA_ALSO_FOR_WIDE_VECTORS
 bool isValidUtf8(std::string_view text) noexcept {
   const auto* at = reinterpret_cast<const Byte*>(text.data());
   std::size_t left = text.size();
-  // The first block, which has nothing before it, and the last one, behind which nothing may be
-  // awaited, are judged in a copy between zeros.
+  // The first block has no bytes before it, and no character may continue behind the last one: both
+  // are copied between zeros and checked there.
   std::array<Byte, kLookBack + kBlock + kBlock> edge = {};
   if (left < kBlock) {
     std::memcpy(edge.data() + kLookBack, at, left);

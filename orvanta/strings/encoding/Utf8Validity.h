@@ -4,7 +4,7 @@
 
 namespace orvanta::strings {
 
-/// What `utf8::isValid` answers, at a speed that does not show when a whole file is read.
+/// The same as `utf8::isValid`, fast enough not to matter when a whole file is read.
 [[nodiscard]] bool isValidUtf8(std::string_view text) noexcept;
 
 }  // namespace orvanta::strings

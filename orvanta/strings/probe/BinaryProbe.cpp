@@ -11,13 +11,13 @@ namespace orvanta::strings {
 
 namespace {
 
-// Half of what the reader grants (BinaryTable.cpp), so many times the size of the file.
+// This multiple of the file's size: half of what the reader allows (BinaryTable.cpp).
 constexpr std::size_t kGrantedGrowth = 8;
 constexpr std::size_t kPairOverhead = 32;
 constexpr std::size_t kMostBytesOfUnit = 3;
 
-// The longest way from the beginning of an object to its text: a marker, and an integer of 16 bytes
-// with a marker of its own.
+// The longest distance from the beginning of an object to its text: a marker, and an integer of 16
+// bytes with its own marker.
 constexpr std::size_t kLongestMarker = 18;
 
 std::size_t mostBytes(const std::optional<BinaryObject>& object) noexcept {
@@ -30,7 +30,8 @@ class Pairs {
   Pairs(const BinaryObjects& objects, const BinaryObject& dictionary, std::size_t fileSize) noexcept
       : objects_(objects), dictionary_(dictionary), granted_(kGrantedGrowth * fileSize) {}
 
-  // Whether the reader certainly gets to the pair at `index`. The indices must not descend.
+  // Whether the reader is certain to reach the pair at `index` within its memory limit. Must be
+  // called with ascending indices.
   [[nodiscard]] bool isReached(std::size_t index) noexcept {
     for (; charged_ <= index; ++charged_) {
       const std::size_t most =
@@ -54,7 +55,7 @@ class Pairs {
   const BinaryObjects& objects_;
   const BinaryObject& dictionary_;
   std::size_t granted_;
-  std::size_t charged_ = 0;  // How many pairs were.
+  std::size_t charged_ = 0;  // The number of pairs charged so far.
 };
 
 class BinaryProbe final : public FileProbe {
@@ -106,7 +107,7 @@ class BinaryProbe final : public FileProbe {
 
   const PrefixSearches& searches_;
   std::size_t searched_ = 0;
-  // Where the prefix stands first and last; `last_` is 0 for nowhere.
+  // The first and the last place of the prefix; `last_` is 0 when there is none.
   std::size_t first_ = std::string_view::npos;
   std::size_t last_ = 0;
 };

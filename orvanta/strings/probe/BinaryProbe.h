@@ -7,11 +7,12 @@
 
 namespace orvanta::strings {
 
-/// For binary property lists. `searches` must outlive it.
+/// A probe for binary property lists. `searches` must outlive it.
 ///
-/// A text stands there in one piece, so a key with the prefix is the text of an object that begins
-/// a little before a place where the prefix stands. Pairs that the reader might leave out, because
-/// those before them take more than it grants a file of that size, need a full read.
+/// Texts are contiguous there, so a key with the prefix is the text of an object that begins
+/// shortly before a place of the prefix. A full read is needed when the pairs before such a key
+/// might exceed the memory that the reader allows for the file, because the reader then leaves the
+/// key out.
 [[nodiscard]] std::unique_ptr<FileProbe> makeBinaryProbe(const PrefixSearches& searches);
 
 }  // namespace orvanta::strings

@@ -10,8 +10,8 @@
 
 namespace orvanta::strings {
 
-/// Finds the places in a text at one of which, between its quotes, any key that begins with a
-/// prefix has the prefix itself or an escape that may spell a character of it.
+/// Finds the places of a prefix in a text, and of the escapes that may spell one of its characters.
+/// Every key that begins with the prefix has such a place between its quotes.
 template <typename Text>
 class PrefixPlaces {
  public:
@@ -19,11 +19,12 @@ class PrefixPlaces {
   PrefixPlaces(Text text, const SampledSearch& search, const SpellingEscapes& escapes) noexcept
       : text_(text), search_(search), escapes_(escapes) {}
 
-  /// Appends the places from `begin` on and before `end`, in order, until there are `most`. One
-  /// that overlaps with another is left out. In units.
+  /// Appends the places from `begin` to `end`, in units and in order, until `places` holds `most`.
+  /// Leaves out places that overlap with the one before.
   void collect(std::size_t begin, std::size_t end, std::size_t most,
                std::vector<std::size_t>& places) const {
-    // A block stays in the fastest cache between both searches. Row startup-utf8.
+    // Small enough to stay in the first-level cache for the second search (benchmark row
+    // startup-utf8).
     constexpr std::size_t kBlock = std::size_t{16} * 1024 / kUnitSize;
     while (begin < end && places.size() < most) {
       const std::size_t blockEnd = std::min(begin + kBlock, end);
@@ -45,7 +46,7 @@ class PrefixPlaces {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
   static constexpr std::size_t kUnitSize = sizeof(typename Text::Unit);
 
-  // One that begins before `end`.
+  // The next prefix that begins before `end`.
   [[nodiscard]] std::size_t nextPrefix(std::size_t from, std::size_t end) const noexcept {
     const std::string_view bytes =
         text_.bytes().substr(0, end * kUnitSize + search_.longestPattern() - 1);
@@ -61,9 +62,9 @@ class PrefixPlaces {
     return at;
   }
 
-  // The byte of a backslash is half of many another unit of UTF-16, of Chinese characters above
-  // all. Where one of those turns up, a whole block is passed over if no backslash is in it.
-  // Row startup.
+  // In UTF-16 the byte of a backslash is also half of many other units, mostly of Chinese
+  // characters. Where one of those is found, a whole block without a backslash is skipped
+  // (benchmark row startup).
   [[nodiscard]] std::size_t nextBackslash(std::size_t from, std::size_t end) const noexcept {
     constexpr std::size_t kBlock = 128;
     const std::string_view bytes = text_.slice(0, end);
@@ -79,7 +80,7 @@ class PrefixPlaces {
     return kNone;
   }
 
-  // Written so that compilers turn it into vector instructions.
+  // Without branches, so that compilers vectorize it.
   [[nodiscard]] bool holdsBackslash(std::size_t begin, std::size_t end) const noexcept {
     unsigned found = 0;
     for (std::size_t index = begin; index < end; ++index) {

@@ -1,25 +1,24 @@
-// Why the entries are those of a full read.
+// Why the probe gives the same entries as a full read.
 //
 // The prefix consists of letters, digits, "-", "_" and "." alone. Suppose that the table of a full
-// read has a key that begins with it, and look at where the key's first characters come from.
+// read has a key that begins with the prefix. In the file, the characters of that prefix are
+// written in one of two ways.
 //
-// 1. Each came from a character of the file that stood for itself, and they stood side by side.
-//    Then the file holds the prefix as such, encoded like the rest of it. No character that is not
-//    ASCII decodes to an ASCII one: what is malformed becomes U+FFFD.
-// 2. One of them was written as an escape, or something that stands for no character came between.
-//    - In the text form only a backslash and what follows it does so. The escapes for control
-//      characters and quotation marks give characters that the prefix does not hold, and so does
-//      an unknown escape, which gives the character behind the backslash, unless that one is in the
-//      prefix (SpellingEscapes).
-//    - In XML a numeric reference does so; the five named ones give other characters, and any other
-//      reference costs its pair. Comments, processing instructions and CDATA sections may come
-//      between: then a "<" stands right behind a character of the prefix, and it does not begin a
-//      closing tag, which would end the key.
-//    - Binary property lists have neither; their texts stand in one piece.
+// 1. As themselves and adjacent. Then the file contains the prefix, in the file's encoding. No
+//    non-ASCII character decodes to an ASCII one, because malformed input becomes U+FFFD.
+// 2. With an escape for one of them, or with something between two of them.
+//    - In the text form that is a backslash and what follows it. The escapes for control characters
+//      and quotation marks give characters that are not in the prefix. An unknown escape gives the
+//      character behind the backslash, and matters if that is in the prefix (SpellingEscapes).
+//    - In XML it is a numeric reference: the five named ones give characters that are not in the
+//      prefix, and any other reference loses its pair. Or it is a comment, processing instruction
+//      or CDATA section between two characters: then a "<" follows a character of the prefix and
+//      does not begin a closing tag, which would end the key.
+//    - In binary property lists neither is possible: texts are contiguous.
 //
-// These places are searched for in the whole file. Where there are none, there is no such entry.
-// Otherwise the probe of the file's form reads what stands there or asks for a full read. Forms and
-// encodings without a probe, which are rare, are read in full.
+// The whole file is searched for these places. Without any, there is no such entry. Otherwise the
+// probe for the file's form reads the entries there, or asks for a full read. Forms and encodings
+// without a probe, which are rare, are read in full.
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -42,17 +41,17 @@ namespace {
 constexpr std::size_t kShortestPrefix = SampledSearch::kShortestPattern;
 constexpr std::size_t kLongestPrefix = 64;
 
-// Large enough for few calls of the system, small enough to stay in a core's second-level cache. It
-// also tells the form of the file.
+// Large enough for few system calls, small enough for the second-level cache. The first piece also
+// shows the form of the file.
 constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
-// Tell the encoding. Whether UTF-8 is valid does not matter here.
+// Enough to detect the encoding. Whether UTF-8 is valid does not matter here.
 constexpr std::size_t kFirstBytes = 512;
 
-// Longer than anything that is searched for.
+// Longer than every pattern that is searched for.
 constexpr std::size_t kOverlap = FileProbe::kLargestOverlap;
 
-// Tables of smaller files are far from the size at which the reader leaves entries out.
+// Up to this size the reader leaves no entry out of a table for its size.
 constexpr std::size_t kLargestFile = std::size_t{256} * 1024 * 1024;
 
 bool canBeProbedFor(char character) noexcept {
@@ -61,8 +60,8 @@ bool canBeProbedFor(char character) noexcept {
          character == '.';
 }
 
-// Whether the first character is "<", white space and the zero bytes of wide encodings aside. The
-// reader takes no other text for XML, nor one that begins with more white space.
+// Whether "<" is the first character behind white space and the zero bytes of wide encodings. The
+// reader takes only such a text for XML.
 bool mayBeXml(std::string_view text) noexcept {
   const auto first = std::find_if(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) > ' ';
@@ -70,7 +69,7 @@ bool mayBeXml(std::string_view text) noexcept {
   return first != text.end() && *first == '<';
 }
 
-// A probe for the form of the file that begins with `head`; null when there is none for it.
+// A probe for the form of the file that begins with `head`; null when that form has none.
 std::unique_ptr<FileProbe> makeFileProbe(std::string_view head, const PrefixSearches& searches) {
   if (looksLikeBinaryTable(head)) {
     return makeBinaryProbe(searches);
@@ -142,8 +141,9 @@ void PrefixProbe::releaseMemory() noexcept {
   whole_.release();
 }
 
-// Keeps the head of the file and reads the rest through a small window, which is faster than into
-// as much memory as it needs. Row startup. Null when the head does not do.
+// Keeps the head of the file in memory and searches the rest through a small window, which is
+// faster than reading the whole file into memory (benchmark row startup). Null when the head is not
+// enough.
 std::shared_ptr<const StringTable> PrefixProbe::entriesFromHead(ByteSource& file) {
   if (window_ == nullptr) {
     window_.reset(allocateBytes(kPiece + kOverlap + kPiece));
@@ -204,13 +204,13 @@ std::shared_ptr<const StringTable> PrefixProbe::entriesFromAll(ByteSource& file,
   return found == nullptr ? restricted(readStringTable(bytes)) : found;
 }
 
-// Null when the head does not do, or only a full read can tell.
+// Null when the head is not enough or a full read is needed.
 std::shared_ptr<const StringTable> PrefixProbe::entriesAt(const FilePiece& head) const {
   StringTableBuilder builder;
   return file_->addEntries(head, builder) ? restricted(builder.build()) : nullptr;
 }
 
-// Without the entries that do not begin with the prefix. Of no table it makes an empty one.
+// The entries whose keys begin with the prefix. An empty table for null.
 std::shared_ptr<const StringTable> PrefixProbe::restricted(
     const std::shared_ptr<const StringTable>& table) const {
   StringTableBuilder builder;

@@ -17,18 +17,18 @@
 
 namespace orvanta::strings {
 
-/// The longest prefix that all of `keys` share and that can be probed for; empty when it would be
-/// too short to be worth it.
+/// The longest common prefix of `keys` that can be probed for; empty when it is too short to be
+/// worth probing.
 [[nodiscard]] std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept;
 
-/// Reads of strings files the few entries whose keys begin with one prefix, in a fraction of the
-/// time that reading a whole file takes. Row startup-configured-first.
+/// Reads the few entries of strings files whose keys begin with one prefix, in a fraction of the
+/// time of a full read (benchmark row startup-configured-first).
 ///
-/// Used for one file after the other, from one thread at a time. Keeps its memory until told to
-/// free it: as much as the largest file if entries stand at the end of files.
+/// Used for one file after the other, by one thread at a time. Keeps its buffers for the next file,
+/// as large as the largest file if the entries stand at the end of files, until `releaseMemory`.
 class PrefixProbe {
  public:
-  /// Opens the file, from its start; null when it cannot be opened.
+  /// Opens the file at its start; null when it cannot be opened.
   using Opener = std::function<std::unique_ptr<ByteSource>()>;
 
   PrefixProbe();
@@ -36,10 +36,10 @@ class PrefixProbe {
   PrefixProbe(const PrefixProbe&) = delete;
   PrefixProbe& operator=(const PrefixProbe&) = delete;
 
-  /// Those entries of the table that `readStringTable` gives for the file whose keys begin with
-  /// `prefix`, which `prefixToProbeFor` gave; none when it gives no table. Null when the file
-  /// cannot be read. Its size may have changed since it was `expectedSize`; it may be opened twice.
-  /// Throws `std::bad_alloc`.
+  /// Of the table that `readStringTable` gives for the file, the entries whose keys begin with
+  /// `prefix`, a result of `prefixToProbeFor`. Empty when it gives no table; null when the file
+  /// cannot be read. `expectedSize` is a hint; the file may be opened twice. Throws
+  /// `std::bad_alloc`.
   [[nodiscard]] std::shared_ptr<const StringTable> entries(const Opener& open,
                                                            std::uint64_t expectedSize,
                                                            std::string_view prefix);
@@ -55,10 +55,10 @@ class PrefixProbe {
       const std::shared_ptr<const StringTable>& table) const;
 
   std::unique_ptr<PrefixSearches> searches_;
-  std::unique_ptr<FileProbe> file_;  // Null when there is none for its form.
+  std::unique_ptr<FileProbe> file_;  // Null when the file's form has no probe.
   Bytes window_;
   ReadBuffer whole_;
-  // The head of the last file did not do. The files of an application are alike.
+  // Whether the head of the last file was not enough. The files of an application are alike.
   bool needsAll_ = false;
 };
 

@@ -9,8 +9,8 @@
 
 namespace orvanta::strings {
 
-/// The characters that can spell a character of a prefix when they stand behind a backslash, and a
-/// line break, which some readers drop.
+/// The characters which, behind a backslash, may spell a character of a prefix. Also line breaks,
+/// which some readers drop behind a backslash.
 class SpellingEscapes {
  public:
   explicit SpellingEscapes(std::string_view prefix) noexcept {
@@ -29,7 +29,7 @@ class SpellingEscapes {
   std::bitset<256> characters_;
 };
 
-/// What searches for one prefix in files of all forms.
+/// The searches for one prefix in files of all forms.
 struct PrefixSearches {
   explicit PrefixSearches(std::string_view wanted)
       : prefix(wanted),
@@ -45,7 +45,7 @@ struct PrefixSearches {
   const SpellingEscapes escapes;
 
  private:
-  // From the first byte that is not zero to the last.
+  // Without the zero byte at the beginning or the end, so that it serves both byte orders.
   static std::string asUtf16(std::string_view ascii) {
     std::string bytes;
     for (const char character : ascii) {

@@ -13,10 +13,10 @@
 
 namespace orvanta::strings {
 
-/// The double quotes of a text that no backslash escapes, in order.
+/// The unescaped double quotes of a text, in order.
 ///
-/// They are found a block at a time, without a branch for each: their distances cannot be
-/// predicted. Row startup-configured-last.
+/// Finds them a block at a time without a branch for each, because their distances cannot be
+/// predicted (benchmark row startup-configured-last).
 template <typename Text>
 class QuoteIndex {
  public:
@@ -24,7 +24,7 @@ class QuoteIndex {
 
   explicit QuoteIndex(Text text) noexcept : text_(text) {}
 
-  /// The next quote, `kNone` at the end of the text; does not consume it.
+  /// The index of the next quote, `kNone` at the end of the text. Does not consume it.
   [[nodiscard]] std::size_t peek() noexcept {
     if (at_ == count_) [[unlikely]] {
       fill();
@@ -33,7 +33,7 @@ class QuoteIndex {
   }
   void drop() noexcept { ++at_; }
 
-  /// Drops the quotes before `index`. True, and drops it, if the next one is at `index`.
+  /// Drops the quotes before `index`, and a quote at `index`. Whether there was one at `index`.
   [[nodiscard]] bool takeAt(std::size_t index) noexcept {
     while (peek() < index) {
       drop();
@@ -49,7 +49,8 @@ class QuoteIndex {
   static constexpr std::size_t kBlock = 64;
   static constexpr std::size_t kEnough = 128;
 
-  // A bit for each unit of a block. Quotes and backslashes, and whether any is a backslash.
+  // One bit for each unit of a block that is a quote or a backslash, and whether any is a
+  // backslash.
   struct Marks {
     std::uint64_t bits = 0;
     bool haveBackslash = false;
@@ -74,7 +75,7 @@ class QuoteIndex {
       quotes = withoutEscaped(marks.bits);
     }
     const auto more = static_cast<std::size_t>(std::popcount(quotes));
-    // Most blocks have no more: a fixed number is written, of which `more` count.
+    // Most blocks have at most this many quotes. So many are always written; `more` of them count.
     constexpr std::size_t kUsual = 4;
     std::size_t* const out = found_.data() + count_;
     for (std::size_t number = 0; number < kUsual; ++number) {
@@ -89,8 +90,8 @@ class QuoteIndex {
     next_ += kBlock;
   }
 
-  // The quotes alone, without those that a backslash escapes. Keeps in mind whether the first unit
-  // of the next block is escaped.
+  // The quotes without the escaped ones. Remembers whether the first unit of the next block is
+  // escaped.
   [[nodiscard]] std::uint64_t withoutEscaped(std::uint64_t marks) noexcept {
     marks &= isEscaped_ ? ~std::uint64_t{1} : ~std::uint64_t{0};
     isEscaped_ = false;

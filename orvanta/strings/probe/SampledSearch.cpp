@@ -20,7 +20,7 @@ SampledSearch::SampledSearch(std::vector<std::string> patterns) : patterns_(std:
   }
   std::sort(places_.begin(), places_.end(),
             [](const Place& a, const Place& b) { return a.window < b.window; });
-  // An occurrence of n bytes has n - 7 windows: of as many positions in a row one is sampled.
+  // An occurrence of n bytes contains n - 7 windows: one of every n - 7 positions is sampled.
   stride_ = shortest - (kWindowSize - 1);
 }
 
@@ -35,7 +35,7 @@ std::size_t SampledSearch::filterIndex(Window window) noexcept {
   return static_cast<std::size_t>((window * kSpreading) >> (64U - kFilterBits));
 }
 
-// 0 when the window at `bytes` stands in no pattern.
+// 0 when no pattern contains the window at `bytes`.
 inline unsigned SampledSearch::mayStartWindow(const char* bytes) const noexcept {
   return filter_[filterIndex(windowAt(bytes))];
 }
@@ -44,7 +44,7 @@ std::size_t SampledSearch::find(std::string_view text, std::size_t from) const n
   const std::size_t end = text.size() < kWindowSize ? 0 : text.size() - kWindowSize + 1;
   const std::size_t stride = stride_;
   std::size_t at = from;
-  // Several windows for each branch: the look-ups overlap, and the branch is next to never taken.
+  // Several windows for each branch: their look-ups overlap, and the branch is almost never taken.
   constexpr std::size_t kTogether = 8;
   while (at + (kTogether - 1) * stride < end) {
     const char* next = text.data() + at;

@@ -9,11 +9,10 @@
 
 namespace orvanta::strings {
 
-/// Searches for any of a few byte patterns while reading only a small part of the text: eight bytes
-/// at a time, a stride apart that is short enough that every occurrence of a pattern contains one
-/// such window. A window that stands nowhere in a pattern, as a small filter tells, is all that is
-/// needed to pass over a stride of text. `memmem` takes two to four times as long. Rows startup and
-/// startup-1k.
+/// Searches for a few byte patterns and reads only a part of the text: windows of eight bytes, one
+/// stride apart. The stride is so short that every occurrence of a pattern contains one of the
+/// windows. A stride is skipped when no pattern contains its window, which a small filter decides.
+/// `memmem` takes two to four times as long (benchmark rows startup and startup-1k).
 class SampledSearch {
  public:
   static constexpr std::size_t kShortestPattern = 8;
@@ -23,8 +22,8 @@ class SampledSearch {
 
   static constexpr std::size_t kNone = std::string_view::npos;
 
-  /// The beginning of an occurrence that lies in `text` from `from` on, `kNone` when there is none.
-  /// No other occurrence ends before it begins.
+  /// The beginning of an occurrence within `text` from `from` on, `kNone` when there is none. No
+  /// other occurrence ends before it.
   [[nodiscard]] std::size_t find(std::string_view text, std::size_t from) const noexcept;
 
   /// No occurrence is longer than this.
@@ -36,7 +35,7 @@ class SampledSearch {
   static constexpr unsigned kFilterBits = 14;
   static_assert(kShortestPattern >= kWindowSize);
 
-  // A place in a pattern at which a window stands.
+  // The position of a window in a pattern.
   struct Place {
     Window window;
     std::uint32_t pattern;

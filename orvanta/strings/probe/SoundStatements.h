@@ -8,19 +8,20 @@
 
 namespace orvanta::strings {
 
-/// Where the statements of a text stand, as long as all of them are of the usual kind: a key and a
-/// value in double quotes, or such a key alone, between them white space of ASCII and comments.
+/// Splits a text into statements, without transcoding it, as long as they are of the usual kind: a
+/// key and a value in double quotes, or a key alone, with ASCII white space and comments between
+/// them.
 ///
-/// The reader of text tables (TextStatements.h) takes what is passed here for the same statements:
-/// a narrower grammar than its own, read without transcoding anything.
+/// This is a subset of the grammar that the reader of text tables (TextStatements.h) accepts. The
+/// reader finds the same statements in it.
 template <typename Text>
 class SoundStatements {
  public:
   /// The text must outlive this.
   explicit SoundStatements(Text text) noexcept : text_(text), quotes_(text) {}
 
-  /// Goes on behind the next statement. False at the end of the text and where something else than
-  /// such a statement stands; what follows is not known then.
+  /// Advances to the next statement. False at the end of the text, and before anything that is not
+  /// a statement of the usual kind.
   [[nodiscard]] bool next() noexcept {
     const std::size_t key = skipIdle(end_);
     if (key == text_.size() && !text_.isTorn()) {
@@ -35,10 +36,10 @@ class SoundStatements {
     return end != kNone;
   }
 
-  /// Whether `next` found nothing else than the end of the text.
+  /// Whether `next` reached the end of the text.
   [[nodiscard]] bool isAtEnd() const noexcept { return isAtEnd_; }
 
-  /// The last statement, with what stands before it from the one before; in units.
+  /// The current statement, from the end of the previous one; in units.
   [[nodiscard]] std::size_t begin() const noexcept { return begin_; }
   [[nodiscard]] std::size_t end() const noexcept { return end_; }
 
@@ -76,7 +77,7 @@ class SoundStatements {
     return at < text_.size() && text_.asciiAt(at) == ascii;
   }
 
-  // Behind the string that a quote opens at `at`.
+  // The end of the string that opens at `at`, behind its closing quote.
   [[nodiscard]] std::size_t stringEnd(std::size_t at) noexcept {
     if (!quotes_.takeAt(at)) {
       return kNone;
@@ -86,7 +87,7 @@ class SoundStatements {
     return close == kNone ? kNone : close + 1;
   }
 
-  // Stops at a comment without an end and at one that seems to hold another one.
+  // Stops at a comment without an end, and at one that contains the beginning of another.
   [[nodiscard]] std::size_t skipIdle(std::size_t at) const noexcept {
     while (at < text_.size()) {
       const char character = text_.asciiAt(at);

@@ -13,7 +13,7 @@ namespace orvanta::strings {
 
 namespace {
 
-// With more, a full read takes no longer.
+// With more places, a full read is as fast.
 constexpr std::size_t kMostPlaces = 1024;
 
 template <TextEncoding kEncoding>
@@ -27,7 +27,7 @@ class TextProbe final : public FileProbe {
   void look(const FilePiece& piece) override {
     const Text text = textOf(piece);
     const std::size_t base = (piece.offset - std::min(piece.offset, markSize_)) / kUnitSize;
-    // Of a prefix or an escape that begins before `end`, all is there.
+    // A prefix or an escape that begins before `end` is complete in this piece.
     const std::size_t longest = search_.longestPattern() / kUnitSize + 1;
     const std::size_t end = text.size() - (piece.isLast ? 0 : std::min(text.size(), longest));
     const std::size_t known = places_.size();

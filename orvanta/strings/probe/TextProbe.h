@@ -9,18 +9,18 @@
 
 namespace orvanta::strings {
 
-/// For text in UTF-8 or UTF-16 behind a byte-order mark of `markSize` bytes; null for any other
-/// encoding. `searches` must outlive it.
+/// A probe for text in UTF-8 or UTF-16 with a byte-order mark of `markSize` bytes; null for any
+/// other encoding. `searches` must outlive it.
 ///
-/// The statements from the beginning of the file on are passed over as long as they are of the
-/// usual kind (SoundStatements.h), for which the reader has no other reading. Those with a place
-/// that the searches found are given to the reader. So every statement that can have such a key is
-/// read, in order, and a later one replaces an earlier one as it does in a full read. Anything else
-/// on the way needs a full read, and so does whatever the reader reports about such a statement.
+/// From the beginning of the file, statements are skipped as long as they are of the usual kind
+/// (SoundStatements.h), which the reader splits in the same way. Those that contain a place found
+/// by the searches are given to the reader. So every statement that can have such a key is read, in
+/// order, and a later one replaces an earlier one as in a full read. A full read is needed when
+/// anything else stands between them, or when the reader reports a problem with one of them.
 ///
-/// What stands behind the last such statement is not looked at, except that another sound statement
-/// or the end of the file must follow: recovery from damage may change the statement right before
-/// the damage, but none before that.
+/// The text behind the last such statement is not read. Only the next statement must be sound, or
+/// the file must end: recovery may change the statement right before the damage, but no earlier
+/// one.
 [[nodiscard]] std::unique_ptr<FileProbe> makeTextProbe(TextEncoding encoding, std::size_t markSize,
                                                        const PrefixSearches& searches);
 

@@ -11,8 +11,8 @@
 
 namespace orvanta::strings {
 
-/// Encoded text as an array of code units. UTF-8, or UTF-16 of either byte order; a torn unit at
-/// the end is left out.
+/// Encoded text as an array of code units, for UTF-8 and UTF-16 of either byte order. An incomplete
+/// unit at the end is left out.
 template <TextEncoding kEncoding>
 class TextUnits {
   static constexpr bool kIsUtf8 = kEncoding == TextEncoding::kUtf8;
@@ -35,7 +35,7 @@ class TextUnits {
     return bytes_.substr(begin * sizeof(Unit), (end - begin) * sizeof(Unit));
   }
 
-  /// A character of ASCII in the byte order of the text.
+  /// The unit of an ASCII character, in the byte order of the text.
   [[nodiscard]] static constexpr Unit unitOf(char ascii) noexcept {
     const auto unit = static_cast<Unit>(static_cast<unsigned char>(ascii));
     return kIsSwapped ? swapped(unit) : unit;
@@ -47,7 +47,7 @@ class TextUnits {
     return unit;
   }
 
-  /// The character at `index` if it is one of ASCII, else some byte beyond ASCII.
+  /// The character at `index` if it is ASCII, else some non-ASCII byte.
   [[nodiscard]] char asciiAt(std::size_t index) const noexcept {
     const Unit unit = kIsSwapped ? swapped(unitAt(index)) : unitAt(index);
     return static_cast<char>(unit < 0x80 || kIsUtf8 ? unit : 0x80);
@@ -61,7 +61,7 @@ class TextUnits {
     return isSame;
   }
 
-  /// Whether a line ends there: with LF, CR, U+2028 or U+2029.
+  /// Whether LF, CR, U+2028 or U+2029 stands at `index`.
   [[nodiscard]] bool breaksLineAt(std::size_t index) const noexcept {
     const char ascii = asciiAt(index);
     if (static_cast<unsigned char>(ascii) < 0x80) {

@@ -26,7 +26,7 @@ class XmlProbe final : public FileProbe {
   }
 
  private:
-  // Whether XML may spell the prefix otherwise than as itself.
+  // Whether the XML may spell the prefix in another way than as itself.
   [[nodiscard]] bool maySpellPrefix(std::string_view xml) const noexcept {
     if (xml.find("&#") != std::string_view::npos) {
       return true;

@@ -8,8 +8,8 @@
 
 namespace orvanta::strings {
 
-/// For XML in UTF-8, and for text that begins with "<". Finds out whether there are such entries at
-/// all; if there may be, only a full read can tell which. `searches` must outlive it.
+/// A probe for XML in UTF-8, and for text that begins with "<". It only finds out whether there may
+/// be such entries; a full read is needed if there may. `searches` must outlive it.
 [[nodiscard]] std::unique_ptr<FileProbe> makeXmlProbe(const PrefixSearches& searches);
 
 }  // namespace orvanta::strings

@@ -10,7 +10,8 @@ namespace orvanta::strings {
 
 namespace {
 
-// An estimate that is rarely too low. What is not used of it is never touched and is given back.
+// An estimate that is rarely too low. Pages that are not used are never touched, and are given
+// back.
 std::size_t expectedArena(const EncodedText& text) noexcept {
   switch (text.encoding) {
     case TextEncoding::kUtf16Little:
@@ -24,7 +25,7 @@ std::size_t expectedArena(const EncodedText& text) noexcept {
   }
 }
 
-// Enough to tell the form by, in UTF-8.
+// Enough UTF-8 to recognise XML.
 constexpr std::size_t kFirstBytes = 512;
 
 bool isXml(EncodedText text) noexcept {

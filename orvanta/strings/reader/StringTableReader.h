@@ -12,8 +12,8 @@
 
 namespace orvanta::strings {
 
-/// Where a reader stumbled. Lines and columns count from 1, columns in characters; a binary file
-/// has neither, both are 0.
+/// Damage in a file. Lines and columns count from 1, columns in characters. Both are 0 for a binary
+/// file, which has neither.
 struct TableProblem {
   /// What is damaged.
   enum class Kind : std::uint8_t {

@@ -8,9 +8,9 @@
 
 namespace orvanta::strings {
 
-/// Calls `append` with the text of a strings file in pieces: for each pair an empty comment, the
-/// assignment and a blank line. Pairs with an empty key or value, and values that are no text, are
-/// left out. Nothing is escaped: keys and values are source text of the format.
+/// Passes the text of a strings file to `append`, piece by piece: for each pair an empty comment,
+/// the assignment and a blank line. Leaves out pairs with an empty key or value, and values that
+/// are no texts. Escapes nothing: keys and values are source text of the format.
 template <typename Append>
 void appendStringsFile(const StringsPayload& table, Append append) {
   for (const auto& [key, value] : table.entries()) {
@@ -28,7 +28,7 @@ void appendStringsFile(const StringsPayload& table, Append append) {
 /// Writes the text of the table's strings file to `file` as UTF-16, little-endian, with a
 /// byte-order mark. Fails when a key or a text is not valid UTF-8.
 Status writeStringsFile(const StringsPayload& table, ByteSink& file);
-/// The same for a text that is that of a strings file already.
+/// The same for the text of a strings file.
 Status writeStringsFile(std::string_view text, ByteSink& file);
 
 }  // namespace orvanta::strings

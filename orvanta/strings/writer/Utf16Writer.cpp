@@ -21,7 +21,7 @@ using Byte = unsigned char;
 constexpr std::size_t kBlock = 8;
 constexpr std::uint64_t kNotAscii = 0x8080808080808080;
 
-// Where a conversion ended.
+// Where a conversion stopped.
 struct Position {
   const char* in;  ///< Behind the last character converted; null when that is not valid UTF-8.
   char* out;       ///< Behind its UTF-16 form.
@@ -107,7 +107,7 @@ Position utf8ToUtf16Little(const char* in, const char* inEnd, char* out) noexcep
   return {in, out};
 }
 
-// The number of bytes, at the end of `utf8`, of a character whose other bytes are still to come.
+// The number of bytes of an incomplete character at the end of `utf8`.
 std::size_t incompleteBytes(std::string_view utf8) noexcept {
   for (std::size_t count = 1; count <= std::min<std::size_t>(utf8.size(), 3); ++count) {
     const auto byte = static_cast<Byte>(utf8[utf8.size() - count]);

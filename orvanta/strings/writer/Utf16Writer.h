@@ -22,7 +22,7 @@ class Utf16Writer {
   /// Adds UTF-8. A character may be split between two calls.
   void append(std::string_view utf8);
 
-  /// Writes what is buffered. The first failure of any write; fails also for invalid UTF-8.
+  /// Writes what is buffered. Returns the first failure of any write, or of invalid UTF-8.
   Status finish();
 
  private:

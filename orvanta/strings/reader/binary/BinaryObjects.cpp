@@ -9,11 +9,11 @@ constexpr std::size_t kTrailerSize = 32;
 constexpr std::size_t kLargestNumber = 8;
 constexpr unsigned kCountFollows = 0xF;
 constexpr unsigned kLargestIntegerExponent = 4;
-// Far beyond any file; times the size of what is counted it does not overflow.
+// Larger than any file, and small enough that multiplying it by a unit's size does not overflow.
 constexpr std::uint64_t kLargestCount = std::uint64_t{1} << 56;
 
-// At most 8 bytes, which lie behind the file's magic: the 8 bytes that end with them can be loaded
-// whatever their number. Spelled out, because compilers know this form for a single load.
+// A big-endian number of at most 8 bytes. It lies behind the file's 8 bytes of magic, so that 8
+// bytes ending with it can always be loaded. Compilers turn this form into a single load.
 std::uint64_t readNumber(std::string_view bytes) noexcept {
   const char* const begin = bytes.data() + bytes.size() - kLargestNumber;
   const auto at = [begin](std::size_t index) {
@@ -27,7 +27,7 @@ bool isNumberSize(std::size_t size) noexcept {
   return size >= 1 && size <= kLargestNumber;
 }
 
-// The smallest unit that the payload of a kind is counted in; 0 for a kind without payload here.
+// The size of the unit that an object of this kind counts; 0 for kinds whose payload is not read.
 std::size_t bytesPerCount(BinaryKind kind, std::size_t referenceSize) noexcept {
   switch (kind) {
     case BinaryKind::kAsciiText:
@@ -90,8 +90,8 @@ std::optional<BinaryObject> BinaryObjects::at(std::uint64_t reference) const noe
   return BinaryObject{kind, body.substr(0, static_cast<std::size_t>(*count * unit))};
 }
 
-// Takes the integer that holds the count, if there is one, off the front of `body`. Absent when it
-// is no integer or needs more than 8 bytes.
+// The count of an object. Consumes the integer object that holds it, if there is one, from the
+// front of `body`. Absent when that is no integer or needs more than 8 bytes.
 std::optional<std::uint64_t> BinaryObjects::readCount(std::string_view& body,
                                                       unsigned inMarker) const noexcept {
   if (inMarker != kCountFollows) {

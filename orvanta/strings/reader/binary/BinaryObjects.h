@@ -8,7 +8,7 @@
 
 namespace orvanta::strings {
 
-/// What an object is, by the high half of its marker byte.
+/// The kind of an object: the high half of its marker byte.
 enum class BinaryKind : std::uint8_t {
   kInteger = 0x1,
   kAsciiText = 0x5,
@@ -36,15 +36,15 @@ struct BinaryObject {
 ///     5 unused | sort version | bytes of an offset | bytes of a reference
 ///     number of objects (8) | top object (8) | where the offsets stand (8)
 ///
-/// An object begins with a marker byte: the kind in its high half and the count in its low half,
-/// where 0xF says that an integer object with the count follows. References are indices into the
-/// offsets. Nothing in the file is believed before it was checked against the file's size.
+/// An object begins with a marker byte: the kind in its high half and the count in its low half. A
+/// count of 0xF means that an integer object with the count follows. References are indices into
+/// the offsets. Every size and offset is checked against the file's size before it is used.
 class BinaryObjects {
  public:
   /// Absent when the trailer is missing or contradicts the file.
   [[nodiscard]] static std::optional<BinaryObjects> open(std::string_view file) noexcept;
 
-  /// Absent when there is no such object or it does not lie within the file.
+  /// The object with this number. Absent when there is none or it does not lie within the file.
   [[nodiscard]] std::optional<BinaryObject> at(std::uint64_t reference) const noexcept;
 
   [[nodiscard]] std::uint64_t topObject() const noexcept { return topObject_; }
@@ -58,8 +58,8 @@ class BinaryObjects {
   [[nodiscard]] std::uint64_t referenceAt(const BinaryObject& dictionary,
                                           std::size_t index) const noexcept;
 
-  /// The ascending indices of those keys of the dictionary whose objects stand in the file at
-  /// `begin` or behind it and before `end`. Row startup-configured-first-binary.
+  /// The ascending indices of those keys of the dictionary whose objects begin in the file from
+  /// `begin` on and before `end` (benchmark row startup-configured-first-binary).
   [[nodiscard]] std::vector<std::size_t> keysBetween(const BinaryObject& dictionary,
                                                      std::uint64_t begin, std::uint64_t end) const;
 

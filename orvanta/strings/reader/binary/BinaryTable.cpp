@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::string_view kMagic = "bplist00";
 
-// The most memory that a table may take: a multiple of the file's size, and this much in any case.
-// Sound files in which many keys share a text stay far below it.
+// A table may take this multiple of the file's size, plus a constant. Sound files, also those in
+// which many keys share a text, need far less.
 constexpr std::size_t kLargestGrowth = 16;
 constexpr std::size_t kAlwaysGranted = std::size_t{64} << 10;
-// What an entry takes besides its characters.
+// The memory of an entry besides its characters.
 constexpr std::size_t kEntryOverhead = 32;
 
 constexpr std::size_t kLongestQuote = 80;
@@ -63,7 +63,7 @@ class BinaryTableReader {
     return granted;
   }
 
-  // Charges before it decodes, so that refused work is not done either.
+  // Charges before decoding, so that no time is spent on refused entries.
   bool add(const BinaryObject& key, const BinaryObject& value) {
     const std::size_t least = BinaryText::leastSize(key) + BinaryText::leastSize(value);
     if (!charge(kEntryOverhead + least)) {

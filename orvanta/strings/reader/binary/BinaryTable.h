@@ -13,10 +13,10 @@ namespace orvanta::strings {
 
 /// Adds the pairs of a binary property list whose top object is a dictionary of texts.
 ///
-/// A pair whose key or value is no text, or cannot be reached, is left out and reported. So is
-/// what exceeds a generous multiple of the file's size: objects may be shared, and a small file
-/// that names one long text a million times must not fill the memory. Time and memory are linear
-/// in the size of the file.
+/// Leaves out and reports a pair whose key or value is no text or lies outside of the file, and all
+/// pairs from where the table exceeds a generous multiple of the file's size: objects may be
+/// shared, and a small file that refers to one long text a million times must not fill the memory.
+/// Time and memory are linear in the size of the file.
 ///
 /// False, with the reason reported, when the frame of the file is broken, its top object is no
 /// dictionary or none of its keys is a text; nothing was added then.

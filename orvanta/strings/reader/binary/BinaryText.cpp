@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kUtf16Unit = 2;
 
-// For short texts, as most keys and values are.
+// Fast for short texts, as most keys and values are.
 bool isAscii(std::string_view bytes) noexcept {
   std::uint64_t seen = 0;
   std::uint64_t word = 0;
@@ -36,7 +36,7 @@ BinaryText::BinaryText(const BinaryObject& text) noexcept
       form_(text.kind == BinaryKind::kUtf16Text ? Form::utf16
             : isAscii(text.payload)             ? Form::ascii
                                                 : Form::utf8),
-      // A unit becomes three bytes at most, and so does an invalid byte.
+      // A unit becomes at most three bytes, as does an invalid byte.
       room_(form_ == Form::ascii  ? payload_.size()
             : form_ == Form::utf8 ? 3 * payload_.size() + utf8::kLongest
                                   : 3 * (payload_.size() / kUtf16Unit) + kUtf16Room) {}

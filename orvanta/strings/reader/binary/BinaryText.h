@@ -10,20 +10,20 @@ namespace orvanta::strings {
 
 /// A text of a binary property list, to be converted to UTF-8.
 ///
-/// Units of UTF-16 that form no character give U+FFFD. The texts that the format calls ASCII are
-/// read as UTF-8, which some writers put there; invalid bytes give U+FFFD.
+/// Lone surrogates give U+FFFD. The texts that the format calls ASCII are read as UTF-8, because
+/// some writers store UTF-8 there; invalid bytes give U+FFFD.
 class BinaryText {
  public:
   /// `text` must be a text whose file outlives this.
   explicit BinaryText(const BinaryObject& text) noexcept;
 
-  /// A lower bound of its size in UTF-8, known without converting it.
+  /// A lower bound of the text's size in UTF-8. Does not convert it.
   [[nodiscard]] static std::size_t leastSize(const BinaryObject& text) noexcept;
 
-  /// An upper bound of what `decode` writes.
+  /// An upper bound of the bytes that `decode` writes.
   [[nodiscard]] std::size_t room() const noexcept { return room_; }
 
-  /// Writes the text into `room()` bytes, all of which may be overwritten, and gives its end.
+  /// Writes the text and returns its end. May overwrite all of `room()` bytes.
   char* decode(char* out, Replacements& replacements) const noexcept;
 
   [[nodiscard]] std::string str() const;

@@ -17,7 +17,7 @@ const char* skipBlanks(const char* at, const char* end) noexcept {
   return at;
 }
 
-// Whether all of a statement stands at the beginning of the line.
+// Whether the line begins with a complete statement.
 bool isLineStatement(const char* at, const char* end) noexcept {
   const TextToken key = readToken(skipBlanks(at, end), end);
   const char* const sign = key.found() ? skipBlanks(key.next, end) : end;
@@ -29,7 +29,7 @@ bool isLineStatement(const char* at, const char* end) noexcept {
   return semicolon != end && *semicolon == ';';
 }
 
-// Whether statements stand before the last comment's beginning inside the comment.
+// Whether the comment contains statements and, behind them, the beginning of another comment.
 bool losesStatements(TextScanner& scanner, const char* begin, const char* end) {
   const char* const last = begin + std::string_view(begin, end).rfind("/*");
   for (const char* line = scanner.lineEnd(begin); line < last; line = scanner.lineEnd(line)) {

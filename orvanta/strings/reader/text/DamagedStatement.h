@@ -6,21 +6,21 @@
 
 namespace orvanta::strings {
 
-/// Something between the tokens of a statement that does not belong there.
+/// Something between the tokens of a statement that does not belong there, to be reported.
 struct Stray {
   const char* at;
   const char* message;
 };
 
-/// A statement that is not sound, as far as its parts could be read.
+/// A damaged statement: those of its parts that could be read.
 struct DamagedStatement {
   const char* begin = nullptr;
   TextToken key = {};
   const char* sign = nullptr;      ///< What follows the key; null without a key.
   const char* value = nullptr;     ///< What follows "="; null without one.
-  TextToken valueToken = {};       ///< The value as the next quote ends it; none for a collection.
-  const char* end = nullptr;       ///< Behind the semicolon; null unless all parts were there.
-  const char* readTo = nullptr;    ///< How far the text was looked at.
+  TextToken valueToken = {};       ///< The value up to the next quote; none for a collection.
+  const char* end = nullptr;       ///< Behind the semicolon; null unless all parts are there.
+  const char* readTo = nullptr;    ///< How far the text was read.
   std::vector<Stray> strays = {};  ///< In the order of the text.
 };
 
@@ -28,7 +28,7 @@ struct DamagedStatement {
 /// are passed over and listed.
 [[nodiscard]] DamagedStatement readDamagedStatement(TextScanner& scanner, const char* at);
 
-/// Behind white space, comments and strays, which are added to `strays`.
+/// Skips white space, comments and strays; adds the strays to `strays`. Returns where it stopped.
 [[nodiscard]] const char* skipIdleAndStrays(TextScanner& scanner, const char* at,
                                             std::vector<Stray>& strays);
 

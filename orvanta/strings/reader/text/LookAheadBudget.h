@@ -5,16 +5,16 @@
 
 namespace orvanta::strings {
 
-/// How much text may still be read ahead in vain, a fixed multiple of its size. It keeps recovery
-/// linear: real damage uses next to nothing of it, and a file made to use it up is read line by
-/// line from there on.
+/// Limits how much text recovery may read ahead without a result, to a fixed multiple of the text's
+/// size. It keeps recovery linear. Ordinary damage uses almost none of it; a file that was crafted
+/// to use it up is read line by line from there on.
 class LookAheadBudget {
  public:
   explicit LookAheadBudget(std::size_t textSize) noexcept : left_(kPerByte * textSize) {}
 
   [[nodiscard]] bool isUsedUp() const noexcept { return left_ == 0; }
 
-  /// Charges a look from `from` as far as `to`; nothing when `to` does not stand behind it.
+  /// Charges the distance from `from` to `to`; nothing when `to` does not stand behind `from`.
   void spend(const char* from, const char* to) noexcept {
     left_ -= to <= from ? 0 : std::min(left_, static_cast<std::size_t>(to - from));
   }

@@ -105,7 +105,7 @@ bool beginsList(TextScanner& scanner) {
   if (passed.isClosed) {
     return scanner.skipAllIdle(passed.end) == scanner.end();
   }
-  // Damaged inside: then at least its end is there.
+  // The list is damaged inside; its end at least must be there.
   const char* last = scanner.end();
   while (isKind(last[-1], kBlank)) {
     --last;

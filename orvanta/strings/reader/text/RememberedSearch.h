@@ -5,18 +5,18 @@
 
 namespace orvanta::strings {
 
-/// Memoized forward search: the last answer holds for every place before it that was passed over,
-/// so that what stands far away, or nowhere, is searched for once. Searching from an earlier place
-/// costs the distance back.
+/// Memoized forward search. The last match answers every search that begins between where its
+/// search began and the match, so that a distant match, or the absence of one, is searched for
+/// once. A search from an earlier place reads the text from there to where the last search began.
 ///
-/// `Find` gives the first match in [from, to), or null; a match is at most `kLength` bytes long.
+/// `Find` returns the first match in [from, to), or null; a match is at most `kLength` bytes long.
 template <const char* (*Find)(const char* from, const char* to) noexcept, std::ptrdiff_t kLength>
 class RememberedSearch {
  public:
   RememberedSearch(const char* begin, const char* end) noexcept
       : end_(end), searchedFrom_(begin), found_(search(begin, end)) {}
 
-  /// The end of the text when there is none.
+  /// The first match from `from` on; the end of the text when there is none.
   [[nodiscard]] const char* first(const char* from) noexcept {
     if (from > found_) {
       found_ = search(from, end_);
@@ -33,7 +33,8 @@ class RememberedSearch {
     return found == nullptr ? to : found;
   }
 
-  // From `from` to where the last search began, with what a match there may reach into.
+  // Searches from `from` to where the last search began, and as far behind that as a match may
+  // reach.
   void searchGap(const char* from) noexcept {
     const std::ptrdiff_t overlap = std::min(kLength - 1, end_ - searchedFrom_);
     if (const char* found = Find(from, searchedFrom_ + overlap)) {

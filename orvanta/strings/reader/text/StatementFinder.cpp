@@ -4,8 +4,8 @@ namespace orvanta::strings {
 
 namespace {
 
-// Keys in single quotes are found at the beginning of lines alone: within lines these are
-// apostrophes.
+// Keys in single quotes are recognised only at the beginning of lines: within a line a single quote
+// is an apostrophe.
 constexpr char kKeyQuote = '"';
 
 }  // namespace
@@ -30,8 +30,7 @@ StatementStart StatementFinder::next(const char* from, const DamagedStatement& d
   return {end, true};
 }
 
-// Behind one character, or two if the first is a backslash that takes the second's meaning, or a
-// collection that is closed.
+// Passes over one character, an escaped quote or backslash, or a collection that is closed.
 const char* StatementFinder::pass(const char* at, Passed& passed) {
   const char c = *at;
   if (!passed.isInString && (c == '(' || c == '{') && at >= passed.openTo) {
@@ -57,7 +56,7 @@ const char* StatementFinder::pass(const char* at, Passed& passed) {
   return isEscape ? at + 1 : at;
 }
 
-// Of a table in braces a collection may not take the closing brace.
+// In a table in braces, the brace that ends a collection must not be the table's own.
 bool StatementFinder::lacksEnd(const PassedCollection& collection, bool inBraces) {
   return !collection.isClosed || (inBraces && isClosingBrace(collection.end - 1, scanner_.end()));
 }

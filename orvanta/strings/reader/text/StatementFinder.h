@@ -13,18 +13,20 @@ struct StatementStart {
       isCertain;  ///< False when it may be part of a damaged text that only looks like a statement.
 };
 
-/// Finds the statement behind a damaged one, in one pass from the beginning of that.
+/// Finds the first statement behind a damaged one, in one pass from the beginning of the damaged
+/// one.
 ///
-/// At the beginning of a line a statement is told by its head: `"key" =`, or `"key";` behind a
-/// semicolon, or the table's closing brace. A key without quotes may stand in any sentence: there
-/// the statement must be whole, unless the damaged one has such a key, too. Heads may spread over
-/// several lines.
+/// At the beginning of a line a statement is recognised by its head: `"key" =`, or `"key";` behind
+/// a semicolon, or the table's closing brace. A head may spread over several lines. A word and "="
+/// may occur in any sentence: behind a key without quotes the statement must be complete, unless
+/// the damaged statement has a key without quotes, too.
 ///
-/// Within a line a statement must be whole, with key, value and semicolon. It must follow a
-/// semicolon, or else stand where no word runs into it and, as the quotes before it tell, outside
-/// of a string or in a value that is never closed.
+/// Within a line a statement must be complete, with key, value and semicolon. It must follow a
+/// semicolon; or else no word may touch it, and by the number of quotes before it, it must stand
+/// outside of a string or in a value that is never closed.
 ///
-/// What is looked at in vain is charged to the budget. Once that is used up, nothing is found.
+/// Text that is read without a result is charged to the budget. Once the budget is used up, nothing
+/// is found.
 class StatementFinder {
  public:
   /// `budget` outlives this.
@@ -36,11 +38,12 @@ class StatementFinder {
   [[nodiscard]] StatementStart next(const char* from, const DamagedStatement& damaged,
                                     bool inBraces);
 
-  /// Whether the end of a collection is missing, that of a table in braces aside.
+  /// Whether the end of a collection is missing. The closing brace of a table in braces does not
+  /// count as its end.
   [[nodiscard]] bool lacksEnd(const PassedCollection& collection, bool inBraces);
 
  private:
-  // What stands between `from` and the place that is looked at.
+  // State of the pass: what stands between `from` and the current place.
   struct Passed {
     const DamagedStatement& damaged;
     bool inBraces;
@@ -48,8 +51,8 @@ class StatementFinder {
     bool anyQuote = false;         // Of the kind that begins keys.
     bool isInString = false;       // After an odd number of them.
     char last = '\0';              // The last character that is not blank.
-    bool isBehindString = false;   // That is a semicolon, and the one before it a quote.
-    const char* openTo = nullptr;  // How far a collection was read that does not end.
+    bool isBehindString = false;   // `last` is a semicolon, and the character before it a quote.
+    const char* openTo = nullptr;  // Up to here a collection without an end was read.
 
     [[nodiscard]] bool hasPlainKey() const noexcept { return isKind(*damaged.begin, kPlain); }
   };

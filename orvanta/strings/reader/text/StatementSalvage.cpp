@@ -14,7 +14,7 @@ constexpr const char* kNoSemicolon = "\";\" is missing behind the value; stateme
 constexpr const char* kOpenString = "a string that is never closed; taken to end with its line";
 constexpr const char* kOpenKey = "a key that is never closed; statement skipped";
 
-// The inside of a string, escapes and all.
+// The inside of a string, with its escapes.
 TextToken rawText(const char* begin, const char* end) noexcept {
   return {begin, end, end, true};
 }

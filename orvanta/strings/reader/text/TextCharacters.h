@@ -9,12 +9,13 @@ namespace orvanta::strings {
 /// What a byte of a strings file may be outside of quotes and comments.
 enum CharacterKind : unsigned char {
   kOther = 0,
-  kBlank = 1,       ///< White space and line breaks of ASCII.
-  kLineBreak = 2,   ///< Ends a line.
-  kPlain = 4,       ///< Part of a token without quotes.
-  kControl = 8,     ///< A control character without a meaning.
-  kWide = 16,       ///< Part of a character beyond ASCII.
-  kWideBreak = 32,  ///< The first byte of U+2028 and U+2029, which end a line, and of others.
+  kBlank = 1,      ///< White space and line breaks of ASCII.
+  kLineBreak = 2,  ///< Ends a line.
+  kPlain = 4,      ///< Part of a token without quotes.
+  kControl = 8,    ///< A control character without a meaning.
+  kWide = 16,      ///< Part of a character beyond ASCII.
+  kWideBreak =
+      32,  ///< The first byte of U+2028 and U+2029, which end a line, and of other characters.
 };
 
 constexpr std::array<unsigned char, 256> makeCharacterKinds() {
@@ -47,7 +48,7 @@ inline constexpr std::array<unsigned char, 256> kCharacterKinds = makeCharacterK
   return (kCharacterKinds[static_cast<unsigned char>(c)] & kind) != 0;
 }
 
-/// Whether words are made of `c`; the marks of paths and addresses are not.
+/// Whether `c` is part of a word. The marks of paths and addresses are not.
 [[nodiscard]] inline bool isWordCharacter(char c) noexcept {
   return isKind(c, kPlain | kWide) && c != '.' && c != '-' && c != ':' && c != '/';
 }

@@ -32,7 +32,7 @@ class CollectionPasser {
   }
 
  private:
-  // A bracket, a mark or a token; false where it cannot stand.
+  // Passes a bracket, a mark or a token; false where none is allowed.
   bool passPiece() noexcept {
     switch (*at_) {
       case '(':
@@ -68,8 +68,8 @@ class CollectionPasser {
     return true;
   }
 
-  // Closes what lacks its end inside of what the bracket closes, too. One that closes nothing is a
-  // mere character.
+  // Closes the collection that the bracket ends, and those inside it that lack their ends. A
+  // bracket that ends nothing is taken for an ordinary character.
   bool close() noexcept {
     std::size_t levels = 1;
     while (levels <= depth_ && closers_[depth_ - levels] != *at_) {
@@ -79,7 +79,7 @@ class CollectionPasser {
     return close(levels <= depth_ ? levels : 0);
   }
 
-  // A mark of arrays or dictionaries, which are told by their closing bracket.
+  // Passes a mark that belongs to arrays (`closer` is ")") or to dictionaries ("}").
   bool passMark(char closer) noexcept {
     const bool isInPlace = depth_ > 0 && closers_[depth_ - 1] == closer;
     if (!isInPlace && (isStrict_ || (*at_ == '=' && !leaveArrays()))) {
@@ -89,7 +89,7 @@ class CollectionPasser {
     return true;
   }
 
-  // Closes the arrays that are open, for something that stands in a dictionary; false without one.
+  // Closes the arrays that are open inside the innermost dictionary; false without a dictionary.
   bool leaveArrays() noexcept {
     while (depth_ > 0 && closers_[depth_ - 1] == ')') {
       --depth_;
@@ -97,7 +97,7 @@ class CollectionPasser {
     return depth_ > 0;
   }
 
-  // "<" that does not begin data is a mere character inside a damaged collection.
+  // Inside a damaged collection, "<" that does not begin data is taken for an ordinary character.
   bool passData() noexcept {
     const char* at = at_ + 1;
     const bool isTyped = at != scanner_.end() && *at == '*';

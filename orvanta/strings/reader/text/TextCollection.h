@@ -4,10 +4,10 @@
 
 namespace orvanta::strings {
 
-/// How deep arrays and dictionaries may be nested to be passed over as one value.
+/// The deepest nesting of arrays and dictionaries that is passed over as one value.
 inline constexpr int kDeepestCollection = 128;
 
-/// Where a value that is no text ends, or how far it went before it proved to be none.
+/// A value that is no text: where it ends or, when it is not closed, how far it was read.
 struct PassedCollection {
   const char* end;
   bool isClosed;
@@ -21,8 +21,8 @@ struct PassedCollection {
 ///
 ///     <0fab 12>    <*I5>    (a, "b", (c))    {a = b; c = (d);}
 ///
-/// One that is damaged inside is passed over by its brackets. Then a string that does not end in
-/// its line counts as a mere quote, and an array that holds a "=" lacks its end.
+/// When it is damaged inside, only its brackets are matched: a string that does not end in its line
+/// counts as a single quote character, and an array that contains "=" as one without an end.
 [[nodiscard]] PassedCollection passOverCollection(TextScanner& scanner, const char* open);
 
 }  // namespace orvanta::strings

@@ -11,8 +11,8 @@
 
 namespace orvanta::strings {
 
-/// Reports problems with their lines and columns. These are counted only when there are problems,
-/// and once: problems must be added in the order of the text.
+/// Reports problems with their lines and columns. The lines are counted only when a problem is
+/// added, in one pass: problems must be added in the order of the text.
 class TextProblems {
  public:
   /// `collector` must outlive this; it may be empty.
@@ -22,10 +22,11 @@ class TextProblems {
   void add(const char* at, std::string_view message,
            TableProblem::Kind kind = TableProblem::Kind::statement);
 
-  /// Adds what was damaged when `text` was converted to UTF-8: it is reported in its turn.
+  /// Adds what was damaged when `text` was converted to UTF-8. It is reported in the order of the
+  /// text.
   void addDamage(const WholeUtf8& text);
 
-  /// Reports the damage that is left.
+  /// Reports the damage that is not yet reported.
   void finish();
 
   /// Whether anything was reported.

@@ -67,7 +67,8 @@ const char* TextRecovery::recoverMark(const char* at) {
   return std::find_if(at, scanner_.end(), [&](char c) { return c != *at; });
 }
 
-// The opening brace of a table in braces behind something else in its line; null without one.
+// The opening brace of a table in braces that stands behind other text in its line; null without
+// one.
 const char* TextRecovery::tableBrace(const char* at) {
   if (statements_.count() > 0 || statements_.braces() != TextStatements::Braces::kNone) {
     return nullptr;
@@ -84,7 +85,7 @@ const char* TextRecovery::tableBrace(const char* at) {
 const char* TextRecovery::recoverStatement(const DamagedStatement& statement,
                                            const char* previous) {
   const char* const end = nextStatement(statement.begin, statement);
-  // The same was read once before, in vain, by whoever stopped here.
+  // Charged twice: the reader that stopped here has read the same text before.
   budget_.spend(end, statement.readTo);
   budget_.spend(end, statement.readTo);
   if (budget_.isUsedUp()) {
@@ -102,15 +103,16 @@ const char* TextRecovery::recoverStatement(const DamagedStatement& statement,
   return end;
 }
 
-// Two words with "=" between them that are all there is may come from anywhere: an answer of a
-// server, say.
+// Whether the text consists of two words and "=" alone. Such a text may be anything, for example
+// the answer of a server.
 bool TextRecovery::isWholeText(const DamagedStatement& statement, const char* end) const noexcept {
   return end == scanner_.end() && statements_.count() == 0 && !isQuote(*statement.begin) &&
          !isQuote(*statement.value);
 }
 
-// What is left of a value after a quote and a semicolon inside it: the statement before this one
-// ended too early in its line. False when that does not explain what stands there.
+// Handles a value with a quote and a semicolon inside: the previous statement was taken to end
+// there, and the rest of its value follows in the same line. False when the text is not the rest of
+// a value.
 bool TextRecovery::extendPrevious(const char* begin, const char* end, const char* previous) {
   const char* const lineEnd = scanner_.lineEnd(begin);
   if (previous == nullptr || end < lineEnd) {
@@ -159,9 +161,10 @@ const char* TextRecovery::passCollection(const DamagedStatement& statement) {
   return nextBesideCollection(passed.end - 1, statement);
 }
 
-// Where to go on behind a collection that does not end where it should: if its statement began a
-// line, at the next one that does and is indented no further, lest it be part of the collection.
-// Without one, anywhere; but not inside a collection that was opened at the end of its line.
+// Where to continue behind a collection whose end is missing or misplaced. When its statement began
+// a line: at the next statement that begins a line and is not indented further, because one that is
+// may be part of the collection. When there is none: at any statement, unless the collection was
+// opened at the end of its line.
 const char* TextRecovery::nextBesideCollection(const char* from,
                                                const DamagedStatement& statement) {
   const char* const first = nextStatement(from, statement);
@@ -182,7 +185,7 @@ const char* TextRecovery::nextBesideCollection(const char* from,
   return isLastInLine || budget_.isUsedUp() ? next : first;
 }
 
-// Finds where to go on behind a damaged statement, and how far to trust what is found.
+// Finds where to continue behind a damaged statement, and sets `doubt_` accordingly.
 const char* TextRecovery::nextStatement(const char* from, const DamagedStatement& statement) {
   const StatementStart next = finder_.next(from, statement, expectsBrace());
   if (next.at == scanner_.end() || doubt_ == Doubt::kUntilBrace) {
@@ -199,7 +202,7 @@ const char* TextRecovery::nextStatement(const char* from, const DamagedStatement
   return next.at;
 }
 
-// Reads statements that may belong to a lost one, as long as that is so.
+// Reads statements tentatively as long as they may belong to a lost one.
 const char* TextRecovery::readInDoubt(const char* at) {
   while (doubt_ != Doubt::kNone) {
     at = scanner_.skipIdle(at);
@@ -228,7 +231,7 @@ bool TextRecovery::endsDoubt(const char* at) {
   return ends;
 }
 
-// Every line by itself, as far as its statements are sound: what takes no looking ahead.
+// Reads each line on its own, up to its first damage. Needs no look-ahead.
 const char* TextRecovery::readByLine(const char* at) {
   const char* const end = scanner_.end();
   problems_.add(at, kTooDamaged);
@@ -267,8 +270,8 @@ void TextRecovery::reportStrays(const std::vector<Stray>& strays, const char* be
   }
 }
 
-// Every line of it that begins with a string was meant to be a statement. `reported` is the place
-// of the problem that tells of the first.
+// Counts lost text and reports each line in it that begins with a string, because that was meant to
+// be a statement. `reported` is the place of the problem that was reported for the first one.
 void TextRecovery::lose(const char* begin, const char* end, const char* reported) {
   for (const char* line = scanner_.lineEnd(begin); line < end; line = scanner_.lineEnd(line)) {
     line = scanner_.skipAllIdle(line);

@@ -11,18 +11,17 @@
 
 namespace orvanta::strings {
 
-/// Takes over where a statement is not sound: saves of it what can be saved, reports it, and finds
-/// the place where reading can go on.
+/// Error recovery. Takes over at a damaged statement, recovers what it can, reports the damage, and
+/// finds where reading can continue.
 ///
-/// A damaged statement reaches to the next one, as `StatementFinder` finds it; `salvage` judges
-/// what stands between the two. A value that is no text costs its statement, and nothing inside it
-/// is read.
+/// `StatementFinder` finds the next statement; the damaged one reaches to there, and `salvage`
+/// recovers its parts. A value that is no text loses its statement, and nothing inside it is read.
 ///
-/// Where what follows might still belong to a lost statement, it is read tentatively: its entries
-/// yield to every other one with their key.
+/// Statements that may still belong to a lost one are read tentatively: their entries lose to any
+/// other entry with the same key.
 class TextRecovery {
  public:
-  /// All of `text` is there; the others must outlive this.
+  /// `text` is the whole text. All arguments must outlive this.
   TextRecovery(std::string_view text, TextScanner& scanner, TextStatements& statements,
                TextProblems& problems)
       : scanner_(scanner),
@@ -31,8 +30,8 @@ class TextRecovery {
         budget_(text.size()),
         finder_(scanner, budget_) {}
 
-  /// Goes on at `at`, where `statements` stopped; `previous` is the beginning of the statement
-  /// before it if that was sound, else null. Gives the place for `statements` to go on at.
+  /// Recovers at `at`, where `statements` stopped, and returns where it can continue. `previous` is
+  /// the beginning of the statement before `at` if that was sound, else null.
   [[nodiscard]] const char* recover(const char* at, const char* previous);
 
   /// Reports what is wrong with the end of the text.
@@ -41,7 +40,7 @@ class TextRecovery {
   /// What belonged to no statement.
   struct Loss {
     std::size_t bytes = 0;
-    std::size_t noise = 0;  ///< How many of them stand for no character of a text.
+    std::size_t noise = 0;  ///< How many of them are control characters or invalid.
   };
   [[nodiscard]] const Loss& loss() const noexcept { return loss_; }
 
@@ -49,7 +48,7 @@ class TextRecovery {
   [[nodiscard]] bool sawOtherValue() const noexcept { return sawOtherValue_; }
 
  private:
-  /// How long what follows may belong to a lost statement.
+  /// Up to where the following statements may belong to a lost one.
   enum class Doubt {
     kNone,
     kOneStatement,

@@ -47,7 +47,7 @@ const char* TextScanner::skipRest(const char* at) noexcept {
 template const char* TextScanner::skipRest<false>(const char* at) noexcept;
 template const char* TextScanner::skipRest<true>(const char* at) noexcept;
 
-// Behind the comment that begins with the slash, if one does.
+// Skips the comment that begins with the slash at `at`, if there is one.
 template <bool kPassesNested>
 const char* TextScanner::skipSlash(const char* at) noexcept {
   const std::string_view rest(at, end_);
@@ -67,7 +67,7 @@ const char* TextScanner::skipSlash(const char* at) noexcept {
 
 const char* TextScanner::skipComment(const char* at, bool& isNested) noexcept {
   const char* const inside = at + kCommentBegin.size();
-  // In most comments the first star is that of the end.
+  // In most comments the first star belongs to the end.
   const char* const star = stars_.first(inside);
   if (std::string_view(star, end_).starts_with(kCommentEnd)) {
     return star + kCommentEnd.size();

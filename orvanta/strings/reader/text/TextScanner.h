@@ -23,8 +23,8 @@ class TextScanner {
   [[nodiscard]] const char* begin() const noexcept { return begin_; }
   [[nodiscard]] const char* end() const noexcept { return end_; }
 
-  /// Behind the white space and the comments at `at`. Stops at a comment that is never closed, and
-  /// at one with another comment's beginning inside: the end of one before it may be missing.
+  /// Skips white space and comments. Stops at a comment that is never closed, and at one that
+  /// contains the beginning of another comment, because the end of the first may be missing.
   [[nodiscard]] const char* skipIdle(const char* at) noexcept {
     while (at != end_ && isKind(*at, kBlank)) {
       ++at;
@@ -35,7 +35,7 @@ class TextScanner {
   /// The same, but stops only at a comment that is never closed.
   [[nodiscard]] const char* skipAllIdle(const char* at) noexcept { return skipRest<true>(at); }
 
-  /// The token at `at`; none where none begins, or where a quote is not closed.
+  /// The token at `at`; none where none begins, or when its quote is not closed.
   [[nodiscard]] TextToken readToken(const char* at) noexcept {
     if (at == end_ || !isQuote(*at)) {
       return strings::readToken(at, end_);

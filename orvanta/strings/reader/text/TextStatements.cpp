@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kUsualSign = " = ";
 
-// Writes the token's text and gives its end; clears `isSound` for a lone surrogate.
+// Writes the token's text and returns its end. Sets `isSound` to false for a lone surrogate.
 char* resolve(const TextToken& token, char* out, bool& isSound) noexcept {
   const std::string_view text = token.text();
   if (token.escapes) {

@@ -8,7 +8,7 @@
 
 namespace orvanta::strings {
 
-/// The statements of a strings file, as long as they are sound.
+/// The strict reader: reads the statements of a strings file up to the first damage.
 ///
 ///     file      = statements | "{" statements "}"
 ///     statement = key "=" value ";" | key ";"
@@ -22,16 +22,16 @@ class TextStatements {
   explicit TextStatements(StringTableBuilder& table, StatementPlaces* places = nullptr) noexcept
       : table_(table), places_(places) {}
 
-  /// Reads on from `at` and gives where it had to stop: the end of the text, or the beginning of
-  /// what is no sound statement, or is not all there.
+  /// Reads from `at` on and returns where it stopped: the end of the text, or the beginning of a
+  /// statement that is damaged or incomplete.
   [[nodiscard]] const char* read(TextScanner& scanner, const char* at);
 
-  /// Reads one statement at `at` and gives its end; null, with nothing read, where none is sound.
-  /// A tentative entry yields to any other with its key.
+  /// Reads one statement at `at` and returns its end; null, with nothing read, when it is damaged.
+  /// A tentative entry loses to any other entry with its key.
   [[nodiscard]] const char* readTentatively(TextScanner& scanner, const char* at);
 
-  /// Adds an entry that was found another way. False when a surrogate of its escapes was alone, for
-  /// which U+FFFD stands.
+  /// Adds an entry that recovery found. False when an escape was a lone surrogate, which gives
+  /// U+FFFD.
   bool add(const TextToken& key, const TextToken& value);
 
   /// The beginning of the last statement that `read` has read; null before the first.
@@ -40,19 +40,20 @@ class TextStatements {
   [[nodiscard]] std::size_t count() const noexcept { return count_; }
 
   [[nodiscard]] Braces braces() const noexcept { return braces_; }
-  /// Goes on behind the closing brace, where no statement is expected.
+  /// Allows statements behind the closing brace.
   void leaveBraces() noexcept { braces_ = Braces::kLeft; }
 
   /// No entry fits into the table any more.
   [[nodiscard]] bool full() const noexcept { return full_; }
 
  private:
-  // Both give the end of what they read, null where it is not sound.
+  // Both return the end of what they read, or null when it is damaged.
   [[nodiscard]] const char* readStatement(TextScanner& scanner, const char* at);
   [[nodiscard]] const char* readBrace(const char* at) noexcept;
 
   enum class Damaged { kRefuse, kAccept };
-  // False when there is damage in the escapes, which is accepted or not, or when no entry fits.
+  // Adds an entry. False when its escapes are damaged, whether or not that was accepted, or when
+  // the table is full.
   bool put(const TextToken& key, const TextToken& value, Damaged damaged);
 
   StringTableBuilder& table_;

@@ -10,26 +10,27 @@ namespace orvanta::strings {
 
 namespace {
 
-// Of a text that begins as object notation does, which may hold anything between its quotes, so
-// much must be statements.
+// A text that begins like object notation is a table only if at least one part in so many is
+// statements: the quotes of object notation may contain anything.
 constexpr std::size_t kLeastPartOfObjects = 2;
 
-// A text that begins with anything else than a statement is no text if next to nothing of it is
-// statements and so many of the lost bytes are control characters or invalid.
+// A text that does not begin with a statement is no table if less than one part in so many is
+// statements and at least one part in so many of the rest is control characters or invalid.
 constexpr std::size_t kLeastPartOfNoise = 16;
 
 constexpr const char* kNotATable = "this is no strings file";
 
-// How far reading got: an offset into the UTF-8 text, and that of the statement before it.
+// How far reading got: offsets into the UTF-8 text of the current place and the statement before
+// it.
 struct Progress {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
   std::size_t at = 0;
   std::size_t previous = kNone;
-  bool isDone = false;  // And nothing is to be reported.
+  bool isDone = false;  // All is read, and there is nothing to report.
 };
 
-// Reads a text that is all there, from where `progress` stands.
+// Reads a whole text, from `progress` on, with recovery.
 class WholeText {
  public:
   WholeText(const WholeUtf8& text, TextStatements& statements, const ProblemCollector& problems)
@@ -98,7 +99,8 @@ class WholeText {
   bool beginsBadly_ = false;
 };
 
-// Reads sound statements out of a window that moves through the text, as far as that goes.
+// Reads sound statements through a moving window, up to the first damage or a statement that does
+// not fit into the window.
 Progress readThroughWindow(EncodedText text, TextStatements& statements) {
   TextWindow window(text);
   Progress progress;

@@ -19,9 +19,8 @@ namespace orvanta::strings {
 /// `collector` may be empty, as `problems` may. Damage costs the statement that it hits and is
 /// reported. Time is linear in the size of the text, whatever stands in it.
 ///
-/// False, with the reason reported, when this is nothing like a table: no statement could be read
-/// and something was wrong; it begins as markup does; or it begins with something else than a
-/// statement and next to nothing of it is one.
+/// False, with the reason reported, when the text is no table: it is damaged and has no statement;
+/// it begins like markup; or it does not begin with a statement and hardly any of it is statements.
 [[nodiscard]] bool readTextTable(EncodedText text, StringTableBuilder& table,
                                  const ProblemCollector& problems,
                                  const StatementCollector& collector = {});

@@ -5,8 +5,8 @@ namespace orvanta::strings {
 
 namespace {
 
-// The first quote at or behind `close` without a backslash before it. `backslash` is the first one
-// of the string, or null.
+// The first quote from `close` on that is not escaped. `backslash` is the first backslash of the
+// string, or null.
 const char* closingQuote(char quote, const char* backslash, const char* close,
                          const char* end) noexcept {
   while (backslash != nullptr) {

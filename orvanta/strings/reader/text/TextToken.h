@@ -6,14 +6,14 @@
 
 namespace orvanta::strings {
 
-/// A key or a value as it stands in the text, without its quotes.
+/// A key or a value as written in the file, without its quotes.
 ///
 ///     "quoted, with \"escapes\""    'quoted'    letters_digits_and_$/:.-
 struct TextToken {
   const char* begin = nullptr;  ///< Null when there is no token.
   const char* end = nullptr;
   const char* next = nullptr;  ///< Behind the closing quote.
-  bool escapes = false;        ///< There are backslashes to be resolved.
+  bool escapes = false;        ///< It contains escapes.
 
   [[nodiscard]] bool found() const noexcept { return begin != nullptr; }
   [[nodiscard]] std::string_view text() const noexcept { return {begin, end}; }
@@ -23,11 +23,11 @@ struct TextToken {
   return c == '"' || c == '\'';
 }
 
-/// The token at `at`; none where none begins, or where a quote is not closed before `end`.
+/// The token at `at`; none where none begins, or when its quote is not closed before `end`.
 [[nodiscard]] TextToken readToken(const char* at, const char* end) noexcept;
 
-/// The same for the quote at `open`, where the first quote of its kind behind it (null for none)
-/// and the first backslash behind it (`end` for none) are known.
+/// The same for a quoted token that opens at `open`. `close` is the first quote of its kind behind
+/// `open`, or null; `backslash` is the first backslash behind `open`, or `end`.
 [[nodiscard]] TextToken readQuoted(const char* open, const char* close, const char* backslash,
                                    const char* end) noexcept;
 

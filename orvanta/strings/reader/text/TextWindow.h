@@ -9,8 +9,8 @@
 
 namespace orvanta::strings {
 
-/// A piece of a text as UTF-8 that moves through the text, small enough to stay in the processor's
-/// cache. Text in another encoding is never converted as a whole.
+/// A moving window of UTF-8 over a text in another encoding, small enough to stay in the
+/// processor's cache. The text is never converted as a whole.
 class TextWindow {
  public:
   explicit TextWindow(EncodedText text);
@@ -24,13 +24,13 @@ class TextWindow {
   /// Whether `lines` reach to the end of the text.
   [[nodiscard]] bool atEnd() const noexcept { return transcoder_.atEnd(); }
 
-  /// Whether a character was damaged so far, or is torn at the end of the text.
+  /// Whether any character so far was damaged, or the text ends within a character.
   [[nodiscard]] bool isDamaged() const noexcept {
     return transcoder_.replacements() > 0 || transcoder_.isTorn();
   }
 
-  /// Drops `consumed` bytes of `lines` and fills up. False, with nothing done, when less than half
-  /// of the window would be new: a statement or comment does not fit into it.
+  /// Drops the first `consumed` bytes of `lines` and refills the window. False, with nothing done,
+  /// when less than half of the window would be new: a statement or comment is too long for it.
   [[nodiscard]] bool advance(std::size_t consumed) noexcept;
 
  private:

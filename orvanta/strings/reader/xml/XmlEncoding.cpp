@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 
-// Lower-case. ASCII is contained in UTF-8; a wrong size of a Unicode unit is a slip, as the bytes
-// themselves show.
+// In lower case. ASCII is a subset of UTF-8. A declared UTF-16 or UTF-32 is ignored where the bytes
+// show otherwise.
 constexpr std::array<std::string_view, 9> kUnicode = {
     "utf-8", "utf8", "utf-16", "utf16", "utf-32", "utf32", "ucs-", "iso-10646-ucs-", "us-ascii"};
 constexpr std::array<std::string_view, 6> kLatin1 = {"iso-8859-1", "iso_8859-1", "iso8859-1",

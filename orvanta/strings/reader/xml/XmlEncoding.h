@@ -13,8 +13,8 @@ struct DeclaredText {
   std::size_t nameAt = 0;  ///< Where the encoding's name stands in the UTF-8 text.
 };
 
-/// A byte-order mark and zero bytes tell more than a declaration, which may have been copied from
-/// elsewhere. Otherwise the declaration decides:
+/// The encoding of an XML text. A byte-order mark or zero bytes decide, because a declaration may
+/// have been copied from another file. Without them the declaration decides:
 ///
 ///     <?xml version="1.0" encoding="ISO-8859-1"?>
 [[nodiscard]] DeclaredText asDeclared(EncodedText text) noexcept;

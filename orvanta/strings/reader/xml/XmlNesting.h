@@ -6,22 +6,22 @@
 
 namespace orvanta::strings {
 
-/// The elements that are open while a value is passed over. Only arrays and dictionaries hold
-/// elements; any other one ends where the next tag begins, closed or not. Takes one byte a level.
+/// The stack of open elements while a value is skipped, one byte for each level. Only arrays and
+/// dictionaries contain elements; any other element ends at the next tag, closed or not.
 class XmlNesting {
  public:
   void open(std::string_view name);
 
-  /// Closes the innermost element of that name and whatever stands open inside it. False when none
-  /// is open: the tag belongs to somebody else.
+  /// Closes the innermost element of that name and all open elements inside it. False when no such
+  /// element is open: the tag belongs to an element outside.
   bool close(std::string_view name);
 
-  /// Ends the innermost element if it cannot hold others.
+  /// Closes the innermost element if it cannot contain others.
   void endLeaf();
 
   [[nodiscard]] bool isEmpty() const noexcept { return open_.empty(); }
 
-  /// True where a key may stand.
+  /// Whether a key is allowed here.
   [[nodiscard]] bool isInDictionary() const noexcept;
 
  private:

@@ -8,8 +8,7 @@
 
 namespace orvanta::strings {
 
-/// Reports problems of an XML text, by offset. A few may be added out of order before they are
-/// handed over together.
+/// Collects the problems of an XML text, by offset, and reports them in the order of the text.
 class XmlProblems {
  public:
   /// Both must outlive this.
@@ -21,10 +20,10 @@ class XmlProblems {
     problems_.push_back({offset, message, kind});
   }
 
-  /// Reports what was added, in the order of the text. Nothing before it may be added later.
+  /// Reports what was added so far, in order. Problems added later must stand behind it.
   void handOver();
 
-  /// Reports all that is left.
+  /// Reports the rest.
   void finish();
 
  private:

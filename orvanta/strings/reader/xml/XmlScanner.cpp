@@ -70,8 +70,8 @@ XmlToken XmlScanner::scanText() {
   return token;
 }
 
-// A '>' in a quoted attribute belongs to it. A '<' may stand nowhere in a tag: there the tag was
-// never finished and the next one begins.
+// A '>' in a quoted attribute belongs to the attribute. A '<' is not allowed in a tag: the tag is
+// unfinished, and the next one begins there.
 XmlToken XmlScanner::scanTag(XmlPiece piece, std::size_t nameAt) {
   inProlog_ = false;
   std::size_t end = nameAt;
@@ -117,8 +117,8 @@ bool XmlScanner::skipPast(std::string_view begin, std::string_view end, bool& en
   return endMayFollow;
 }
 
-// Ends at the first '>' outside of quotes and of the brackets of an internal subset. Where it has
-// no end, or a '<' shows that a quote was left open, nothing is skipped.
+// Skips to the first '>' outside of quotes and of the internal subset's brackets. Skips nothing
+// when there is none, or when a '<' shows that a quote was not closed.
 bool XmlScanner::skipDocumentType() {
   inProlog_ = false;
   const std::size_t begin = at_;
@@ -151,8 +151,8 @@ bool XmlScanner::skipDocumentType() {
   return false;
 }
 
-// Passes a '<' in an internal subset, and what belongs to it where quotes and brackets are mere
-// characters.
+// Skips a '<' in an internal subset; a whole comment or instruction, in which quotes and brackets
+// have no meaning.
 bool XmlScanner::skipInSubset() {
   const std::string_view rest = utf8_.substr(at_);
   if (rest.starts_with(kCommentBegin)) {

@@ -10,7 +10,7 @@ enum class XmlPiece {
   kLiteral,  ///< The inside of a CDATA section.
   kOpening,  ///< <name ...> or <name .../>
   kClosing,  ///< </name>
-  kBroken,   ///< A '<' that begins nothing whole.
+  kBroken,   ///< A '<' that begins no complete piece.
   kEnd,      ///< The end of the document; repeats.
 };
 
@@ -28,17 +28,17 @@ struct XmlToken {
   }
 };
 
-/// Cuts an XML document into tokens. Comments, processing instructions and the document type are
-/// passed over, attributes as well. Damage never hides more than necessary: behind a '<' that
-/// begins nothing whole it goes on with what follows.
+/// XML tokenizer. Skips comments, processing instructions, the document type and attributes. Behind
+/// a
+/// '<' that begins no complete piece it continues with the next character, so that damage hides as
+/// little as possible.
 class XmlScanner {
  public:
   explicit XmlScanner(std::string_view utf8) : utf8_(utf8) {}
 
   [[nodiscard]] XmlToken next();
 
-  /// Makes `token` the next one again. A tag should be given back once at most, which keeps the
-  /// time linear.
+  /// Makes `token` the next one again. At most once for each tag, which keeps the time linear.
   void giveBack(const XmlToken& token) noexcept { at_ = token.offset; }
 
  private:
@@ -53,7 +53,7 @@ class XmlScanner {
   std::string_view utf8_;
   std::size_t at_ = 0;
   bool inProlog_ = true;
-  // False once a search ran to the end of the document in vain: it is not made again.
+  // False once a search for that end has failed: it is not repeated.
   bool commentEndMayFollow_ = true;
   bool instructionEndMayFollow_ = true;
   bool literalEndMayFollow_ = true;

@@ -229,8 +229,8 @@ class XmlTableReader {
     return !bad.unknown;
   }
 
-  // After damage inside an element: goes on behind its end or, where that is missing, before what
-  // cannot belong to it.
+  // Resumes after damage inside an element: behind its closing tag or, when that is missing, before
+  // the next tag that cannot belong to it.
   void resume(std::string_view name, XmlToken token) {
     while (!token.closes(name)) {
       if (token.piece == XmlPiece::kEnd || token.opens(kKey) || endsDictionary(token)) {
@@ -241,7 +241,7 @@ class XmlTableReader {
     }
   }
 
-  // Passes over a value that is no text, however deep it nests.
+  // Skips a value that is no text, whatever its nesting.
   void skipElement(const XmlToken& opening) {
     if (opening.selfClosing) {
       return;

@@ -29,14 +29,14 @@ bool holdsAny(std::string_view text, std::string_view characters) noexcept {
   });
 }
 
-// A line end at the front of `rest`, in any of its forms.
+// Consumes the line end at the front of `rest`, in any of its forms.
 void appendLineEnd(std::string& out, std::string_view& rest) {
   out.push_back('\n');
   rest.remove_prefix(rest.starts_with("\r\n") ? 2 : 1);
 }
 
-// "&#10;" or "&#xA;" at the front of `rest`. U+FFFD, and false, for what stands for no character,
-// NUL included, and for a reference without digits or without its end, up to where it breaks off.
+// Consumes "&#10;" or "&#xA;" at the front of `rest`. Appends U+FFFD and returns false for a number
+// that is no character, including NUL, and for a reference without digits or semicolon.
 bool appendNumericReference(std::string& out, std::string_view& rest) {
   const bool isHexadecimal = rest.starts_with("&#x");
   const std::uint32_t base = isHexadecimal ? 16 : 10;
@@ -53,7 +53,7 @@ bool appendNumericReference(std::string& out, std::string_view& rest) {
   return isCharacter;
 }
 
-// A predefined entity at the front of `rest`; false where there is none.
+// Consumes a predefined entity at the front of `rest`; false when there is none.
 bool appendEntity(std::string& out, std::string_view& rest) {
   for (const auto& [name, character] : kPredefined) {
     if (rest.starts_with(name)) {

@@ -7,8 +7,8 @@
 
 namespace orvanta::strings {
 
-/// The text of one element, joined from its pieces. A piece that needs no change is not copied as
-/// long as it is the only one.
+/// The text of one element, joined from its pieces. A single piece that needs no change is not
+/// copied.
 class XmlText {
  public:
   void clear() noexcept;
@@ -19,10 +19,10 @@ class XmlText {
     std::optional<std::size_t> toNoCharacter;  ///< U+FFFD stands for it.
   };
 
-  /// Appends character data with its references resolved, up to the first that is not known.
+  /// Appends character data with its references resolved. Stops at the first unknown one.
   BadReferences appendData(std::string_view raw);
 
-  /// Appends the inside of a CDATA section, in which nothing is a reference.
+  /// Appends the inside of a CDATA section, without resolving references.
   void appendLiteral(std::string_view raw);
 
   /// Valid until the next change, and as long as the pieces.
