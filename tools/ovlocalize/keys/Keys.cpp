@@ -28,6 +28,7 @@ struct KeysRequest {
   std::vector<std::string> sources;    ///< Files, and folders that are searched for sources.
   std::vector<std::string> functions;  ///< Further functions whose first argument is a key.
   std::vector<std::string> keep;       ///< Patterns of keys that count as used.
+  std::vector<std::string> ignored;    ///< Patterns of keys that English need not have.
 };
 
 bool isSource(const fs::path& path) {
@@ -66,17 +67,16 @@ struct Report {
   std::size_t found = 0;                               ///< Keys used and in English.
 };
 
-bool isKept(const std::string& key, const std::vector<std::string>& patterns) {
-  return isConfigurationKey(key) ||
-         std::any_of(patterns.begin(), patterns.end(), [&](const std::string& pattern) {
-           return fnmatch(pattern.c_str(), key.c_str(), 0) == 0;
-         });
+bool matches(const std::string& key, const std::vector<std::string>& patterns) {
+  return std::any_of(patterns.begin(), patterns.end(), [&](const std::string& pattern) {
+    return fnmatch(pattern.c_str(), key.c_str(), 0) == 0;
+  });
 }
 
 std::vector<KeyUse> usesIn(const std::vector<std::string>& files, const KeysRequest& request) {
   std::vector<KeyFunction> functions = libraryKeyFunctions();
   for (const std::string& name : request.functions) {
-    functions.push_back({name, 0, ""});
+    functions.push_back({name, 0, 0, ""});
   }
   std::vector<KeyUse> uses;
   for (const std::string& file : files) {
@@ -105,13 +105,13 @@ Report reportOn(const Settings& settings, const KeysRequest& request) {
       report.computed.push_back(std::move(use));
     } else if (english.contains(use.key)) {
       used.insert(std::move(use.key));
-    } else {
+    } else if (!matches(use.key, request.ignored)) {
       report.missing[use.key].push_back(use);
     }
   }
   report.found = used.size();
   for (const std::string& key : english) {
-    if (!used.contains(key) && !isKept(key, request.keep)) {
+    if (!used.contains(key) && !isConfigurationKey(key) && !matches(key, request.keep)) {
       report.unused.push_back(key);
     }
   }
@@ -170,7 +170,8 @@ void addKeys(CommandLine& commands) {
       "an error, one that nobody uses a warning. Sources are C++, QML and JavaScript files,\n"
       "where keys are literals handed to the library, and Qt Designer forms",
       "  ovlocalize --bundle demo/bundle keys src forms\n"
-      "  ovlocalize --bundle demo/bundle keys --keep 'order.*' --function tr src",
+      "  ovlocalize --bundle demo/bundle keys --keep 'order.*' --function tr src\n"
+      "  ovlocalize --bundle demo/bundle keys --ignore 'test.*' src tests",
       [request](const Settings& settings) { return keys(settings, *request); });
   command.add_option("sources", request->sources, "Source files and folders")
       ->required()
@@ -180,6 +181,12 @@ void addKeys(CommandLine& commands) {
       .add_option("--keep", request->keep,
                   "Keys that match this shell pattern count as used: those that the program\n"
                   "computes. May be given more than once")
+      ->allow_extra_args(false)
+      ->type_name("PATTERN");
+  command
+      .add_option("--ignore", request->ignored,
+                  "Keys that match this shell pattern are no error where English lacks them. May\n"
+                  "be given more than once")
       ->allow_extra_args(false)
       ->type_name("PATTERN");
   command

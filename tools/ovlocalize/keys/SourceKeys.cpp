@@ -83,16 +83,33 @@ bool isCallOf(const KeyFunction& function, const std::vector<SourceToken>& token
           (at >= 2 && tokens[at - 1].is('.') && tokens[at - 2].text == function.object));
 }
 
+// Of the call whose "(" stands at `open`; empty where it is computed, absent without the argument.
+std::optional<std::string> keyOf(const KeyFunction& function,
+                                 const std::vector<SourceToken>& tokens, std::size_t open) {
+  std::optional<std::string> key;
+  for (std::size_t index = function.argument; index <= function.last; ++index) {
+    const auto argument = argumentAt(tokens, open, index);
+    if (!argument) {
+      break;
+    }
+    key = literalOf(*argument).value_or("");
+    if (!key->empty()) {
+      break;
+    }
+  }
+  return key;
+}
+
 }  // namespace
 
 std::vector<KeyFunction> libraryKeyFunctions() {
-  return {{"localizedStringForKey", 0, ""},
-          {"localizedMessageForKey", 0, ""},
-          {"localizedStringWithFormat", 0, ""},
-          {"localize", 2, ""},
-          {"setKey", 0, ""},
-          {"text", 0, "Orvanta"},
-          {"message", 0, "Orvanta"}};
+  return {{"localizedStringForKey", 0, 0, ""},
+          {"localizedMessageForKey", 0, 1, ""},  // The first may be a localizer.
+          {"localizedStringWithFormat", 0, 1, ""},
+          {"localize", 2, 2, ""},
+          {"setKey", 0, 0, ""},
+          {"text", 0, 0, "Orvanta"},
+          {"message", 0, 0, "Orvanta"}};
 }
 
 void collectSourceKeys(std::string_view source, const std::string& file,
@@ -108,8 +125,8 @@ void collectSourceKeys(std::string_view source, const std::string& file,
     if (function == functions.end()) {
       continue;
     }
-    if (const auto argument = argumentAt(tokens, at + 1, function->argument)) {
-      uses.push_back({literalOf(*argument).value_or(""), file, tokens[at].line});
+    if (const auto key = keyOf(*function, tokens, at + 1)) {
+      uses.push_back({*key, file, tokens[at].line});
     }
   }
 }

@@ -19,6 +19,7 @@ struct KeyUse {
 struct KeyFunction {
   std::string name;      ///< Without its namespace or object.
   std::size_t argument;  ///< Which argument is the key, counted from 0.
+  std::size_t last;      ///< Or one of those up to this one: the first literal among them.
   std::string object;    ///< Counts only behind "object."; empty: wherever the name stands.
 };
 
