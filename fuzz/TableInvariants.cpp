@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include <orvanta/strings/document/StringsDocument.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 #include <orvanta/text/Utf8.h>
 
@@ -87,6 +88,27 @@ void checkProblem(const TableProblem& problem, std::string_view bytes) {
   require(problem.line + problem.column <= bytes.size() + 2, "a problem lies within the file");
 }
 
+// What the document refuses to write is not looked at: that must be damaged.
+void checkDocument(std::string_view bytes, const StringTable* table) {
+  const auto document = strings::StringsDocument::read(std::string(bytes));
+  require(document.has_value() == (table != nullptr), "a document is a table, too");
+  if (!document) {
+    return;
+  }
+  std::vector<strings::DocumentEntry> texts = document->entries();
+  require(texts.size() == table->size(), "the document has the table's entries");
+  for (strings::DocumentEntry& text : texts) {
+    require(table->textForKey(HashedKey(text.key)) == text.value, "with the table's values");
+  }
+  require(document->withTexts(texts) == bytes, "what does not change stays as it is");
+  if (!texts.empty()) {
+    texts.front().value += '"';
+    const auto changed = document->withTexts(texts);
+    require(!changed || readStringTable(*changed)->size() == texts.size(),
+            "a changed value changes no other entry");
+  }
+}
+
 }  // namespace
 
 void checkTable(std::string_view bytes) {
@@ -96,6 +118,7 @@ void checkTable(std::string_view bytes) {
     require(first.table->heapBytes() <= kAlwaysGranted + kLargestGrowth * bytes.size(),
             "memory stays in proportion to the file");
   }
+  checkDocument(bytes, first.table.get());
   for (const TableProblem& problem : first.problems) {
     checkProblem(problem, bytes);
   }

@@ -1,4 +1,3 @@
-#include <array>
 
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
@@ -25,20 +24,11 @@ std::size_t expectedArena(const EncodedText& text) noexcept {
   }
 }
 
-// Enough UTF-8 to recognise XML.
-constexpr std::size_t kFirstBytes = 512;
-
-bool isXml(EncodedText text) noexcept {
-  std::array<char, kFirstBytes> first;
-  const std::size_t size = Utf8Transcoder(text).transcode(first.data(), first.size());
-  return looksLikeXmlTable({first.data(), size});
-}
-
 std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems,
                                             const StatementCollector& statements) {
   StringTableBuilder table(expectedArena(text));
-  const bool isTable = isXml(text) ? readXmlTable(text, table, problems, statements)
-                                   : readTextTable(text, table, problems, statements);
+  const bool isTable = looksLikeXmlTable(text) ? readXmlTable(text, table, problems, statements)
+                                               : readTextTable(text, table, problems, statements);
   return isTable ? table.build() : nullptr;
 }
 

@@ -43,6 +43,9 @@ const char* TextStatements::readTentatively(TextScanner& scanner, const char* at
   const char* const next = *at == '{' || *at == '}' ? nullptr : readStatement(scanner, at);
   if (count_ != before) {
     table_.makeLastTentative();
+    if (places_ != nullptr) {
+      places_->makeLastTentative();
+    }
   }
   return next;
 }
@@ -85,6 +88,7 @@ const char* TextStatements::readBrace(const char* at) noexcept {
   }
   if (*at == '}' && braces_ == Braces::kOpen) {
     braces_ = Braces::kClosed;
+    closingBrace_ = at;
     return at + 1;
   }
   return nullptr;
@@ -108,7 +112,7 @@ bool TextStatements::put(const TextToken& key, const TextToken& value, Damaged d
                        static_cast<std::size_t>(valueEnd - keyEnd));
     ++count_;
     if (places_ != nullptr) {
-      places_->add(key.begin, {begin, keyEnd});
+      places_->add({key.begin, key.next, value, std::string(begin, keyEnd)});
     }
   }
   return isSound;

@@ -18,7 +18,8 @@ class TextStatements {
  public:
   enum class Braces { kNone, kOpen, kClosed, kLeft };
 
-  /// Tells `places`, if it is not null, where the key of each entry stands.
+  /// Tells `places`, if it is not null, where the statement of each entry stands. The pointers are
+  /// into the texts that are read.
   explicit TextStatements(StringTableBuilder& table, StatementPlaces* places = nullptr) noexcept
       : table_(table), places_(places) {}
 
@@ -40,6 +41,8 @@ class TextStatements {
   [[nodiscard]] std::size_t count() const noexcept { return count_; }
 
   [[nodiscard]] Braces braces() const noexcept { return braces_; }
+  /// Null before it was read.
+  [[nodiscard]] const char* closingBrace() const noexcept { return closingBrace_; }
   /// Allows statements behind the closing brace.
   void leaveBraces() noexcept { braces_ = Braces::kLeft; }
 
@@ -61,6 +64,7 @@ class TextStatements {
   const char* last_ = nullptr;
   std::size_t count_ = 0;
   Braces braces_ = Braces::kNone;
+  const char* closingBrace_ = nullptr;
   bool full_ = false;
 };
 

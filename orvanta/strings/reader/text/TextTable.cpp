@@ -128,23 +128,35 @@ Progress readThroughWindow(EncodedText text, TextStatements& statements) {
 
 bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems,
                    const StatementCollector& collector) {
-  StatementPlaces places;
-  TextStatements statements(table, collector ? &places : nullptr);
+  if (collector) {
+    // A place is an address in the whole text.
+    const WholeUtf8 whole(text);
+    StatementPlaces places;
+    const bool isTable = readTextTable(whole, table, problems, places);
+    places.report(whole.view().data(), collector);
+    return isTable;
+  }
+  TextStatements statements(table);
   Progress progress;
   const bool isUtf8 =
       text.encoding == TextEncoding::kUtf8 || text.encoding == TextEncoding::kBrokenUtf8;
-  // A place is an address in the whole text.
-  if (!isUtf8 && !collector) {
+  if (!isUtf8) {
     progress = readThroughWindow(text, statements);
     if (statements.full() || progress.isDone) {
       return true;
     }
   }
   const WholeUtf8 whole(text);
-  const bool isTable = WholeText(whole, statements, problems).read(progress);
-  if (collector) {
-    places.report(whole.view().data(), collector);
-  }
+  return WholeText(whole, statements, problems).read(progress);
+}
+
+bool readTextTable(const WholeUtf8& text, StringTableBuilder& table,
+                   const ProblemCollector& problems, StatementPlaces& places) {
+  TextStatements statements(table, &places);
+  const bool isTable = WholeText(text, statements, problems).read({});
+  const bool isInBraces = statements.braces() == TextStatements::Braces::kClosed;
+  const std::string_view whole = text.view();
+  places.setTableEnd(isInBraces ? statements.closingBrace() : whole.data() + whole.size());
   return isTable;
 }
 

@@ -6,6 +6,7 @@
 #include <orvanta/strings/StringTableBuilder.h>
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/strings/reader/text/StatementPlaces.h>
 
 namespace orvanta::strings {
 
@@ -24,5 +25,10 @@ namespace orvanta::strings {
 [[nodiscard]] bool readTextTable(EncodedText text, StringTableBuilder& table,
                                  const ProblemCollector& problems,
                                  const StatementCollector& collector = {});
+
+/// The same for a text that is all there. `places`, which is empty before, is told where its
+/// statements stand.
+[[nodiscard]] bool readTextTable(const WholeUtf8& text, StringTableBuilder& table,
+                                 const ProblemCollector& problems, StatementPlaces& places);
 
 }  // namespace orvanta::strings

@@ -38,6 +38,9 @@ class XmlScanner {
 
   [[nodiscard]] XmlToken next();
 
+  /// Behind the token that was given last.
+  [[nodiscard]] std::size_t position() const noexcept { return at_; }
+
   /// Makes `token` the next one again. At most once for each tag, which keeps the time linear.
   void giveBack(const XmlToken& token) noexcept { at_ = token.offset; }
 

@@ -26,6 +26,9 @@ constexpr std::string_view kComment = "<!--";
 constexpr std::array<std::string_view, 4> kBeginnings = {"<?xml", "<!DOCTYPE plist", "<plist",
                                                          "<dict"};
 
+// Enough UTF-8 to recognise XML.
+constexpr std::size_t kFirstBytes = 512;
+
 bool endsName(char c) noexcept {
   return kWhiteSpace.find(c) != std::string_view::npos || c == '>' || c == '/';
 }
@@ -75,7 +78,8 @@ class XmlTableReader {
       return false;
     }
     if (dictionary.selfClosing) {
-      closeDictionary(dictionary.offset);
+      isClosed_ = true;
+      closedAt_ = dictionary.offset;
     }
     return true;
   }
@@ -135,12 +139,20 @@ class XmlTableReader {
     dropKey();
     isClosed_ = true;
     closedAt_ = offset;
+    setTableEnd(offset);
   }
 
   void finish(std::size_t offset) {
     dropKey();
     if (!isClosed_) {
       problems_.add(offset, "the dictionary has no end");
+      setTableEnd(offset);
+    }
+  }
+
+  void setTableEnd(std::size_t offset) {
+    if (places_ != nullptr) {
+      places_->setTableEnd(begin_ + offset);
     }
   }
 
@@ -175,7 +187,7 @@ class XmlTableReader {
   bool add(const XmlToken& value) {
     if (table_.add(key_.view(), value_.view())) {
       if (places_ != nullptr) {
-        places_->add(begin_ + keyAt_, key_.view());
+        places_->add({begin_ + keyAt_, nullptr, inside_, std::string(key_.view())});
       }
       return true;
     }
@@ -192,13 +204,16 @@ class XmlTableReader {
   // False, and reported, when the element's text is damaged.
   bool readText(const XmlToken& opening, XmlText& text) {
     text.clear();
+    const char* const behind = begin_ + scanner_.position();
     if (opening.selfClosing) {
+      inside_ = {begin_ + opening.offset, behind, behind};
       return true;
     }
     bool whole = true;
     for (;;) {
       const XmlToken token = scanner_.next();
       if (token.closes(opening.text)) {
+        inside_ = {behind, begin_ + token.offset, begin_ + scanner_.position()};
         return whole;
       }
       if (token.piece == XmlPiece::kText) {
@@ -273,6 +288,7 @@ class XmlTableReader {
   StatementPlaces* places_;
   XmlText key_;
   XmlText value_;
+  TextToken inside_;  // Of the text that was read last; all of its element if that has no inside.
   Key held_ = Key::kNone;
   std::size_t keyAt_ = 0;
   bool isStrayReported_ = false;
@@ -292,6 +308,12 @@ bool looksLikeXmlTable(std::string_view utf8) noexcept {
          });
 }
 
+bool looksLikeXmlTable(EncodedText text) noexcept {
+  std::array<char, kFirstBytes> first;
+  const std::size_t size = Utf8Transcoder(text).transcode(first.data(), first.size());
+  return looksLikeXmlTable(std::string_view(first.data(), size));
+}
+
 bool readXmlTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems,
                   const StatementCollector& statements) {
   const DeclaredText declared = asDeclared(text);
@@ -308,6 +330,14 @@ bool readXmlTable(EncodedText text, StringTableBuilder& table, const ProblemColl
   if (statements) {
     places.report(whole.view().data(), statements);
   }
+  return isTable;
+}
+
+bool readXmlTable(const WholeUtf8& text, StringTableBuilder& table,
+                  const ProblemCollector& problems, StatementPlaces& places) {
+  XmlProblems found(text, problems);
+  const bool isTable = XmlTableReader(text.view(), table, found, &places).read();
+  found.finish();
   return isTable;
 }
 

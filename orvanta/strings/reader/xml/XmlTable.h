@@ -5,11 +5,14 @@
 #include <orvanta/strings/StringTableBuilder.h>
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
+#include <orvanta/strings/reader/text/StatementPlaces.h>
 
 namespace orvanta::strings {
 
 /// True when `utf8`, white space aside, begins as an XML property list may.
 [[nodiscard]] bool looksLikeXmlTable(std::string_view utf8) noexcept;
+/// The same for the first characters of a text.
+[[nodiscard]] bool looksLikeXmlTable(EncodedText text) noexcept;
 
 /// Adds the pairs of an XML property list whose outermost value is a dictionary of texts.
 ///
@@ -37,5 +40,10 @@ namespace orvanta::strings {
 [[nodiscard]] bool readXmlTable(EncodedText text, StringTableBuilder& table,
                                 const ProblemCollector& problems,
                                 const StatementCollector& statements);
+
+/// The same for a text that was converted from the encoding that it declares. `places`, which is
+/// empty before, is told where its pairs stand.
+[[nodiscard]] bool readXmlTable(const WholeUtf8& text, StringTableBuilder& table,
+                                const ProblemCollector& problems, StatementPlaces& places);
 
 }  // namespace orvanta::strings
