@@ -77,6 +77,30 @@ TEST_F(Command, FillsMessagesWithArguments) {
   EXPECT_EQ(status_, 2) << err_;
 }
 
+TEST_F(Command, ExplainsTexts) {
+  write("new.json", R"({"fr": {"a": {"b": {"zantorData": {"signin.title": "Neu"}}}}})");
+  run("$OV update --bundle-name a --namespace b new.json");
+  const struct {
+    const char* arguments;
+    const char* lines;
+  } rows[] = {
+      {"--locales zh-TW signin.title",
+       "zh-Hant, adopted for the request zh-TW; the fallback table"},
+      {"--locales de-CH nope", "none: no table in use has the key"},
+      {"--locales de-CH nope",
+       "de-CH, adopted for the request de-CH; it has no table of its own, so "},
+      {"--locales fr signin.title", "fr, downloaded\n"},
+      {"--locales fr order.title", "en, shipped; it stands in for fr, which lacks the key"},
+      {"--locales xx order.title", "adopted by default: none of the languages"},
+      {"--json --locales fr order.title", R"("source": "english",
+    "locale": "en",)"},
+  };
+  for (const auto& row : rows) {
+    run(std::string("$OV --device en explain ") + row.arguments);
+    EXPECT_THAT(out_, HasSubstr(row.lines)) << row.arguments << err_;
+  }
+}
+
 TEST_F(Command, ForgesNoLineAndSendsNoEscapeToATerminal) {
   write("evil.json", R"({"x\nfr\twritten": {"a": {"b": {"zantorData": {"k": "v"}}}},
                         "fr": {"a": {"b": {"zantorData": {"k": "\\U001B[31mred\\U009B"}}}}})");

@@ -9,6 +9,7 @@ class CommandLine;
 void addLanguages(CommandLine& commands);
 void addMatch(CommandLine& commands);
 void addLookup(CommandLine& commands);
+void addExplain(CommandLine& commands);
 void addDump(CommandLine& commands);
 void addUpdate(CommandLine& commands);
 void addClear(CommandLine& commands);

@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
     ovlocalize::addLanguages(commands);
     ovlocalize::addMatch(commands);
     ovlocalize::addLookup(commands);
+    ovlocalize::addExplain(commands);
     ovlocalize::addDump(commands);
     ovlocalize::addUpdate(commands);
     ovlocalize::addClear(commands);
