@@ -160,8 +160,6 @@ class BindingsTest : public QObject {
   }
 };
 
-std::unique_ptr<QObject> orvanta::test::makeBindingsTest() {
-  return std::make_unique<BindingsTest>();
-}
+static const orvanta::test::Registration<BindingsTest> registration;
 
 #include "BindingsTest.moc"

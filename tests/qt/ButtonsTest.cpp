@@ -241,8 +241,6 @@ void ButtonsTest::ampersandsMarkMnemonicsWhereAskedFor() {
   QCOMPARE(label.text(), u"&Salt"_s);
 }
 
-std::unique_ptr<QObject> orvanta::test::makeButtonsTest() {
-  return std::make_unique<ButtonsTest>();
-}
+static const orvanta::test::Registration<ButtonsTest> registration;
 
 #include "ButtonsTest.moc"

@@ -198,8 +198,6 @@ class FontsTest : public QObject {
   }
 };
 
-std::unique_ptr<QObject> orvanta::test::makeFontsTest() {
-  return std::make_unique<FontsTest>();
-}
+static const orvanta::test::Registration<FontsTest> registration;
 
 #include "FontsTest.moc"

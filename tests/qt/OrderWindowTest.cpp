@@ -4,10 +4,7 @@
 #include <QRawFont>
 #include <QTest>
 #include <QTimer>
-#include <atomic>
 #include <memory>
-#include <set>
-#include <thread>
 
 #include <orvanta/cache/OVStringCache.h>
 #include <orvanta/qt/UILocalizedButton.h>
@@ -107,19 +104,6 @@ class OrderWindowTest : public QObject {
     QVERIFY(speak(u"de"_s));
   }
 
-  void refreshesFromAWorkerThread() {
-    auto* title = find<UILocalizedLabel>("orderTitle");
-    title->setText(u"stale"_s);
-    std::atomic<bool> ended = false;
-    std::thread worker([&] {
-      title->control().refreshStringsFromLocale("en");
-      ended = true;
-    });
-    QVERIFY(QTest::qWaitFor([&] { return ended.load(); }));
-    worker.join();
-    QCOMPARE(title->text(), u"Your cart"_s);
-  }
-
   void downloadsALanguageToChoose() {
     QTest::mouseClick(find<UILocalizedButton>("downloadButton"), Qt::LeftButton);
     QCOMPARE(find<UILocalizedLabel>("statusLabel")->text(),
@@ -133,29 +117,6 @@ class OrderWindowTest : public QObject {
       }
     }
     QTRY_COMPARE(find<UILocalizedLabel>("signInTitle")->text(), u"Accedi"_s);
-  }
-
-  void everyLanguageThatShipsHasEveryKeyOfTheForm() {
-    std::set<orvanta::String> keys;
-    const auto collect = [&keys](const orvanta::LocalizedControl& control) {
-      keys.insert({control.originalKey(), control.originalAccessibilityLabel(),
-                   control.originalAccessibilityHint()});
-    };
-    for (QWidget* widget : window_->findChildren<QWidget*>()) {
-      if (const auto* label = qobject_cast<UILocalizedLabel*>(widget)) {
-        collect(label->control());
-      } else if (const auto* button = qobject_cast<UILocalizedButton*>(widget)) {
-        collect(button->control());
-      }
-    }
-    QVERIFY(keys.size() > 15);
-    auto& cache = orvanta::Localizer::sharedLocalizer().stringCache();
-    for (const auto& [language, record] : cache.availableLanguages()) {
-      for (const orvanta::String& key : keys) {
-        QVERIFY2(key.empty() || record->bundle()->localizedStringForKey(key) != key,
-                 (language.str() + " lacks " + key.str()).c_str());
-      }
-    }
   }
 
   // What follows is no slot. NOLINTNEXTLINE(readability-redundant-access-specifiers)
@@ -187,8 +148,6 @@ class OrderWindowTest : public QObject {
   std::unique_ptr<demo::OrderWindow> window_;
 };
 
-std::unique_ptr<QObject> orvanta::test::makeOrderWindowTest() {
-  return std::make_unique<OrderWindowTest>();
-}
+static const orvanta::test::Registration<OrderWindowTest> registration;
 
 #include "OrderWindowTest.moc"

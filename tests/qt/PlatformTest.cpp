@@ -144,8 +144,6 @@ class PlatformTest : public QObject {
   }
 };
 
-std::unique_ptr<QObject> orvanta::test::makePlatformTest() {
-  return std::make_unique<PlatformTest>();
-}
+static const orvanta::test::Registration<PlatformTest> registration;
 
 #include "PlatformTest.moc"

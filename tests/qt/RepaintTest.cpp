@@ -174,8 +174,6 @@ void RepaintTest::measuresPlainTextAsQtDoes() {
   QCOMPARE(ours.minimumSizeHint(), theirs.minimumSizeHint());
 }
 
-std::unique_ptr<QObject> orvanta::test::makeRepaintTest() {
-  return std::make_unique<RepaintTest>();
-}
+static const orvanta::test::Registration<RepaintTest> registration;
 
 #include "RepaintTest.moc"

@@ -5,7 +5,9 @@
 #include <QImage>
 #include <QString>
 #include <QWidget>
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/LanguageChangeObserver.h>
@@ -13,14 +15,15 @@
 
 namespace orvanta::test {
 
-[[nodiscard]] std::unique_ptr<QObject> makePlatformTest();
-[[nodiscard]] std::unique_ptr<QObject> makeWidgetsTest();
-[[nodiscard]] std::unique_ptr<QObject> makeRepaintTest();
-[[nodiscard]] std::unique_ptr<QObject> makeBindingsTest();
-[[nodiscard]] std::unique_ptr<QObject> makeButtonsTest();
-[[nodiscard]] std::unique_ptr<QObject> makeFontsTest();
-[[nodiscard]] std::unique_ptr<QObject> makeOrderWindowTest();
-[[nodiscard]] std::unique_ptr<QObject> makeTranslatorTest();
+/// The test classes of this program; each registers itself with a static `Registration`.
+inline std::vector<std::function<std::unique_ptr<QObject>()>>& testClasses() {
+  static std::vector<std::function<std::unique_ptr<QObject>()>> classes;
+  return classes;
+}
+template <typename Test>
+struct Registration {
+  Registration() { testClasses().emplace_back(std::make_unique<Test>); }
+};
 
 /// Whether a step ran that was queued before there was an application object.
 inline bool earlyStepRan = false;

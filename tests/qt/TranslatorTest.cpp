@@ -156,8 +156,6 @@ class TranslatorTest : public QObject {
   }
 };
 
-std::unique_ptr<QObject> orvanta::test::makeTranslatorTest() {
-  return std::make_unique<TranslatorTest>();
-}
+static const orvanta::test::Registration<TranslatorTest> registration;
 
 #include "TranslatorTest.moc"

@@ -3,7 +3,6 @@
 #include <QTest>
 #include <QTranslator>
 #include <memory>
-#include <vector>
 
 #include <orvanta/qt/AwakeFromNib.h>
 #include <orvanta/qt/FormLoader.h>
@@ -276,37 +275,8 @@ class WidgetsTest : public QObject {
     QCoreApplication::removeTranslator(&translator);
     checkForm(*loaded);
   }
-
-  void livesThroughSwitching() {
-    std::vector<std::unique_ptr<QWidget>> widgets;
-    const QStringList languages = {u"ar"_s, u"fr"_s, u"he"_s};
-    for (int i = 0; i < 1000; ++i) {
-      widgets.emplace_back(
-          UILocalizedLabel::initLocalizedWithFrame({0, 0, 80, 20}, nullptr, u"signin.title"_s));
-      if (i % 100 == 0) {
-        // The change is still on its way while widgets come and go.
-        orvanta::Localizer::sharedLocalizer().updatePreferredLocales(
-            {orvanta::qt::fromQString(languages[i / 100 % 3])}, {});
-      }
-      if (i % 3 == 0) {
-        widgets[widgets.size() / 2] = std::make_unique<UILocalizedButton>();
-      }
-    }
-    QVERIFY(speak(u"fr"_s));
-    int french = 0;
-    for (const auto& widget : widgets) {
-      const auto* label = dynamic_cast<UILocalizedLabel*>(widget.get());
-      if (label != nullptr) {
-        QCOMPARE(label->text(), u"Connexion"_s);
-        ++french;
-      }
-    }
-    QVERIFY(french > 500);
-  }
 };
 
-std::unique_ptr<QObject> orvanta::test::makeWidgetsTest() {
-  return std::make_unique<WidgetsTest>();
-}
+static const orvanta::test::Registration<WidgetsTest> registration;
 
 #include "WidgetsTest.moc"

@@ -61,10 +61,7 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
   int failures = 0;
-  for (const auto& make : {orvanta::test::makePlatformTest, orvanta::test::makeWidgetsTest,
-                           orvanta::test::makeFontsTest, orvanta::test::makeBindingsTest,
-                           orvanta::test::makeButtonsTest, orvanta::test::makeRepaintTest,
-                           orvanta::test::makeOrderWindowTest, orvanta::test::makeTranslatorTest}) {
+  for (const auto& make : orvanta::test::testClasses()) {
     failures += QTest::qExec(make().get(), QStringList(QString::fromLocal8Bit(argv[0])));
   }
   return failures == 0 ? 0 : 1;
