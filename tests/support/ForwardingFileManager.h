@@ -58,28 +58,30 @@ class SharedHook {
   std::shared_ptr<FileHook> hook_;
 };
 
-class ForwardingReadableFile final : public platform::ReadableFile {
+/// Hands the operations of an open file or folder on to `target_`.
+template <typename Target>
+class Forwarding : public Target {
  public:
-  ForwardingReadableFile(std::unique_ptr<platform::ReadableFile> target, SharedHook hook,
-                         String path)
+  Forwarding(std::unique_ptr<Target> target, SharedHook hook, String path)
       : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
 
-  std::optional<std::size_t> read(std::span<char> buffer) override {
-    return hook_.orElse("read", path_, [&] { return target_->read(buffer); });
-  }
-
- private:
-  std::unique_ptr<platform::ReadableFile> target_;
+ protected:
+  std::unique_ptr<Target> target_;
   SharedHook hook_;
   String path_;
 };
 
-class ForwardingWritableFile final : public platform::WritableFile {
+class ForwardingReadableFile final : public Forwarding<platform::ReadableFile> {
  public:
-  ForwardingWritableFile(std::unique_ptr<platform::WritableFile> target, SharedHook hook,
-                         String path)
-      : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
+  using Forwarding::Forwarding;
+  std::optional<std::size_t> read(std::span<char> buffer) override {
+    return hook_.orElse("read", path_, [&] { return target_->read(buffer); });
+  }
+};
 
+class ForwardingWritableFile final : public Forwarding<platform::WritableFile> {
+ public:
+  using Forwarding::Forwarding;
   Status write(std::string_view bytes) override {
     const Fault fault = hook_.ask("write", path_);
     if (fault.failure.ok()) {
@@ -97,18 +99,11 @@ class ForwardingWritableFile final : public platform::WritableFile {
     const Status closed = target_->close();
     return fault.failure.ok() ? closed : fault.failure;
   }
-
- private:
-  std::unique_ptr<platform::WritableFile> target_;
-  SharedHook hook_;
-  String path_;
 };
 
-class ForwardingFolder final : public platform::Folder {
+class ForwardingFolder final : public Forwarding<platform::Folder> {
  public:
-  ForwardingFolder(std::unique_ptr<platform::Folder> target, SharedHook hook, String path)
-      : target_(std::move(target)), hook_(std::move(hook)), path_(std::move(path)) {}
-
+  using Forwarding::Forwarding;
   static Opening wrap(Opening opening, const SharedHook& hook, const String& path) {
     if (opening.folder != nullptr) {
       opening.folder = std::make_unique<ForwardingFolder>(std::move(opening.folder), hook, path);
@@ -152,10 +147,6 @@ class ForwardingFolder final : public platform::Folder {
 
  private:
   [[nodiscard]] String at(const String& name) const { return path_.str() + '/' + name.str(); }
-
-  std::unique_ptr<platform::Folder> target_;
-  SharedHook hook_;
-  String path_;
 };
 
 /// A file manager that hands every operation on to another one, unless its hook says otherwise.
