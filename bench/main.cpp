@@ -1,4 +1,4 @@
-// Measures the library beside what a user would take instead, on the same data in one run.
+// Measures the library and its alternatives on the same data, in one run.
 #include <QtGlobal>
 #include <algorithm>
 #include <iostream>
@@ -23,9 +23,9 @@ struct Family {
   void (*run)(bench::Bench& bench);
 };
 
-// In this order: the tables of a million strings leave a heap behind that no application begins
-// with; the last family starts a thread, which has an effect on handles for good, and Qt's widgets,
-// just before it, may.
+// The order matters: the tables of a million strings leave a heap behind that no application starts
+// with. The last family starts a thread, which makes reference counting atomic until the process
+// ends; Qt's widgets, just before it, may do so, too.
 constexpr Family kFamilies[] = {
     {"hit", bench::hitRows},
     {"fallback", bench::fallbackRow},
@@ -113,8 +113,8 @@ void printHelp() {
   std::cout << '\n';
 }
 
-// The heap moves its thresholds with what is freed, so that earlier rows would change what later
-// ones cost. Kept where they stand when an application starts.
+// Fixes the heap's thresholds at their initial values. They would adapt to what is freed, so that
+// earlier rows would change the cost of later ones.
 void useUsualHeap() {
   constexpr int kThreshold = 128 * 1024;
   mallopt(M_MMAP_THRESHOLD, kThreshold);

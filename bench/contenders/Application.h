@@ -14,7 +14,7 @@ namespace orvanta::bench {
 
 using TableForm = std::string (*)(const Table& table);
 
-/// An application of ours on disk: the folder of its main bundle and that of its caches.
+/// An application on disk that uses our library: its main bundle's folder and its caches folder.
 class Application {
  public:
   explicit Application(std::filesystem::path folder) : folder_(std::move(folder)) {}
@@ -25,8 +25,8 @@ class Application {
   [[nodiscard]] std::filesystem::path tableFile(std::string_view language) const;
   [[nodiscard]] std::filesystem::path cachesFolder() const { return folder_ / "Caches"; }
 
-  /// A standard platform for this application on a device set to `language`, with nothing read
-  /// yet. Its main queue is `loop` if one is given, and it drops what is logged.
+  /// A standard platform for this application on a device set to `language`. Reads nothing yet.
+  /// Uses `loop` as main queue if one is given, and discards log messages.
   [[nodiscard]] platform::Platform makePlatform(
       std::string_view language, std::shared_ptr<standard::RunLoop> loop = nullptr) const;
 

@@ -9,7 +9,7 @@
 
 namespace orvanta::bench {
 
-/// The floor of look-ups: a flat hash map of views into one arena, key and value side by side.
+/// The floor of the look-up rows: a flat hash map of views into one arena, key and value adjacent.
 class ArenaMap {
  public:
   explicit ArenaMap(const Table& table) : arena_(new char[textBytes(table)]) {
@@ -21,7 +21,7 @@ class ArenaMap {
     }
   }
 
-  /// Null data when there is no such key.
+  /// The value of a key; null data when there is none.
   [[nodiscard]] std::string_view find(std::string_view key) const {
     const auto found = map_.find(key);
     return found == map_.end() ? std::string_view() : found->second;

@@ -38,7 +38,7 @@ void makeBundle(const std::filesystem::path& folder, std::string_view locale, co
 Bundle open(const std::filesystem::path& folder, const char* locale) {
   UErrorCode status = U_ZERO_ERROR;
   Bundle bundle(ures_open(folder.c_str(), locale, &status));
-  // A warning is one as well: that another locale's bundle is given instead.
+  // A warning counts as a failure, too: it means that another locale's bundle was opened.
   if (status != U_ZERO_ERROR) {
     throw std::runtime_error("ICU opens no bundle in " + folder.string());
   }

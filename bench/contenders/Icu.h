@@ -19,10 +19,10 @@ struct CloseBundle {
 };
 using Bundle = std::unique_ptr<UResourceBundle, CloseBundle>;
 
-/// Opens a bundle with the locales that it falls back on. Throws when it is not there.
+/// Opens a bundle and those of its fallback locales. Throws when there is none.
 [[nodiscard]] Bundle open(const std::filesystem::path& folder, const char* locale);
 
-/// The text under a key as ICU gives it: UTF-16 inside the bundle, nothing copied, nothing
+/// The text under a key as ICU gives it: a view of the bundle's UTF-16, neither copied nor
 /// converted. Null data when there is none.
 [[nodiscard]] inline std::u16string_view find(const UResourceBundle* bundle, const char* key) {
   UErrorCode status = U_ZERO_ERROR;
@@ -32,7 +32,7 @@ using Bundle = std::unique_ptr<UResourceBundle, CloseBundle>;
                            : std::u16string_view(text, static_cast<std::size_t>(length));
 }
 
-/// A text of ICU's in UTF-8, to compare it.
+/// ICU's text in UTF-8, for comparisons.
 [[nodiscard]] std::string utf8(std::u16string_view text);
 
 }  // namespace orvanta::bench::icu

@@ -8,19 +8,19 @@
 
 namespace orvanta::bench::qt {
 
-/// Where labels stand: in a layout that gives each the room that its text needs, as in most
-/// windows, or at fixed places, where texts that are too long are cut off.
+/// How labels are placed: in a layout that gives each the room that its text needs, as in most
+/// windows, or at fixed places, where long texts are cut off.
 enum class Arrangement { layout, places };
 
-/// A window with labels, all of them in sight once it is shown.
+/// A window with labels, all of them visible once it is shown.
 class LabelWindow : public QWidget {
  public:
   explicit LabelWindow(Arrangement arrangement);
 
-  /// Puts a label of this window into its next place.
+  /// Moves a label of this window to the next place.
   void place(QLabel* label);
 
-  /// Runs what waits in the event loop; of a window that is shown, until it has been painted after
+  /// Processes pending events. When the window is shown, returns only after it was painted since
   /// the last `expectRepaint`.
   void settle();
   void expectRepaint() { painted_ = false; }
@@ -34,7 +34,7 @@ class LabelWindow : public QWidget {
   bool painted_ = false;
 };
 
-/// What labels showed when they were last painted, for as long as this lives.
+/// Records the texts that labels had when they were last painted, while this object lives.
 class PaintedTexts : public QObject {
  public:
   explicit PaintedTexts(const std::vector<QLabel*>& labels);

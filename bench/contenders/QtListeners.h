@@ -8,7 +8,7 @@
 
 namespace orvanta::bench::qt {
 
-/// Says that the language is another one.
+/// Signals a change of language.
 class Announcer : public QObject {
   Q_OBJECT
 

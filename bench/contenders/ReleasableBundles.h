@@ -7,16 +7,16 @@
 
 namespace orvanta::bench {
 
-/// Passes on to another registry, until it is told to let go of it and of all tables with it.
+/// Forwards to another registry until it is told to release that registry with all its tables.
 ///
-/// An installed platform is kept for the life of the process. A row that installs one after the
-/// other would fill the memory with their tables.
+/// Installed platforms are never freed. A row that installs one after the other would otherwise
+/// fill the memory with their tables.
 class ReleasableBundles final : public platform::BundleRegistry {
  public:
   explicit ReleasableBundles(std::shared_ptr<platform::BundleRegistry> bundles)
       : bundles_(std::move(bundles)) {}
 
-  /// After this nothing may be asked any more.
+  /// Releases the registry. Nothing may be called afterwards.
   void release() noexcept { bundles_ = nullptr; }
 
   std::shared_ptr<platform::Bundle> mainBundle() const override { return bundles_->mainBundle(); }

@@ -13,11 +13,11 @@ namespace orvanta::bench {
 
 namespace {
 
-// Through a small buffer that every read uses again: memory for the whole file would be fresh
-// pages, and make the load half as long again.
+// A small buffer that is reused for each read: memory for the whole file would be fresh pages,
+// which makes the load take one and a half times as long.
 constexpr std::size_t kBuffer = std::size_t{64} * 1024;
 
-// Below what a line takes, so that the map need not grow.
+// Less than the size of a line, so that the map need not grow.
 constexpr std::size_t kShortLine = 100;
 
 class File {
@@ -71,7 +71,7 @@ const char* find(const char* from, const char* end, char character) {
       std::memchr(from, character, static_cast<std::size_t>(end - from)));
 }
 
-// Adds the whole lines and gives where the first torn one begins.
+// Adds the complete lines and returns the beginning of the incomplete one.
 const char* addLines(const char* at, const char* end, TsvMap& map) {
   while (const char* const lineEnd = find(at, end, '\n')) {
     if (const char* const tab = find(at, lineEnd, '\t')) {

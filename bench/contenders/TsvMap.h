@@ -6,10 +6,10 @@
 
 namespace orvanta::bench {
 
-/// The floor of loading: a map of strings.
+/// The floor of the loading rows: a map of strings.
 using TsvMap = std::unordered_map<std::string, std::string>;
 
-/// Reads a file that `tabSeparated` made.
+/// Reads a file written by `tabSeparated`.
 [[nodiscard]] TsvMap loadTsv(const std::filesystem::path& path);
 
 }  // namespace orvanta::bench

@@ -16,12 +16,12 @@ struct Entry {
 /// One language's strings.
 using Table = std::vector<Entry>;
 
-/// Different keys of 20 to 60 characters, words with dots between; a longer list begins with the
+/// Distinct keys of 20 to 60 characters: words joined by dots. A longer list begins with the
 /// shorter one.
 [[nodiscard]] std::vector<std::string> makeKeys(std::size_t count);
 
-/// A value of 20 to 120 characters for each key, in the language's script: part of them with
-/// placeholders, line breaks, emoji. No value is ASCII alone in most scripts, most are in English.
+/// A value of 20 to 120 characters for each key, in the language's script; some with placeholders,
+/// line breaks or emoji. In most scripts no value is pure ASCII; in English most are.
 [[nodiscard]] Table makeTable(const Language& language, const std::vector<std::string>& keys);
 
 /// The bytes of all keys and values.

@@ -5,8 +5,8 @@
 
 namespace orvanta::bench {
 
-/// Appends the text as it stands between double quotes in strings files, .po files and ICU's
-/// sources alike: quotes and backslashes behind a backslash, a line feed as "\\n".
+/// Appends the text as it is written between double quotes in strings files, .po files and ICU's
+/// sources: quotes and backslashes with a backslash before them, a line feed as "\\n".
 void appendEscaped(std::string& out, std::string_view text);
 
 }  // namespace orvanta::bench

@@ -5,7 +5,7 @@
 
 namespace orvanta::bench {
 
-/// A language of the made-up application: its name and what its texts are made of.
+/// A language of the invented application: its name and the material of its texts.
 struct Language {
   std::string_view name;
   char32_t firstLetter;
@@ -17,7 +17,7 @@ struct Language {
 /// The 40 languages that the application ships.
 [[nodiscard]] std::span<const Language> shippedLanguages();
 
-/// One of them; the name must be known.
+/// The language with this name, which must be one of them.
 [[nodiscard]] const Language& languageNamed(std::string_view name);
 
 }  // namespace orvanta::bench

@@ -8,8 +8,8 @@
 
 namespace orvanta::bench {
 
-/// The same numbers in every run and with every standard library, which <random>'s distributions
-/// do not promise. (The splitmix64 generator.)
+/// The generator splitmix64: the same numbers in every run and with every standard library, which
+/// <random>'s distributions do not guarantee.
 class Random {
  public:
   explicit Random(std::string_view seed) noexcept {
@@ -18,11 +18,11 @@ class Random {
     }
   }
 
-  /// Below `limit`, which must fit in 32 bits and not be 0.
+  /// A number below `limit`, which must fit in 32 bits and not be 0.
   [[nodiscard]] std::size_t below(std::size_t limit) noexcept {
     return static_cast<std::size_t>(((next() >> 32) * limit) >> 32);
   }
-  /// Both ends included.
+  /// A number between both ends, inclusive.
   [[nodiscard]] std::size_t between(std::size_t least, std::size_t most) noexcept {
     return least + below(most - least + 1);
   }

@@ -6,7 +6,7 @@
 
 namespace orvanta::bench {
 
-/// Gives the text to the benchmark and ends the process at once.
+/// Writes the text for the benchmark and exits the process immediately.
 [[noreturn]] inline void answer(std::string_view text) {
   _exit(write(STDOUT_FILENO, text.data(), text.size()) == static_cast<ssize_t>(text.size()) ? 0
                                                                                             : 1);

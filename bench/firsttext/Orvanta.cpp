@@ -1,4 +1,4 @@
-// FOLDER LANGUAGE KEY
+// Arguments: FOLDER LANGUAGE KEY
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/standard/StandardPlatform.h>

@@ -1,4 +1,4 @@
-// FOLDER LANGUAGE KEY
+// Arguments: FOLDER LANGUAGE KEY
 #include <QString>
 #include <QTranslator>
 

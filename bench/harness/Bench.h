@@ -11,7 +11,7 @@
 
 namespace orvanta::bench {
 
-/// What a family of rows runs in.
+/// The environment of a family of rows.
 class Bench {
  public:
   struct Options {
@@ -23,7 +23,7 @@ class Bench {
 
   explicit Bench(Options options) : options_(std::move(options)) {}
 
-  /// Whether the row is to be measured: what it needs can be left undone otherwise.
+  /// Whether the row is to be measured. Its preparation can be skipped otherwise.
   [[nodiscard]] bool isWanted(std::string_view row) const;
 
   /// A folder for the files of one family.
@@ -31,7 +31,7 @@ class Bench {
     return ScratchFolder(options_.scratch / family);
   }
 
-  /// Measures a row, if it is wanted, and adds it to the report.
+  /// Measures a row, if it is selected, and adds it to the report.
   void run(Row row);
 
   [[nodiscard]] Report& report() noexcept { return report_; }

@@ -6,13 +6,14 @@
 
 namespace orvanta::bench {
 
-/// A contender did not give the text that the data says. Ends the run: a wrong answer has no time.
+/// Thrown when a contender gave a wrong text. Ends the run: the time of a wrong answer is
+/// worthless.
 class WrongAnswer : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// `asked` names the question in the message.
+/// `asked` is named in the message.
 inline void expectText(std::string_view given, std::string_view expected, std::string_view asked) {
   if (given != expected) {
     throw WrongAnswer("for \"" + std::string(asked) + "\" expected \"" + std::string(expected) +

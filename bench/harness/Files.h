@@ -7,7 +7,7 @@
 
 namespace orvanta::bench {
 
-/// A folder for a row's files, empty at first; it goes with the object.
+/// A temporary folder for a row's files. Empty at first, removed with the object.
 class ScratchFolder {
  public:
   explicit ScratchFolder(std::filesystem::path path);
@@ -21,13 +21,13 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-/// Writes the file and the folders above it. Throws when it cannot.
+/// Writes the file and makes its parent folders. Throws on failure.
 void writeFile(const std::filesystem::path& file, std::string_view bytes);
 
-/// The bytes of a file, read in one go. Throws when it cannot.
+/// The bytes of a file. Throws when it cannot be read.
 [[nodiscard]] std::string readFile(const std::filesystem::path& file);
 
-/// Runs a program to its end. Throws when it fails; its output is shown then.
+/// Runs a program and waits for it. When it fails, shows its output and throws.
 void runTool(const std::vector<std::string>& command);
 
 }  // namespace orvanta::bench

@@ -7,7 +7,7 @@
 
 #include <malloc.h>
 
-// The C library's own functions under the names that it keeps for whoever replaces the public ones.
+// The C library's functions under the names that it provides for replacements of the public ones.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -26,7 +26,7 @@ std::atomic<bool> counting{false};
 std::atomic<std::uint64_t> allocations{0};
 std::atomic<std::int64_t> keptBytes{0};
 
-// The heap keeps a word beside each block.
+// The heap stores one word with each block.
 std::int64_t bytesOf(void* block) noexcept {
   return block == nullptr
              ? 0

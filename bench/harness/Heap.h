@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// What goes through malloc and its family, operator new included, from every library of the
-/// process: the benchmark's executable stands in front of the C library's own functions.
+/// Calls of malloc and its family, including operator new, from every library of the process: the
+/// executable's functions replace those of the C library.
 namespace orvanta::bench::heap {
 
 struct Traffic {
@@ -11,11 +11,11 @@ struct Traffic {
   std::int64_t keptBytes = 0;     ///< Allocated less freed, as the heap rounds them up.
 };
 
-/// From here on calls are counted, on all threads. While nothing is counted a call costs one
-/// predicted branch more than without the benchmark.
+/// Starts counting, on all threads. While nothing is counted, a call costs one predicted branch
+/// more.
 void startCounting() noexcept;
 
-/// What was counted since.
+/// The counts since then.
 Traffic stopCounting() noexcept;
 
 }  // namespace orvanta::bench::heap

@@ -24,7 +24,7 @@ void checkAnswers(const Row& row, const Contender& contender) {
   }
 }
 
-// Not the first round, in which memos are filled. Where rounds take long, the check was the first.
+// Not in the first round, which fills memos. Where rounds take long, the check is the first round.
 double countAllocations(const Row& row, const Contender& contender) {
   constexpr int kUsualSamples = 5;
   if (row.samples >= kUsualSamples) {
@@ -68,7 +68,7 @@ std::vector<Measurement> measure(const Row& row) {
   }
   for (int sample = 0; sample < row.samples; ++sample) {
     for (std::size_t turn = 0; turn < count; ++turn) {
-      // Every other time the other way round, so that nobody always follows the same neighbour.
+      // In reverse order every other time, so that no contender always follows the same one.
       const std::size_t step = (static_cast<std::size_t>(sample) / 2 + turn) % count;
       const std::size_t at = sample % 2 == 0 ? step : count - 1 - step;
       samples[at].push_back(timeOnce(row, row.contenders[at]));

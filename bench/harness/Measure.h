@@ -7,8 +7,8 @@
 
 namespace orvanta::bench {
 
-/// What a contender's operation took, in nanoseconds and allocations; or, in a row about memory,
-/// what it kept in bytes.
+/// The cost of one operation of a contender, in nanoseconds and allocations; in a row about memory,
+/// the bytes that it keeps.
 struct Measurement {
   std::string contender;
   double median = 0;
@@ -18,8 +18,8 @@ struct Measurement {
   double bytes = 0;
 };
 
-/// Checks all contenders, counts their allocations in a round that is not timed, then times them
-/// in turn, each time in another order, so that a disturbance of the machine hits all of them.
+/// Checks all contenders and counts their allocations in an untimed round. Then times them in turn
+/// and in alternating order, so that a disturbance of the machine affects all of them.
 [[nodiscard]] std::vector<Measurement> measure(const Row& row);
 
 }  // namespace orvanta::bench

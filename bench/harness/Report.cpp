@@ -61,7 +61,7 @@ const Measurement* contenderNamed(const std::vector<Measurement>& measurements,
   return found == measurements.end() ? nullptr : &*found;
 }
 
-// What ratios are made to: the floor, or the cheapest peer.
+// The divisor of ratios: the cost of the floor, or of the cheapest peer.
 double referenceCost(const Row& row, const std::vector<Measurement>& measurements) {
   const Measurement* floor = contenderNamed(measurements, kFloor);
   double least = floor == nullptr ? 0 : costOf(*floor);

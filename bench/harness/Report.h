@@ -8,15 +8,15 @@
 
 namespace orvanta::bench {
 
-/// What the rows gave, in the order in which they were measured.
+/// The results of the rows, in the order in which they were measured.
 class Report {
  public:
   void add(const Row& row, std::vector<Measurement> measurements);
 
-  /// Every contender of every row, with its ratio to the row's floor and, for ours, the goal.
+  /// Prints every contender of every row with its ratio to the row's floor, and the goal for ours.
   void printTable(std::ostream& out) const;
 
-  /// What our cost is for each unit of what a row works on, for the rows that say how much it is.
+  /// Prints our cost for each unit of a row's size, for the rows that have one.
   void printGrowth(std::ostream& out) const;
 
   void writeJson(const std::filesystem::path& file) const;

@@ -1,4 +1,4 @@
-// Look-ups of keys that English alone has.
+// Look-ups of keys that only the English table has.
 #include "contenders/Application.h"
 #include "contenders/Gettext.h"
 #include "data/TableForms.h"

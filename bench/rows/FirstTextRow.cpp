@@ -1,5 +1,5 @@
-// A fresh process, from its start to its first localized text: ours with 40 configured languages,
-// the peers with the one language that they are told to open.
+// The time from the start of a process to its first localized text: ours with 40 configured
+// languages, the peers with the one language that they are told to open.
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -24,7 +24,7 @@ namespace {
 constexpr std::size_t kStrings = 2'500;
 constexpr const char* kLanguage = "fr";
 
-// One program, which gives a text and ends.
+// A program that writes one text and exits.
 class Program {
  public:
   Program(std::string path, std::vector<std::string> arguments)
@@ -33,7 +33,7 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  // Starts it and waits for its text.
+  // Starts the program and waits for its text.
   [[nodiscard]] std::string_view run() {
     std::array<int, 2> ends{};
     if (pipe(ends.data()) != 0) {
@@ -61,7 +61,7 @@ class Program {
     return {text_.data(), static_cast<std::size_t>(size)};
   }
 
-  // Waits for its end.
+  // Waits until the program has exited.
   void finish() {
     if (process_ != 0) {
       waitpid(process_, nullptr, 0);

@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t kStrings = 10'000;
 
-// An application in French with a table of some size; English is there as it is in every
-// application, and not asked.
+// An application in French with a table of some size. It has an English table, too, like every
+// application; that is not asked.
 class HitApplication {
  public:
   HitApplication(const std::filesystem::path& folder, std::size_t strings)
@@ -39,7 +39,7 @@ class HitApplication {
     return row;
   }
 
-  /// The same asked of a snapshot.
+  /// The same with a snapshot.
   [[nodiscard]] Row snapshotRow(std::string name, double goal) {
     Row row = this->row(std::move(name), goal);
     row.contenders = {askMap(map_, questions_), askSnapshot(texts(*localizer_), questions_)};
@@ -107,8 +107,8 @@ void hitSizeRows(Bench& bench) {
   }
 }
 
-// Once a thread has been started, counting the handles of a text takes atomic instructions, for
-// good. Hence the last row of a run.
+// Once a thread was started, the reference counts of texts take atomic instructions until the
+// process ends. Therefore this is the last row of a run.
 void hitThreadedRow(Bench& bench) {
   std::thread([] {}).join();
   if (__libc_single_threaded != 0) {

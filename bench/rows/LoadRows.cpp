@@ -1,6 +1,6 @@
-// Reading one language's table from the page cache. Four scripts in turn, since what a script
-// costs depends on the encoding; a figure is the mean of one table. Each contender begins with a
-// heap that has given back to the system what was freed, as an application at its first table.
+// Reading one language's table from the page cache: the mean of four scripts, because the cost
+// depends on script and encoding. Freed memory is returned to the system before each load, as it is
+// when an application reads its first table.
 #include <map>
 
 #include <malloc.h>
@@ -18,8 +18,8 @@ namespace orvanta::bench {
 
 namespace {
 
-// Through the bundle, as the first look-up of an application does: finding the file, reading it,
-// making the table of it.
+// Through the bundle, like the first look-up of an application: finds the file, reads it, builds
+// the table.
 Contender loadOurs(const Application& application, const LoadedTables& tables) {
   struct State {
     platform::Platform platform;
@@ -82,7 +82,7 @@ Contender loadFloor(const std::filesystem::path& folder, const LoadedTables& tab
   return {std::string(kFloor), check, round, prepare};
 }
 
-// ICU keeps what it once opened under a path, so each round spells the folder in another way.
+// ICU caches what it opened by path, so each round spells the folder differently.
 Contender loadIcu(const std::filesystem::path& folder, const LoadedTables& tables) {
   const auto spelling = std::make_shared<std::string>(folder.string());
   std::vector<std::string> locales;

@@ -10,8 +10,8 @@
 
 namespace orvanta::bench {
 
-/// One language for each kind of script: Latin with accents, letters of two bytes from left to
-/// right and from right to left, characters of three bytes.
+/// One language for each kind of script: Latin with accents, two-byte letters from left to right
+/// and from right to left, three-byte characters.
 inline constexpr std::array<std::string_view, 4> kLoadedLanguages = {"fr", "ru", "ar", "zh-Hans"};
 
 struct LoadedTable {

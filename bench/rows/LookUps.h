@@ -8,30 +8,30 @@
 #include "contenders/QtTranslations.h"
 #include "rows/Questions.h"
 
-/// The contenders of the rows about look-ups. What they are given must outlive them.
+/// The contenders of the look-up rows. Their arguments must outlive them.
 namespace orvanta::bench {
 
 /// Asks our localizer with handles to the keys.
 Contender askLocalizer(Localizer& localizer, const Questions& questions);
 
-/// Asks it with views, as an application does that has its keys in literals.
+/// Asks our localizer with views, as an application with literal keys does.
 Contender askLocalizerWithViews(Localizer& localizer, const Questions& questions);
 
-/// Asks a snapshot of it with handles.
+/// Asks a snapshot of our localizer with handles.
 Contender askSnapshot(TextSnapshot snapshot, const Questions& questions);
 
-/// Asks a map, and a second one for what the first lacks, if one is given.
+/// Asks a map and, for keys that it lacks, a second one if given.
 Contender askMap(const ArenaMap& map, const Questions& questions);
 Contender askMaps(const ArenaMap& first, const ArenaMap& second, const Questions& questions);
 
-/// Asks the domain in the languages of the variable LANGUAGE. Keeps the pointer that it is given.
+/// Asks the domain in the languages of the variable LANGUAGE. Stores the returned pointer.
 Contender askGettext(const char* domain, const Questions& questions);
 
-/// Asks the bundle and those that it falls back on. Keeps ICU's own UTF-16.
+/// Asks the bundle and its fallbacks. Stores a view of ICU's UTF-16.
 Contender askIcu(const UResourceBundle* bundle, const Questions& questions);
 
-/// Asks the translator, and a second one for what the first lacks, as an application's list of
-/// installed translators is asked. Keeps the QString.
+/// Asks the translator and, for keys that it lacks, a second one, as Qt asks the installed
+/// translators. Stores the QString.
 Contender askQt(const QTranslator& first, const QTranslator* second, const Questions& questions);
 
 }  // namespace orvanta::bench

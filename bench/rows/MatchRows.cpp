@@ -1,4 +1,4 @@
-// Requests against the 40 languages: what each comes to.
+// Resolving requests against the 40 languages.
 #include <string>
 
 #include <unicode/localematcher.h>
@@ -22,7 +22,7 @@ struct Request {
   std::string_view icus;  ///< "en", its default, where nothing suits.
 };
 
-// Languages by their names, regions of them, regional fallbacks, scripts, strangers, blanks.
+// Exact languages, regions, regional fallbacks, scripts, unknown languages, blanks.
 constexpr Request kRequests[] = {
     {"fr", "fr", "fr"},
     {"fr-CA", "fr-CA", "fr"},
@@ -56,7 +56,7 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
-// Lists of `length` requests, one for each request that a list can begin with.
+// Lists of `length` requests; one list begins with each of the requests.
 template <typename Item, typename Make>
 std::vector<std::vector<Item>> makeLists(std::size_t length, Make make) {
   std::vector<std::vector<Item>> lists(std::size(kRequests));
@@ -109,8 +109,8 @@ Contender matchOurs(Localizer& localizer, std::size_t length) {
   return matcher;
 }
 
-// The requests are made to locales beforehand. Each is asked alone: the matcher's answer to a list
-// is one language.
+// The requests are converted to locales beforehand and resolved one by one, because the matcher's
+// answer to a list is one language.
 Contender matchIcu(std::size_t length) {
   const auto lists = makeLists<::icu::Locale>(length, [](const Request& request) {
     return ::icu::Locale(icuLocale(trimmed(request.asked)).c_str());

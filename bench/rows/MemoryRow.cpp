@@ -1,5 +1,5 @@
-// What a loaded table keeps: heap, and the pages of files that stay mapped. The mean of one table
-// in each of four scripts.
+// The memory of a loaded table: heap, and the pages of files that stay mapped. The mean of four
+// tables in four scripts.
 #include <fstream>
 #include <functional>
 #include <iostream>
@@ -21,7 +21,7 @@ namespace orvanta::bench {
 
 namespace {
 
-// The bytes of the process's mappings of files below the folder.
+// The size of all mappings of files below the folder.
 std::size_t mappedBytes(const std::filesystem::path& folder) {
   std::ifstream maps("/proc/self/maps");
   std::size_t bytes = 0;
@@ -35,7 +35,7 @@ std::size_t mappedBytes(const std::filesystem::path& folder) {
   return bytes;
 }
 
-// Loads something and says what it keeps. `load` gives what holds on to it.
+// Loads something and returns the memory that it keeps. `load` returns its owner.
 template <typename Load>
 double keptBytes(const std::filesystem::path& folder, Load load) {
   const std::size_t mappedBefore = mappedBytes(folder);

@@ -1,5 +1,5 @@
-// Messages with one plural and one text argument. The floor is ICU's MessageFormat: in one row
-// built before, in the other built for each message.
+// Messages with one plural and one text argument. The floor is ICU's MessageFormat, constructed
+// beforehand in one row, and for each message in the other.
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -25,7 +25,7 @@ int countOf(std::size_t message) {
   return static_cast<int>(message % 200);
 }
 
-// French patterns under the keys of the other rows, and what they come to.
+// French patterns under the keys of the other rows, and the expected messages.
 struct Messages {
   Messages() {
     for (std::size_t at = 0; at < kMessages; ++at) {

@@ -1,5 +1,5 @@
-// A change to another language whose table is in memory, with a window of labels that each show
-// one text: Qt's own way beside our widgets. Every round changes to French and back to English.
+// A change to a language whose table is in memory, in a window of labels: Qt's way of retranslation
+// and our widgets. A round changes to French and back to English.
 #include <QApplication>
 #include <QEvent>
 #include <QTranslator>
@@ -41,7 +41,7 @@ struct Scene {
   int samples;
 };
 
-// Both languages, and which text each label shows.
+// Both languages and the key of each label.
 struct Languages {
   Languages() {
     Random random("labels");
@@ -59,7 +59,7 @@ struct Languages {
   std::vector<std::size_t> asked;
 };
 
-// A window full of labels in the language that was changed to.
+// A window of labels in the current language.
 class Side {
  public:
   explicit Side(const Scene& scene) : isShown_(scene.isShown), window_(scene.arrangement) {}
@@ -67,7 +67,7 @@ class Side {
   Side(const Side&) = delete;
   Side& operator=(const Side&) = delete;
 
-  // Over when every label has its text, and in a window that is shown is painted with it.
+  // Returns when every label has its text and, in a visible window, was painted with it.
   void change(bool toFrench) {
     window_.expectRepaint();
     beginChange(toFrench);
@@ -120,7 +120,7 @@ class OurSide final : public Side {
   std::optional<orvanta::qt::RepaintBatch> batch_;
 };
 
-// A label as Qt's documentation has it translate itself. Its text is plain, as ours is.
+// A label that translates itself as Qt's documentation recommends. Plain text, like ours.
 class QtLabel final : public QLabel {
  public:
   QtLabel(const char* identifier, QWidget* parent) : QLabel(parent), identifier_(identifier) {
@@ -162,8 +162,8 @@ class FloorSide final : public Side {
   std::unique_ptr<QTranslator> english_;
 };
 
-// Has one side at a time: Qt tells every window of a change of language, and one side would pay
-// for the other's.
+// Keeps the window of one contender at a time: Qt notifies every window of a change of language,
+// and one contender would pay for the other's window.
 class Stage {
  public:
   using MakeSide = std::function<std::unique_ptr<Side>()>;
@@ -179,7 +179,7 @@ class Stage {
   }
 
  private:
-  // A change finds a window that has been there for a while, not one that was opened just now.
+  // The window has existed for a while when the language changes.
   void becomeUsed() {
     for (const bool toFrench : {true, false, true, false, true, false}) {
       side_->change(toFrench);
@@ -246,15 +246,15 @@ void switchRow(Bench& bench, const std::filesystem::path& folder, const Language
   bench.run(row);
 }
 
-// As the heap of an application with windows stands after a while. As it stands at the start, Qt
-// would give its larger regions back to the system at every repaint, in some rounds and not in
-// others.
+// Sets the heap's thresholds to what they become in an application with windows after a while. With
+// the initial thresholds, Qt returns large blocks to the system at repaints in some rounds and not
+// in others.
 void useHeapOfWindows() {
   mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
   mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
 }
 
-// Qt's platform without a screen warns at every layout of what it does not support.
+// Qt's offscreen platform warns at every layout about operations that it does not support.
 void showProblems(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type == QtCriticalMsg || type == QtFatalMsg) {
     std::cerr << message.toStdString() << '\n';
@@ -272,7 +272,7 @@ void switchQtRows(Bench& bench) {
   char* words[] = {name, nullptr};
   const QApplication application(count, words);
 
-  // One application for all rows: widgets follow the localizer that the whole process shares.
+  // One application for all rows, because widgets follow the shared localizer of the process.
   const ScratchFolder folder = bench.folder("switch-qt");
   const Languages languages;
   installPlatform(folder.path(), languages);

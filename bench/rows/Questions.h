@@ -15,11 +15,10 @@
 
 namespace orvanta::bench {
 
-/// All keys of a table in random order, in each of the shapes in which contenders are asked, and
-/// the answers.
+/// All keys of a table in random order, in the types that the contenders take, and their answers.
 ///
-/// The keys' own characters are copies that lie in memory in the order of asking, the same copies
-/// for every contender that takes handles or views: what is random is where the table is touched.
+/// The keys' characters are copies in the order of the look-ups, the same copies for all
+/// contenders, so that only the table is accessed at random.
 struct Questions {
   /// `table` must outlive this.
   explicit Questions(const Table& table) {
@@ -47,8 +46,8 @@ struct Questions {
   std::vector<std::string_view> answers;
 };
 
-/// A contender that asks all questions and keeps each result in a place of its own, over that of
-/// the round before. `ask` gives the result for a question's number, `text` a result's UTF-8.
+/// A contender that looks up all keys and stores each result over that of the previous round. `ask`
+/// returns the result for a question's number, `text` a result's UTF-8.
 template <typename Ask, typename Text>
 Contender askingAll(std::string name, const Questions& questions, Ask ask, Text text) {
   using Result = decltype(ask(std::size_t{0}));

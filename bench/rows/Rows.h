@@ -2,7 +2,7 @@
 
 #include "harness/Bench.h"
 
-/// The families of rows, each alone in its file.
+/// The families of rows, one in each file.
 namespace orvanta::bench {
 
 void hitRows(Bench& bench);

@@ -1,5 +1,5 @@
-// From nothing to an application that knows its 40 languages and has chosen one. In the rows
-// startup-configured it has also read what each table says of its language.
+// Startup of an application: listing its 40 languages and choosing one. In the rows
+// startup-configured each table has configuration entries, which are read as well.
 #include <string>
 
 #include <fcntl.h>
@@ -20,14 +20,14 @@ namespace {
 
 constexpr std::size_t kBuffer = std::size_t{256} * 1024;
 
-// Where the tables have their three configuration entries.
+// The position of the three configuration entries in the tables.
 enum class Entries { none, first, last, firstInSome };
 
 bool isConfigured(Entries entries, std::size_t language) {
   return entries == Entries::firstInSome ? language % 10 == 3 : entries != Entries::none;
 }
 
-// Ours: the platform, the localizer, and with it the catalogue of all languages.
+// Our contender: the platform, the localizer, and the catalogue of all languages.
 class OurStart {
  public:
   OurStart(const Application& application, Entries entries)
@@ -123,7 +123,7 @@ Contender readAllFiles(const Application& application) {
   return {std::string(kFloor), check, round};
 }
 
-// The tables of all languages, which rows of one size share.
+// The tables of all languages, shared by the rows of one size.
 class Tables {
  public:
   [[nodiscard]] const std::vector<Table>& ofSize(std::size_t strings) {

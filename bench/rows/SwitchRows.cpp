@@ -1,5 +1,5 @@
-// A change to another language whose table is in memory, with listeners that each look one key up
-// and store the text. Every round changes to French and back to English.
+// A change to a language whose table is in memory. Each listener looks up one key and stores the
+// text. A round changes to French and back to English.
 #include <array>
 #include <functional>
 
@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kStrings = 10'000;
 
-// Both languages, and who listens for what: the answers are in the order of the listeners.
+// Both languages and the keys of the listeners. The answers are in the order of the listeners.
 struct Languages {
   explicit Languages(std::size_t listeners) {
     const auto keys = makeKeys(kStrings);
@@ -36,8 +36,8 @@ struct Languages {
   std::vector<std::size_t> asked;
 };
 
-// Changes both ways and compares every listener's text after each. `change` is given whether to
-// French, `text` a listener's number.
+// Changes to French and back and compares every listener's text after each change. `change` gets
+// whether it is to French, `text` a listener's number.
 template <typename Change, typename Text>
 void checkListeners(const Languages& languages, Change change, Text text) {
   for (const bool toFrench : {true, false}) {

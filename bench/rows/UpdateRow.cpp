@@ -1,5 +1,4 @@
-// Putting downloaded tables in the place of those that are cached, so that they would survive a
-// loss of power.
+// Replacing cached tables by downloaded ones, durably: a loss of power loses nothing.
 #include <QSaveFile>
 #include <algorithm>
 #include <cstdio>
@@ -31,8 +30,8 @@ void require(bool holds, const char* what) {
   }
 }
 
-// What the standard floor of safe replacing is: a new file, its bytes on the disk, its name over
-// the old one, the name on the disk.
+// The floor: the usual durable replacement of a file, which is to write a new file, sync it, rename
+// it over the old one, and sync the folder.
 void replaceFile(const std::string& folder, const std::string& target, std::string_view bytes) {
   const std::string temporary = target + ".new";
   const int file = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
@@ -60,7 +59,7 @@ struct Download {
 };
 using Downloads = std::vector<Download>;
 
-// The first shipped languages, then regions of them.
+// The first shipped languages, then regional variants of them.
 Downloads makeDownloads(std::size_t languages, std::size_t strings) {
   const auto keys = makeKeys(strings);
   const auto known = shippedLanguages();
@@ -73,7 +72,7 @@ Downloads makeDownloads(std::size_t languages, std::size_t strings) {
     }
     Table table = makeTable(language, keys);
     for (Entry& entry : table) {
-      // A downloaded value is source text, which is written as it is.
+      // A downloaded value is source text of the format, written without escaping.
       std::replace(entry.value.begin(), entry.value.end(), '\n', ' ');
     }
     std::string bytes = textFormUtf16(table);
@@ -87,7 +86,7 @@ std::filesystem::path languageFolder(const std::filesystem::path& folder,
   return folder / (download.language + ".lproj");
 }
 
-// `replace` puts bytes in the place of a file in a folder.
+// `replace` replaces the contents of a file in a folder.
 template <typename Replace>
 Contender updateEach(std::string_view name, const std::filesystem::path& folder,
                      const Downloads& downloads, Replace replace) {
@@ -117,7 +116,7 @@ void replaceWithQt(const std::string& /*folder*/, const std::string& target,
           "QSaveFile fails");
 }
 
-// Dictionaries around a value, the outermost first.
+// A value inside nested dictionaries; the outermost key first.
 StringsPayload nested(std::initializer_list<const char*> keys, StringsPayload value) {
   for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
     StringsPayload around;
@@ -177,7 +176,7 @@ void updateRow(Bench& bench, const Update& update) {
   if (update.hasPeer) {
     row.contenders.push_back(updateEach("qt", folder.path() / "qt", downloads, replaceWithQt));
   }
-  // What other rows wrote is not to be on its way to the disk meanwhile.
+  // The data of earlier rows must not be written to the disk meanwhile.
   sync();
   bench.run(std::move(row));
 }
