@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kMagic = "bplist00";
 constexpr std::size_t kMostObjects = 256;
 
-// A sound frame around any bytes: an object begins at each of them, the first one is the top.
+// Adds a valid frame to any bytes: an object begins at each byte, the first one is the top object.
 std::string framed(std::string_view objects) {
   const std::string_view held = objects.substr(0, (std::size_t{1} << 16) - kMagic.size());
   std::vector<std::size_t> offsets(std::min(held.size(), kMostObjects));
@@ -25,8 +25,8 @@ std::string framed(std::string_view objects) {
 
 }  // namespace
 
-// A whole file, or else objects that a frame is put around: hardly any mutation keeps a frame
-// sound.
+// Takes the input as a whole file or as objects without a frame, because hardly any mutation keeps
+// a frame valid.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   orvanta::fuzz::checkTable(input.starts_with(kMagic) ? std::string(input) : framed(input));

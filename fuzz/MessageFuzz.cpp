@@ -37,7 +37,7 @@ class PlainLocaleData final : public orvanta::platform::LocaleData {
   std::shared_ptr<orvanta::platform::Calendar> currentCalendar() const override { return nullptr; }
 };
 
-// Stands for an argument. A pattern does not hold it.
+// A placeholder for an argument. It is removed from patterns.
 constexpr char kToken = '\x01';
 constexpr std::string_view kArgument = "a{name}'{ {count, plural, other {#}} %1$@ %d";
 
@@ -80,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const MessageLanguage& language = languages[choice % 4];
   const double count = (choice / 4 - 16) * 0.5;
-  // A letter beside the token: both arguments run from left to right.
+  // With a letter, so that both arguments have the direction left to right.
   const std::string token = std::string(1, kToken) + "a";
   const std::string argument = std::string(kArgument) + "a";
   const std::vector<orvanta::MessageArgument> tokens = {

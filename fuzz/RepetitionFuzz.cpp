@@ -1,6 +1,5 @@
-// A text of which one piece is repeated until it is long: what makes a reader look ahead over and
-// over shows in its time per byte. The input is a beginning, the piece and an end, each ended by a
-// byte that no UTF-8 holds.
+// A long text that repeats one piece, so that repeated look-ahead shows in the time per byte. The
+// input is a beginning, the piece and an end, each terminated by a byte that is invalid in UTF-8.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
-// What is written reads back equal, for whatever needs no escape in the format. The input is keys
-// and values in turn, each ended by a byte that no UTF-8 holds.
+// Texts that need no escapes read back equal after writing. The input is keys and values in turn,
+// each terminated by a byte that is invalid in UTF-8.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -27,7 +27,7 @@ void expect(bool holds, std::string_view what) {
   }
 }
 
-// The next text, without what the format would want escaped.
+// The next text, without the characters that need escapes.
 std::string takeText(std::string_view& input) {
   constexpr char kEnd = '\xFF';
   const std::size_t size = std::min(input.find(kEnd), input.size());

@@ -19,13 +19,12 @@ using strings::readStringTable;
 using strings::StringTable;
 using strings::TableProblem;
 
-// An entry costs at most an index slot or two besides its characters; the shortest statement that
-// makes one takes 2 bytes.
+// An entry takes a few index slots besides its characters; the shortest statement has 2 bytes.
 constexpr std::size_t kLargestGrowth = 32;
 constexpr std::size_t kAlwaysGranted = std::size_t{1} << 20;
 
-// A multiple of what the slowest known texts take under the sanitizers. Time that grows with the
-// square of the size exceeds it from some ten thousand bytes on.
+// A multiple of what the slowest known texts take under the sanitizers. Quadratic time exceeds it
+// from some ten thousand bytes on.
 constexpr double kMostSecondsPerByte = 40e-6;
 constexpr double kSecondsAlwaysGranted = 0.2;
 
@@ -41,7 +40,7 @@ struct Reading {
   std::vector<TableProblem> problems;
 };
 
-// Processor time, so that a busy machine changes nothing.
+// Measures processor time, which is independent of other load.
 Reading read(std::string_view bytes) {
   Reading reading;
   const std::clock_t begin = std::clock();

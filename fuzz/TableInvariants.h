@@ -4,10 +4,10 @@
 
 namespace orvanta::fuzz {
 
-/// Reads `bytes` as a strings file and ends the process where the reader breaks what it promises
-/// for any input: every entry is found again under its key, all texts are valid UTF-8, problems
-/// stand at a place that the file has, reading again gives the same, and memory and time stay in
-/// proportion to the file.
+/// Reads `bytes` as a strings file and aborts the process if an invariant of the reader does not
+/// hold: every entry is found under its key, all texts are valid UTF-8, the places of problems lie
+/// within the file, a second read gives the same result, and memory and time are linear in the
+/// file's size.
 void checkTable(std::string_view bytes);
 
 }  // namespace orvanta::fuzz

@@ -15,8 +15,8 @@ bool isDocument(std::string_view input) {
 
 }  // namespace
 
-// A whole document, or else the inside of a dictionary: most mutations would spend themselves on
-// the frame otherwise.
+// Takes the input as a whole document or as the inside of a dictionary. Otherwise most mutations
+// would only damage the frame.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   orvanta::fuzz::checkTable(isDocument(input) ? std::string(input)

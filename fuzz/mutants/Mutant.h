@@ -22,8 +22,8 @@ struct Edit {
     return std::string(text.substr(0, begin)) + replacement + std::string(text.substr(end));
   }
 
-  /// Whether a character of the statement was changed or others put between them. To a key without
-  /// quotes anything may be added.
+  /// Whether the edit changes the statement or inserts characters into it. Characters inserted
+  /// right before a key without quotes become part of it.
   [[nodiscard]] bool hits(const Statement& statement) const noexcept {
     return begin < statement.end &&
            (statement.begin < end ||

@@ -135,7 +135,7 @@ class Reader {
     return text;
   }
 
-  // What stands for no character is left to the reader that is tested: no mutant needs it.
+  // Does not handle lone surrogates, which no mutant contains.
   void readEscape(std::string& text) {
     const char c = takeCharacter();
     const std::size_t named = kNamedEscapes.find(c);

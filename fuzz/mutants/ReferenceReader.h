@@ -25,8 +25,8 @@ struct Reading {
   bool isSound = true;
 };
 
-/// Reads UTF-8 text by the letter of the format, one character at a time, and stops at the first
-/// fault. Shares no code with the library: it is the oracle of the mutation tests.
+/// Strict reader of the text form: one character at a time, no recovery, stops at the first fault.
+/// The oracle of the mutation tests; it shares no code with the library's reader.
 [[nodiscard]] Reading readByTheLetter(std::string_view text);
 
 }  // namespace orvanta::fuzz

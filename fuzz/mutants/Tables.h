@@ -9,13 +9,13 @@
 
 namespace orvanta::fuzz {
 
-/// A key and a value as they stand in a file, with their quotes.
+/// A key and a value as written in a file, with their quotes.
 struct RawPair {
   std::string key;
   std::string value;
 };
 
-/// How the statements of a table are set down: "K" and "V" stand for a key and a value.
+/// The layout of a table's statements. "K" and "V" stand for a key and a value.
 struct Layout {
   const char* name;
   std::string head;
@@ -29,7 +29,7 @@ enum class Group { kOrdinary, kSignOnNextLine, kOneLine, kCollections };
 
 [[nodiscard]] std::string layOut(const Layout& layout, const std::vector<RawPair>& pairs);
 
-/// `count` pairs such as applications have, no two with a common key or value.
+/// `count` typical pairs with distinct keys and values.
 [[nodiscard]] std::vector<RawPair> inventPairs(std::mt19937& random, std::size_t count);
 
 /// A value that is a dictionary or an array; its keys begin with `kInnerKey`.

@@ -3,8 +3,8 @@
 //
 //     table_mutants [--percent N] [--show GROUP] [FILE...]
 //
-// The tables are made up, or consist of the statements of the files. The same arguments give the
-// same mutants. Ends with 1 where more is lost than the rows below allow.
+// The tables are generated, or built from the statements of the files. The same arguments give the
+// same mutants. Exits with 1 when more is lost than the rows below allow.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -62,7 +62,8 @@ struct Case {
   std::string mutant;
   Entries read;
 
-  // The last one of a repeated key holds: a statement whose key was copied elsewhere is not sound.
+  // The last statement with a key wins, so a statement whose key was copied elsewhere does not
+  // count.
   [[nodiscard]] bool isSoundNeighbour(const Statement& statement) const {
     const std::string key = table.substr(statement.begin, statement.keyEnd - statement.begin);
     return statement.isText && !edit.hits(statement) &&
@@ -85,7 +86,7 @@ Entries readEntries(std::string_view bytes) {
   return entries;
 }
 
-// What a sound text holds by the letter of the format.
+// The entries of a sound text, by the reference reader.
 Entries entriesOf(const Reading& reading) {
   Entries entries;
   for (const Statement& statement : reading.statements) {
@@ -233,8 +234,7 @@ bool runAll(std::size_t percent, const std::string& shown, const Sources& source
   return isGood && mixed <= part(kMostMixed);
 }
 
-// Adds the statements of a file, in tables of `kStatements`. Escapes by number are left out: the
-// reference reader knows only the simple ones.
+// Adds the statements of a file, in tables of `kStatements`. Leaves out statements with \U escapes.
 void addSources(const char* path, Sources& sources) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};

@@ -1,5 +1,5 @@
-// Each allocation of an operation is refused in turn: the operation may fail, with `std::bad_alloc`
-// alone, and what it was called on works afterwards as if it had not been called.
+// Makes each allocation of an operation fail in turn. The operation may fail only with
+// `std::bad_alloc`, and its object must work afterwards as if the operation had not been called.
 #include <functional>
 #include <new>
 
@@ -23,9 +23,8 @@ using test::LocalizedApplication;
 using test::RefusedAllocations;
 using Extent = RefusedAllocations::Extent;
 
-// Calls `operation` until it runs with nothing refused, on what `prepare` makes each time, and
-// `check` after each call. The call is made, and the object destroyed, while allocations are
-// refused.
+// Calls `operation` on new objects from `prepare`, each time with a later allocation failing, until
+// none fails; calls `check` after each call. The object is destroyed while all allocations fail.
 template <typename Object>
 void refuseEach(const std::function<std::unique_ptr<Object>()>& prepare,
                 const std::function<void(Object&)>& operation,
@@ -55,7 +54,7 @@ class AllocationFailure : public testing::Test {
       {{"en", {{"title", "Title"}}}, {"fr", {{"title", "titre"}, {"hint", "indice"}}}}, {"fr"}};
 
   void SetUp() override {
-    // Old enough that a stamp alone tells whether a table has changed.
+    // So old that the table's stamp is not racy.
     const auto table = app_.bundle() / "fr.lproj/Localizable.strings";
     std::filesystem::last_write_time(
         table, std::filesystem::last_write_time(table) - std::chrono::hours(1));

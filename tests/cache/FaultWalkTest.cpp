@@ -1,5 +1,5 @@
-// Lets each single file operation of an update fail in turn, or be the last before the power goes,
-// and looks at what is left on disk.
+// Makes each file operation of an update fail in turn, or be the last before a loss of power, and
+// checks what is on the disk afterwards.
 #include <cerrno>
 
 #include <gtest/gtest.h>
@@ -40,8 +40,8 @@ struct Walk {
   int mayBeLost = 0;  // Updates that are in place but may not survive a loss of power.
 };
 
-// One update for each of its operations, which fails there. Ends with the update that no longer
-// reaches the operation.
+// Runs one update for each of its operations and makes that operation fail. Ends with the update
+// that has fewer operations.
 Walk walk(const Fault& fault) {
   Walk walked;
   for (int failing = 0;; ++failing) {
@@ -80,7 +80,7 @@ TEST(FaultWalk, LeavesTheWholeOldTableOrTheWholeNewOne) {
       {"disk full", Fault::fail(ENOSPC), 5},
       {"cut short at once", Fault::cutShort(1, EIO), 5},
       {"cut short late", Fault::cutShort(60, EIO), 5},
-      // What is missing is tried once more, but for the caches directory.
+      // Missing items are tried once more, except for the caches directory.
       {"removed by another process", Fault::fail(ENOENT), 0, 1},
       {"locked by another process", Fault::fail(EAGAIN), 4},
   };

@@ -39,7 +39,7 @@ TEST(StringsFile, IsUtf16LittleEndianWithAMark) {
   for (const char* text : {"", "plain ascii text", "\u00E9\u0628\u6F22\U0001F600"}) {
     EXPECT_EQ(test::writtenAsUtf16(text), utf16(text));
   }
-  // Longer than the writer's buffer, which ends at every byte of a character of each length.
+  // Longer than the writer's buffer, so that its end divides a character at each of its bytes.
   for (const std::string character : {"\u00E9", "\u6F22", "\U0001F600"}) {
     for (std::string text; text.size() < 4; text += 'a') {
       const std::size_t shift = text.size();
@@ -279,7 +279,7 @@ TEST(CacheUpdate, ForgetsTheCatalogueAlsoWhenAReportThrows) {
   EXPECT_EQ(cache.cachedLanguageCodes(), StringList({"fr"})) << "not reached: de";
 }
 
-// The record that a listing builds is of the new file; look-ups wait for a change.
+// A record that is listed after an update is that of the new file; look-ups wait for a change.
 TEST(CacheUpdate, ShowsAtTheNextChangeOfLanguage) {
   const std::string version(OVOrvantaLanguageVersionKey);
   TestApplication app({{"en", {{"k", "shipped"}}}}, {"fr"});

@@ -1,5 +1,5 @@
-# Every installed header compiles alone, silent under the warnings that a strict application turns
-# on, and all together as other applications compile them.
+# Every installed header compiles alone without warnings under strict flags, and all of them together
+# with the flags of other applications.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 set(include ${WORK_DIR}/prefix/include)
 file(GLOB_RECURSE headers RELATIVE ${include} ${include}/*.h)

@@ -1,5 +1,5 @@
-# Installs what is needed to build an application into ${WORK_DIR}/prefix, by a detour, because an
-# installed tree may be moved.
+# Installs what is needed to build an application into ${WORK_DIR}/prefix, and moves it there
+# from elsewhere, because an installed tree must be relocatable.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
 foreach(component IN ITEMS Core Development Qt QtDevelopment Quick QuickDevelopment)

@@ -14,7 +14,7 @@ orvanta::String signIn() {
   return orvanta::Localizer::sharedLocalizer().localizedStringForKey("signin.title");
 }
 
-/// Asks for a text while static objects are initialised, possibly before those of the library.
+/// Looks up a text during static initialisation, possibly before that of the library.
 struct Early {
   Early() {
     orvanta::platform::Platform::install(orvanta::standard::makeStandardPlatform(

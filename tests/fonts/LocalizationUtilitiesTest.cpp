@@ -13,7 +13,7 @@ using platform::kBoldTrait;
 using platform::kItalicTrait;
 using platform::TextAlignment;
 
-// The standard fonts, with two icon fonts among them, writing down what is asked of them.
+// The standard fonts and two icon fonts. Records what is asked of them.
 class WatchedFonts final : public platform::FontSystem {
  public:
   FontHandle fontWithName(const String& name, double size) const override {
@@ -139,7 +139,7 @@ TEST_F(Fonts, ArabicFacesAreTheSameObjectsAtSeventeenPoints) {
   EXPECT_TRUE(watched_->registrations.empty());
 }
 
-// What three requests of one face ask of the platform, and what they get.
+// What three requests for one face ask of the platform, and their results.
 TEST_F(Fonts, AFaceIsLoadedUntilThereIsAFontForIt) {
   using Registrations = std::vector<bool>;
   const Registrations never = {false, false, false};

@@ -8,7 +8,7 @@
 namespace orvanta::standard {
 namespace {
 
-// The releases of ICU and of CLDR, from which the table was taken, that belong together.
+// The release of ICU that contains the CLDR release of the table.
 constexpr int kIcuOfTheTable = 72;  // CLDR 42
 
 template <typename Visit>
@@ -25,9 +25,8 @@ void forEachCode(const Visit& visit) {
   }
 }
 
-// As ICU answers once it has put the code of today in place of one that stands for it ("per",
-// "arb"). Every code that ISO 639-1, -2 and -3 could have given out, and so every one that they
-// have.
+// Compares with ICU for every possible code of two or three letters, which includes all of ISO
+// 639-1, -2 and -3. ICU replaces codes like "per" and "arb" by the current ones first.
 TEST(LanguageDirections, AreThoseOfIcu) {
   if (U_ICU_VERSION_MAJOR_NUM != kIcuOfTheTable) {
     GTEST_SKIP() << "ICU " << U_ICU_VERSION << " knows other data than CLDR 42";
@@ -42,7 +41,7 @@ TEST(LanguageDirections, AreThoseOfIcu) {
       differing.insert(code);
     }
   });
-  // Ancient Greek, which CLDR gives the Cypriot syllabary: left out on purpose, see the table.
+  // Ancient Greek, for which CLDR names the Cypriot syllabary: left out on purpose, see the table.
   EXPECT_EQ(differing, std::set<std::string>{"grc"});
   EXPECT_GT(rightToLeft, 100U);
 }

@@ -42,7 +42,7 @@ class IcuNumbers final : public platform::LocaleData {
   std::shared_ptr<platform::LocaleData> standard_ = standard::makeLocaleData({});
 };
 
-// Well-formed patterns over a few arguments, of which about half are then damaged.
+// Generates patterns with a few arguments. About half of them are damaged.
 class Generator {
  public:
   std::string pattern() {
@@ -165,7 +165,7 @@ icu::Formattable toIcu(const MessageValue& value) {
   }
 }
 
-// Absent where ICU refuses the pattern.
+// Absent when ICU rejects the pattern.
 std::optional<std::string> icuFormat(const std::string& pattern, const char* locale,
                                      const std::vector<MessageArgument>& arguments) {
   UErrorCode status = U_ZERO_ERROR;

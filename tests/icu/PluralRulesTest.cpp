@@ -12,7 +12,7 @@
 namespace orvanta {
 namespace {
 
-// The ICU that holds CLDR 42, the release after the table's.
+// The ICU that contains CLDR 42, the release after that of the table.
 constexpr int kIcuOfTheDifferences = 72;
 
 struct Sample {

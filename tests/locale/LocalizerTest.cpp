@@ -11,10 +11,10 @@
 namespace orvanta {
 namespace {
 
-// The preferred list and the raw one that each notification carried.
+// The preferred list and the raw list of each notification.
 using Heard = std::vector<std::pair<StringList, StringList>>;
 
-// An application with a localizer, which writes down what that posts.
+// An application with a localizer, which records the notifications that it posts.
 class SpeakingApplication : public test::TestApplication {
  public:
   explicit SpeakingApplication(const test::Languages& shipped,
@@ -30,7 +30,7 @@ class SpeakingApplication : public test::TestApplication {
         });
   }
 
-  // What was posted since the last call; nothing may have come before the main queue ran.
+  // The notifications since the last call. None may be delivered before the main queue runs.
   Heard hear() {
     EXPECT_TRUE(heard_.empty());
     loop->runPending();

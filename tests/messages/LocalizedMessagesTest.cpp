@@ -33,7 +33,7 @@ const test::Languages kShipped = {
     {"ar", {{"items", "{n, plural, zero {صفر} two {اثنان} few {# قليل} other {#}}، {name}"}}},
 };
 
-// What the observer was told, one word or two for each problem.
+// Records the problems that an observer gets.
 class Observed {
  public:
   explicit Observed(Localizer& localizer) {
@@ -246,7 +246,7 @@ TEST(OlderTables, AreDiscardedByTheirVersions) {
   EXPECT_EQ(cache.discardCachedLanguagesOlderThanShipped(), StringList::emptyList());
 }
 
-// Snapshots answer on two threads while the main thread changes languages, as it did before.
+// Snapshots answer on two threads, as the main thread did, while that changes languages.
 TEST(TextSnapshotThreads, AnswerAsTheMainThreadDidWhenTheyWereTaken) {
   test::TestApplication app(kShipped);
   Localizer localizer;

@@ -12,7 +12,7 @@
 namespace orvanta {
 namespace {
 
-// What the tests against ICU cannot show: missing and mistyped arguments, isolates, limits.
+// Covers what the comparison with ICU cannot: missing and mistyped arguments, isolates, limits.
 
 const MessageLanguage& language(const char* locale) {
   static const auto data = standard::makeLocaleData({});

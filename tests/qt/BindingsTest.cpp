@@ -20,7 +20,7 @@ using orvanta::test::speak;
 
 namespace {
 
-// What a form's objects say, one line each.
+// The texts of a form's objects.
 QStringList textsOf(const QWidget& form) {
   const auto* combo = form.findChild<QComboBox*>();
   const auto* tabs = form.findChild<QTabWidget*>();
@@ -105,7 +105,7 @@ class BindingsTest : public QObject {
     QCOMPARE(label.text(), u"Summe: 12,50 €"_s);
     QCOMPARE(label.toolTip(), u"<Ihr Warenkorb>"_s);
 
-    // In place of the earlier ones; a null key leaves the text.
+    // Replaces the earlier bindings. A null key leaves the text.
     localize(&action, "text", u"no.such.key"_s);
     localize(&action, &QAction::setToolTip, {});
     QSignalSpy changes(&action, &QAction::changed);

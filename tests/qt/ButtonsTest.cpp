@@ -14,7 +14,7 @@ using orvanta::test::speak;
 
 namespace {
 
-// The title that a button would draw.
+// Gives access to the title that a button draws.
 class Titled : public UILocalizedButton {
  public:
   using UILocalizedButton::UILocalizedButton;

@@ -19,8 +19,8 @@ namespace {
 using Step = std::function<void(QWidget& window, QWidget& widget)>;
 using FontChange = std::function<void(QFont&)>;
 
-// The look in a language without a font of its own, before and after a change under way: the
-// family, the size, and "bold" or nothing.
+// The expected font in a language without its own font, before and after a later change: family,
+// size, and "bold" or nothing.
 struct Row {
   const char* name;
   Step design;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kLabels = 40;
 
-// How often each label in sight is painted, and with which text last.
+// Counts how often each label is painted, and records its last text.
 class Painted : public QObject {
  public:
   QMap<QObject*, int> times;
@@ -48,7 +48,7 @@ void inGrid(QWidget& window, const QList<QLabel*>& labels) {
   }
 }
 
-// In a widget that hides the window behind it, part of them out of sight.
+// In an opaque widget inside the window; some labels are out of sight.
 void scrolled(QWidget& window, const QList<QLabel*>& labels) {
   auto* area = new QScrollArea(&window);
   auto* inside = new QWidget;
@@ -91,7 +91,7 @@ void RepaintTest::aBatchPaintsEveryLabelOnce() {
   arrange(window, labels);
   window.show();
   QVERIFY(QTest::qWaitForWindowExposed(&window));
-  // The first change may have the window grow, which is another repaint.
+  // The first change may enlarge the window, which causes another repaint.
   QVERIFY(speak(QStringLiteral("de")));
   QVERIFY(speak(QStringLiteral("en")));
 

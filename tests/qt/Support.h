@@ -25,10 +25,10 @@ struct Registration {
   Registration() { testClasses().emplace_back(std::make_unique<Test>); }
 };
 
-/// Whether a step ran that was queued before there was an application object.
+/// Whether the step ran that was queued before the application object was made.
 inline bool earlyStepRan = false;
 
-/// Changes the language and waits until everybody has heard of it. False when nobody does.
+/// Changes the language and waits until observers were notified. False when they were not in time.
 [[nodiscard]] inline bool speak(const QString& language) {
   bool heard = false;
   const qt::LanguageChangeObserver observer([&heard] { heard = true; });
@@ -41,7 +41,7 @@ inline bool earlyStepRan = false;
   return heard;
 }
 
-/// Where in a widget black ink is: the blank columns left and right of it.
+/// The number of columns without black pixels left and right of a widget's text.
 struct Blank {
   int left = 0;
   int right = 0;
@@ -64,7 +64,7 @@ struct Blank {
   return {first - within.left(), within.right() - last};
 }
 
-/// "left", "right" or "middle", by where the ink is.
+/// The side of a widget's text: "left", "right" or "middle".
 [[nodiscard]] inline QString inkSide(QWidget& widget) {
   const Blank blank = blankBesideInk(widget, widget.rect().adjusted(4, 4, -4, -4));
   if (std::abs(blank.left - blank.right) < 12) {

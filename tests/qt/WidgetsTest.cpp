@@ -86,7 +86,7 @@ void checkKeys() {
   QCOMPARE(widget.key(), u"order.title"_s);
   QVERIFY(speak(u"de"_s));
   QCOMPARE(widget.text(), u"Ihr Warenkorb"_s);
-  // The key wins at the next change, unless it is let go of.
+  // The key replaces the text at the next change of language, unless it was cleared.
   widget.setText(u"typed"_s);
   QVERIFY(speak(u"en"_s));
   QCOMPARE(widget.text(), u"Your cart"_s);
@@ -174,7 +174,7 @@ class WidgetsTest : public QObject {
     QWidget directed;
     direct(directed);
     QWidget other;
-    // Directed before it is localized, after, and by a new parent.
+    // The direction is set before awakening, after it, and by a new parent.
     for (int order = 0; order < 3; ++order) {
       UILocalizedLabel label(order == 0 ? &directed : &other);
       UILocalizedTextField field(order == 0 ? &directed : &other);
@@ -206,7 +206,7 @@ class WidgetsTest : public QObject {
     Ui::Promoted ui;
     ui.setupUi(&compiled);
     orvanta::qt::awakeFromNib(&compiled);
-    // Awakening again must not take the localized look for the designed one.
+    // A second awakening must not take the localized font and texts for the designed ones.
     orvanta::qt::awakeFromNib(&compiled);
     checkForm(compiled);
 
@@ -217,7 +217,7 @@ class WidgetsTest : public QObject {
     QVERIFY(speak(u"ar"_s));
     const std::unique_ptr<UILocalizedLabel> label(
         UILocalizedLabel::initLocalizedWithFrame({3, 4, 200, 30}, nullptr, u"order.title"_s));
-    // Would take what is shown for the design, if the label were not awake.
+    // If the label were not awake yet, this would take the shown text and font for the design.
     label->awakeFromNib();
     QVERIFY(speak(u"en"_s));
     QCOMPARE(label->geometry(), QRect(3, 4, 200, 30));
@@ -242,7 +242,7 @@ class WidgetsTest : public QObject {
     QCOMPARE(seen, QStringList(u"fr"_s));
   }
 
-  // Form code sets the keys again as texts, in the language change event of Qt's translators.
+  // On Qt's language change event, generated form code sets the keys as texts again.
   void keysDoNotReappear() {
     UILocalizedLabel root;
     Ui::Promoted ui;

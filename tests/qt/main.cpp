@@ -22,7 +22,7 @@ void installPlatform(const orvanta::test::ScratchFolder& caches) {
   orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
 }
 
-// Whether the Arabic face is there, in an application object that comes and goes.
+// Whether a new application object has the Arabic face. Destroys the application object.
 bool applicationHasArabicFace(int& argc, char** argv) {
   const QApplication application(argc, argv);
   const auto face = orvanta::localizationUtilities::ArabicFontWithSize(20, true);

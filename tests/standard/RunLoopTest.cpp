@@ -13,7 +13,7 @@
 namespace orvanta::standard {
 namespace {
 
-// The two ways in which the main thread may run what is queued.
+// Both ways in which the main thread can run queued steps.
 class RunLoopTurns : public testing::TestWithParam<bool> {
  protected:
   void turnUntil(const std::function<bool()>& isDone) {

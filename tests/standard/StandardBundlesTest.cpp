@@ -21,7 +21,7 @@ class StandardBundles : public testing::Test {
     test::writeFile(path(relative), text);
     return path(relative);
   }
-  // A table that has not changed for so long that its stamp says so.
+  // A table so old that its stamp is not racy.
   std::string writeOld(const std::string& relative, std::string_view text) const {
     std::string file = write(relative, text);
     std::filesystem::last_write_time(
@@ -90,7 +90,7 @@ TEST_F(StandardBundles, ReadChangedTablesOnceTheyAreRefreshed) {
   };
   EXPECT_TRUE(again().isSameObject(one)) << "nothing had changed";
 
-  // In place, of the same length and at once: the stamp may be the same.
+  // Overwritten in place with the same length right away: its stamp may be the same.
   write("fr.lproj/Localizable.strings", R"("k" = "two";)");
   write("fr.lproj/Other.strings", R"("k" = "owner";)");
   registry->refreshTables();
@@ -109,8 +109,8 @@ TEST_F(StandardBundles, ReadChangedTablesOnceTheyAreRefreshed) {
   EXPECT_EQ(one, "one") << "what was handed out stays";
 }
 
-// Whether or not their tables were asked before: refreshed, those of folders that have gone answer
-// alike, and hold no memory.
+// After a refresh, bundles whose folders are gone give keys and hold no table, whether or not their
+// tables were read before.
 TEST_F(StandardBundles, DropTablesOfFoldersThatHaveGone) {
   const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
                                        HashedKey("CONFIG-Language-B")};

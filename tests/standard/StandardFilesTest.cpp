@@ -203,7 +203,7 @@ TEST_F(StandardFiles, ListAFolderAndVisitWhatIsNotHidden) {
 TEST_F(StandardFiles, RemoveTreesButNothingBehindLinks) {
   test::writeFile(at("outside/kept"), "kept");
   test::writeFile(at("tree/a/b/.hidden"), "");
-  // More than the system lists at once.
+  // More entries than the system lists in one call.
   for (int number = 0; number < 1100; ++number) {
     test::writeFile(at("tree/file " + std::to_string(number)), "");
   }
@@ -217,7 +217,7 @@ TEST_F(StandardFiles, RemoveTreesButNothingBehindLinks) {
   EXPECT_EQ(test::contentsOf(at("outside/kept")), "kept");
 }
 
-// Deeper than a path may be long, and than files may be open.
+// The path is longer than PATH_MAX, and the tree deeper than the limit of descriptors.
 TEST_F(StandardFiles, RemoveTreesOfAnyDepth) {
   constexpr int kDepth = 300;
   rlimit before{};
@@ -332,7 +332,7 @@ TEST_F(StandardFiles, TellShortageFromEmptiness) {
   std::size_t visited = 0;
   const auto visit = [&](const URL& entry, bool) {
     ++visited;
-    // While the walk is between two folders.
+    // The walk is between two folders now.
     if (entry == url("in/a", true)) {
       EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
     }
@@ -364,7 +364,7 @@ TEST_F(StandardFiles, CloseDescriptorsOnExec) {
   EXPECT_EQ(found, 4U);
 }
 
-// Somebody exchanges a folder with a link, or moves it away, while the tree around it is removed.
+// Another thread exchanges a folder with a link, or moves it away, while its tree is removed.
 TEST_F(StandardFiles, RemoveNothingOutsideWhileFoldersAreExchanged) {
   constexpr int kRounds = 60;
   for (const bool byMoving : {false, true}) {
@@ -400,8 +400,8 @@ TEST_F(StandardFiles, RemoveNothingOutsideWhileFoldersAreExchanged) {
 }  // namespace
 }  // namespace orvanta::standard
 
-// In place of the C library's functions, for all tests of this program. `fsync` notes the file and
-// spares the wait for the disk; `flock` lets a test act before it, and never waits.
+// Replace the C library's functions for all tests of this program. `fsync` records the file and
+// does not wait for the disk; `flock` calls a test's hook first, and never blocks.
 extern "C" int fsync(int file) {
   struct stat status {};
   const int result = ::fstat(file, &status);

@@ -17,14 +17,14 @@ std::string utf16(std::string_view text) {
   return test::unitsOf(test::kUtf16Big, text);
 }
 
-// One entry of a "name" table; the text is as it stands in the file.
+// One entry of a "name" table, with the bytes of its text.
 struct NameRecord {
   std::size_t platform;
   std::size_t id;
   std::string text;
 };
 
-// The least that a font file needs to be catalogued, every part open to be spoilt.
+// A minimal font file; each part can be made invalid.
 struct FontFile {
   std::string signature{"\0\1\0\0", 4};
   std::vector<NameRecord> names{{3, 4, utf16("Test Face")}, {3, 6, utf16("Test-Face")}};

@@ -22,13 +22,13 @@ class StandardNotificationCenter : public testing::Test {
   void post(const String& name, const void* object = nullptr) {
     center_->postNotification({name, object, {}});
   }
-  /// Who was told since the last call.
+  /// The handlers that were called since the last call of this.
   [[nodiscard]] std::string told() { return std::exchange(told_, {}); }
 
   std::shared_ptr<platform::NotificationCenter> center_ = makeNotificationCenter();
   std::string told_;
 
-  // Observers and senders are known by their addresses alone.
+  // Observers and senders are identified by their addresses.
   std::array<int, 4> things_{};
   const void* const anna_ = &things_[0];
   const void* const berta_ = &things_[1];
@@ -115,7 +115,7 @@ TEST_F(StandardNotificationCenter, CallsTheOthersWhenAHandlerThrows) {
   EXPECT_EQ(told(), "bc");
 }
 
-// What a handler holds may come back as it is destroyed, as a control that its handler owned does.
+// An object that a handler owns may call the center when it is destroyed, as a control does.
 struct RemovesItself {
   explicit RemovesItself(std::shared_ptr<platform::NotificationCenter> where)
       : center(std::move(where)) {}

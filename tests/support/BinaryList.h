@@ -7,10 +7,10 @@
 
 #include "Bytes.h"
 
-/// Makes binary property lists, sound ones and others.
+/// Builds binary property lists, valid and invalid ones.
 namespace orvanta::test {
 
-/// Puts the frame behind objects, which begin at `offsets` in `file`.
+/// Appends the offset table and the trailer to objects that begin at `offsets` in `file`.
 inline std::string closeBinaryList(std::string file, const std::vector<std::size_t>& offsets,
                                    std::size_t top, std::size_t offsetSize,
                                    std::size_t referenceSize) {
@@ -22,7 +22,7 @@ inline std::string closeBinaryList(std::string file, const std::vector<std::size
          bigEndian(offsets.size(), 8) + bigEndian(top, 8) + bigEndian(offsetsStart, 8);
 }
 
-/// A marker whose count stands in an integer of 2 to the power of `exponent` bytes.
+/// A marker with its count in an integer object of 2 to the power of `exponent` bytes.
 inline std::string longMarker(unsigned kind, std::uint64_t count, unsigned exponent) {
   return bigEndian((kind << 4) | 0xF, 1) + bigEndian(0x10 | exponent, 1) +
          bigEndian(count, std::size_t{1} << exponent);
@@ -44,7 +44,8 @@ inline std::string utf16Object(std::u16string_view text) {
   return bytes;
 }
 
-/// A list in the making. Its top object is a dictionary of the pairs added, unless replaced.
+/// Builder of a list. Its top object is a dictionary of the added pairs, unless `bytes` is given
+/// another.
 struct BinaryList {
   std::size_t referenceSize = 2;
   std::size_t offsetSize = 3;

@@ -9,7 +9,7 @@
 
 namespace orvanta::test {
 
-/// A number in so many bytes, the highest first. Of more than 8 bytes the first ones are 0.
+/// A big-endian number of `size` bytes, which may be more than 8.
 inline std::string bigEndian(std::uint64_t value, std::size_t size) {
   std::string bytes(size, '\0');
   for (std::size_t i = size; i-- > 0; value >>= 8) {
@@ -18,7 +18,7 @@ inline std::string bigEndian(std::uint64_t value, std::size_t size) {
   return bytes;
 }
 
-/// One way to write a text as bytes.
+/// An encoding of text, with or without byte-order mark.
 struct Encoding {
   const char* name;
   std::string_view mark;
@@ -43,7 +43,7 @@ inline constexpr Encoding kEncodings[] = {
     {"UTF-32, big, with a mark", "\0\0\xFE\xFF"sv, 4, true},
 };
 
-/// A text, given in UTF-8, without the mark.
+/// The text, given in UTF-8, in this encoding without its mark.
 inline std::string unitsOf(const Encoding& encoding, std::string_view text) {
   if (encoding.unit == 1) {
     return std::string(text);

@@ -12,11 +12,12 @@
 
 namespace orvanta::test {
 
-/// What becomes of one file operation.
+/// The fault to inject into one file operation, if any.
 struct Fault {
-  /// Not ok: the operation fails so. One without a status gives its absent or empty result.
+  /// When not ok, the operation fails with it; an operation without a status returns its absent or
+  /// empty result.
   Status failure;
-  /// A write passes on this many bytes before it fails.
+  /// How many bytes a write forwards before it fails.
   std::size_t bytesBeforeFailure = 0;
 
   static Fault none() { return {}; }
@@ -28,7 +29,7 @@ struct Fault {
 /// URL's text; for `rename` the new path.
 using FileHook = std::function<Fault(std::string_view operation, std::string_view path)>;
 
-/// A hook that files share which may outlive its setting.
+/// A hook shared by open files, which may outlive the file manager.
 class SharedHook {
  public:
   explicit SharedHook(FileHook hook) : hook_(std::make_shared<FileHook>(std::move(hook))) {}
@@ -58,7 +59,7 @@ class SharedHook {
   std::shared_ptr<FileHook> hook_;
 };
 
-/// Hands the operations of an open file or folder on to `target_`.
+/// Base of the wrappers that forward the operations of an open file or folder to `target_`.
 template <typename Target>
 class Forwarding : public Target {
  public:
@@ -93,7 +94,7 @@ class ForwardingWritableFile final : public Forwarding<platform::WritableFile> {
   Status sync() override {
     return hook_.orElse("sync", path_, [&] { return target_->sync(); });
   }
-  /// Closes also when it is told to fail, as the system does.
+  /// Closes the file also when the hook makes it fail, as the system does.
   Status close() override {
     const Fault fault = hook_.ask("close", path_);
     const Status closed = target_->close();
@@ -149,13 +150,13 @@ class ForwardingFolder final : public Forwarding<platform::Folder> {
   [[nodiscard]] String at(const String& name) const { return path_.str() + '/' + name.str(); }
 };
 
-/// A file manager that hands every operation on to another one, unless its hook says otherwise.
+/// A file manager that forwards every operation to another one, unless its hook makes it fail.
 class ForwardingFileManager final : public platform::FileManager {
  public:
   explicit ForwardingFileManager(std::shared_ptr<platform::FileManager> target, FileHook hook = {})
       : target_(std::move(target)), hook_(std::move(hook)) {}
 
-  /// Holds for files and folders that are open already, too.
+  /// Also affects files and folders that are already open.
   void setHook(FileHook hook) { hook_.set(std::move(hook)); }
 
   URL cachesDirectoryURL() override {

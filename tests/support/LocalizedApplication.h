@@ -9,8 +9,8 @@
 
 namespace orvanta::test {
 
-/// An application with the shared localizer. That is made once in a process and outlives every
-/// test in it, so each application has it start over.
+/// An application with the shared localizer. There is one in a process, so each application resets
+/// it.
 class LocalizedApplication : public TestApplication {
  public:
   explicit LocalizedApplication(const Languages& shipped,
@@ -27,13 +27,13 @@ class LocalizedApplication : public TestApplication {
     loop->runPending();
   }
 
-  /// Changes the language, and lets the main queue tell of it.
+  /// Changes the language and delivers the notification.
   void speak(const StringList& locales) const {
     Localizer::sharedLocalizer().changeOrvantaLanguageToPreferredLocales(locales);
     loop->runPending();
   }
 
-  /// Tells of a change of language, on the calling thread.
+  /// Posts the notification of a change of language on the calling thread.
   static void post() {
     platform::Platform::current().notifications->postNotification(
         {String::fromStatic(OVPreferredLocaleDidChangeNotification), nullptr, {}});

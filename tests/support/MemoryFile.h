@@ -8,7 +8,7 @@
 
 namespace orvanta::test {
 
-/// A file that keeps in memory what is written.
+/// A writable file in memory.
 class MemoryFile final : public strings::ByteSink {
  public:
   Status write(std::string_view written) override {
@@ -19,7 +19,7 @@ class MemoryFile final : public strings::ByteSink {
   std::string bytes;
 };
 
-/// What a strings file of this text holds; empty when the text cannot be written.
+/// The bytes of a strings file with this text; empty when the text cannot be written.
 inline std::string writtenAsUtf16(std::string_view utf8) {
   MemoryFile file;
   return strings::writeStringsFile(utf8, file).ok() ? file.bytes : "";

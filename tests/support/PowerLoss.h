@@ -16,7 +16,7 @@
 
 namespace orvanta::test {
 
-/// Takes from the disk what a loss of power would take: contents and names that were not synced.
+/// Simulates a loss of power: removes the contents and names that were not synced from the disk.
 /// Its `watch` must be called with every operation of a `ForwardingFileManager`.
 class PowerLoss {
  public:
@@ -55,7 +55,7 @@ class PowerLoss {
     }
   }
 
-  /// Nothing may be written any more when this is called.
+  /// Loses what was not synced. Call it after the last operation.
   void strike(const std::filesystem::path& root, Names names) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
       if (entry.is_regular_file() && unsyncedContents_.contains(inodeOf(entry.path()))) {

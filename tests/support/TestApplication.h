@@ -17,11 +17,11 @@ namespace orvanta::test {
 
 using Strings = std::map<std::string, std::string>;
 
-/// Languages to ship, under their names.
+/// The tables of shipped languages, by name.
 using Languages = std::map<std::string, Strings>;
 
-/// A folder that goes with the object. Its name holds a blank and a non-ASCII letter, so that
-/// every test shows that paths may.
+/// A temporary folder, removed with the object. Its name contains a blank and a non-ASCII letter,
+/// so that every test covers such paths.
 class ScratchFolder {
  public:
   ScratchFolder() {
@@ -59,7 +59,7 @@ inline void writeTable(const std::filesystem::path& folder, const Strings& strin
   writeFile(folder / "Localizable.strings", text);
 }
 
-/// An application with a bundle and caches of its own, on the standard platform, which it installs.
+/// An application with its own bundle and caches. Installs a standard platform for itself.
 class TestApplication {
  public:
   explicit TestApplication(const Languages& shipped = {},

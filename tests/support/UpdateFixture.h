@@ -20,7 +20,7 @@ inline StringsPayload tableOf(const Pairs& pairs) {
   return table;
 }
 
-/// One language's payload, whose table stands under the bundle and the namespace.
+/// The payload of one language, with its table under the bundle and the namespace.
 inline StringsPayload payloadWith(StringsPayload table, const String& space = "main",
                                   const String& bundle = "app") {
   auto data = StringsPayload::dictionary({{"zantorData", std::move(table)}});

@@ -5,7 +5,8 @@
 namespace orvanta {
 namespace {
 
-// Sizes below and above what is asked for in large pages, and no whole number of those.
+// Sizes below and above the threshold for huge pages, and sizes that are no multiple of a huge
+// page.
 TEST(Memory, OfAnySizeCanBeHadWrittenToAndResized) {
   constexpr std::size_t kMega = std::size_t{1} << 20;
   for (const std::size_t size : {std::size_t{0}, std::size_t{1}, kMega - 1, kMega, 2 * kMega + 100,

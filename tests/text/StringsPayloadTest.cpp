@@ -77,7 +77,7 @@ TEST(StringsPayload, ResolvesPaths) {
   }
 }
 
-// A stack would overflow at these depths.
+// Recursion would overflow the stack at these depths.
 TEST(StringsPayload, MayBeNestedWithoutLimit) {
   constexpr int kLevels = 200'000;
   // Where the nested value stands among its neighbours.

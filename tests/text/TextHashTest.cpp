@@ -33,7 +33,7 @@ TEST(TextHash, MultipliesAlikeWithAndWithout128Bits) {
 }
 #endif
 
-// Texts of each length that differ in one byte, wherever it stands, or in their length alone.
+// Texts of each length that differ in one byte, at each position, or only in their length.
 void expectNoCollision(std::size_t longest) {
   std::unordered_set<std::uint64_t> hashes;
   std::size_t texts = 0;
@@ -51,8 +51,8 @@ void expectNoCollision(std::size_t longest) {
   EXPECT_EQ(hashes.size(), texts);
 }
 
-// With the secrets drawn at first, and with others. Tables made before stay usable: the secrets of
-// the process are put back.
+// With the secrets of the process and with others. The secrets are restored, because existing
+// tables depend on them.
 TEST(TextHash, CollidesForNoSecrets) {
   expectNoCollision(200);
   std::uint64_t before[8];

@@ -1,4 +1,4 @@
-// Which expressions with texts compile, and what they give.
+// Compile-time properties of the text types, and the results of a few expressions.
 
 #include <concepts>
 #include <functional>
@@ -16,7 +16,7 @@
 namespace orvanta {
 namespace {
 
-// Constant expressions need neither code at start-up nor, for the `constexpr` ones, at exit.
+// Constant initialisation: no code runs at start-up or, for the `constexpr` ones, at exit.
 constexpr String kAbsent;
 constexpr String kLiteral = "text";
 constexpr String kView = std::string_view("text");
@@ -46,7 +46,8 @@ static_assert(compares<String>() && compares<std::string>() && compares<std::str
 static_assert(kLiteral == std::string_view("text") && std::string_view("u") > kLiteral);
 static_assert("text" == kLiteral && kAbsent < "" && kAbsent != std::string_view());
 
-// What would dangle does not compile on a temporary; `Object` is a value or a reference.
+// Operations whose result would dangle do not compile on a temporary. `Object` is a value or a
+// reference.
 template <typename Object>
 constexpr bool givesEntries = requires(Object object) {
   std::forward<Object>(object).entries();
@@ -77,13 +78,13 @@ static_assert(givesBegin<StringList&> && !givesBegin<StringList> && !givesBegin<
 static_assert(givesEntries<StringsPayload&> && !givesEntries<StringsPayload>);
 static_assert(leadsIn<StringsPayload&> && !leadsIn<StringsPayload>);
 
-// A temporary gives its parts as values.
+// On a temporary, parts are returned by value.
 static_assert(std::same_as<decltype(std::declval<StringList>()[0]), String>);
 static_assert(std::same_as<decltype(std::declval<StringList>().front()), String>);
 static_assert(std::same_as<decltype(std::declval<URL>().absoluteString()), String>);
 static_assert(std::same_as<decltype(std::declval<StringsPayload>().text()), String>);
 
-// Handles may move without a copy, and no text becomes a handle by way of a number or a flag.
+// Moves do not throw, and numbers and flags do not convert to texts.
 static_assert(std::is_nothrow_move_constructible_v<StringsPayload> &&
               std::is_nothrow_move_assignable_v<StringsPayload>);
 static_assert(!std::convertible_to<int, String> && !std::convertible_to<bool, String> &&

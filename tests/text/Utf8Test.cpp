@@ -12,7 +12,7 @@ bool isScalar(std::uint32_t value) {
   return value < 0xD800 || (value > 0xDFFF && value <= 0x10FFFF);
 }
 
-// Exactly one valid sequence of `text.size()` bytes, by the numbers alone.
+// The value of `text` if it is exactly one valid sequence. Independent of the library.
 std::optional<std::uint32_t> wholeSequence(std::string_view text) {
   constexpr std::uint32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
   const auto first = static_cast<unsigned char>(text[0]);
@@ -31,7 +31,7 @@ std::optional<std::uint32_t> wholeSequence(std::string_view text) {
   return value >= kSmallest[length] && isScalar(value) ? std::optional(value) : std::nullopt;
 }
 
-// Whether some valid sequence begins with `text`. These two bytes complete any that can be.
+// Whether some valid sequence begins with `text`. These two bytes suffice to complete any.
 bool beginsSequence(const std::string& text) {
   return text.size() <= 4 &&
          (wholeSequence(text) || beginsSequence(text + '\x80') || beginsSequence(text + '\xA0'));
@@ -47,7 +47,7 @@ Decoded expectedOf(const std::string& text) {
   return {value.value_or(kReplacement), length, value.has_value()};
 }
 
-// All first and second bytes, and for the further ones the edges of what may stand there.
+// All first and second bytes; for the third and fourth, the edges of the valid range.
 TEST(Utf8, DecodesEverySequenceAsTheStandardSays) {
   constexpr std::string_view kEdges = "z\x7F\x80\xBF\xC0";
   std::string text(4, '\0');

@@ -104,8 +104,8 @@ TEST(TextEncoding, ReportsWhatIsNoCharacter) {
   });
 }
 
-// Every way of packing units is hit at every distance from a block's edges, and every piece of
-// room stops somewhere else.
+// Random texts reach every path of the block conversion at every distance from a block's edges, and
+// random sizes of the output stop it everywhere.
 TEST(TextEncoding, TranscodesLikeOneCharacterAtATime) {
   std::mt19937 random(7);
   const std::u32string_view characters[] = {U"ab\"=;\n", U"\u00E9\u0440\u07FF\u0080",
@@ -169,8 +169,8 @@ TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
   EXPECT_LT(valid, 18000);
 }
 
-// The window through which UTF-16 is read must not show: statements and comments longer than it,
-// and statements across its edges.
+// UTF-16 is read through a window. Statements and comments that are longer than the window, or
+// cross its edges, must be read as in UTF-8.
 TEST(TextEncoding, ReadsLongTextsAlike) {
   std::string text;
   for (int index = 0; index < 3000; ++index) {

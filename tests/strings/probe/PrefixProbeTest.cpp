@@ -23,7 +23,7 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 using Entries = std::vector<std::pair<std::string, std::string>>;
 
-// A file in memory, which gives no more than `most` bytes at a time.
+// A file in memory; a read returns at most `most` bytes.
 class MemoryFile final : public ByteSource {
  public:
   MemoryFile(std::string_view bytes, std::size_t most) : bytes_(bytes), most_(most) {}
@@ -105,7 +105,7 @@ const Row kSpellings[] = {
      false},
 };
 
-// What surrounds the entry, "K", in a table with another such entry before it.
+// Contexts of an entry, "K", in a table that has another such entry before it.
 const Row kSurroundings[] = {
     {"comments with quotes", "/* \"a */ \"x\" = \"y\"; // it's \"b\n/* \\\" */ K // c \"\n"},
     {"tight", "\"x\"=\"y\";K\"z\"=\"w\";"},
@@ -202,8 +202,8 @@ TEST(PrefixProbe, NeverPassesOverAnEscapeThatSpells) {
   }
 }
 
-// Within a piece, where two pieces meet, and where the blocks do that are searched at a time; the
-// file before it wants all of the file read, or its head alone.
+// At all offsets around the boundaries of pieces and of the blocks that are searched together;
+// after a file that needed a full read, and after one that needed only its head.
 TEST(PrefixProbe, MissesNothingWhereverItStands) {
   for (const Encoding& encoding : {kEncodings[0], kEncodings[5]}) {
     const std::string filler = test::unitsOf(encoding, "/* */\n\"x\" = \"\u5C0F \\\" \\n\";\n\n");
@@ -246,8 +246,8 @@ TEST(PrefixProbe, TakesThePrefixThatTheKeysShare) {
   }
 }
 
-// Tables in all forms, some of whose keys begin with the prefix, in one spelling or another or
-// nearly so; then damaged here and there.
+// Random tables in all forms. Some of their keys begin with the prefix, in some spelling, or almost
+// with the prefix. Some of the tables are damaged.
 class TableMaker {
  public:
   explicit TableMaker(std::string prefix) : prefix_(std::move(prefix)) {}
@@ -313,7 +313,7 @@ class TableMaker {
           isShared ? below(list.objects.size()) : list.object(textObject(key()));
       list.pair(keyObject, list.object(below(6) == 0 ? "\x09" : textObject(key())));
     }
-    // One long text that many keys share may take more than the reader grants.
+    // A long text that many keys share may exceed the memory that the reader allows.
     if (below(20) == 0) {
       const std::uint64_t shared = list.object(test::asciiObject(std::string(3000, 'l')));
       for (std::size_t count = below(100); count > 0; --count) {
@@ -335,7 +335,7 @@ class TableMaker {
   std::mt19937 random_{20240607};  // NOLINT(cert-msc51-cpp): a run must be repeatable.
 };
 
-// ORVANTA_PROBE_TABLES sets how many; each prefix gets as many.
+// ORVANTA_PROBE_TABLES sets the number of tables for each prefix.
 TEST(PrefixProbe, AgreesWithAFullReadOnDamagedTables) {
   const char* const wanted = std::getenv("ORVANTA_PROBE_TABLES");
   const int tables = wanted == nullptr ? 4000 : std::atoi(wanted);

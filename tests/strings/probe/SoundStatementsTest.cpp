@@ -48,7 +48,7 @@ void check(const Row& row, const test::Encoding& encoding, std::size_t shift) {
   EXPECT_EQ(statements.isAtEnd(), row.reachesEnd);
 }
 
-// Quotes are found in blocks of 64 units: every row begins everywhere in a block.
+// Quotes are found in blocks of 64 units, so each row is tested at every offset in a block.
 TEST(SoundStatements, PassesOverTheUsualOnes) {
   for (const Row& row : kRows) {
     for (std::size_t shift = 0; shift < 66; ++shift) {
@@ -60,7 +60,7 @@ TEST(SoundStatements, PassesOverTheUsualOnes) {
 }
 
 TEST(SoundStatements, TakesNoTornUnitForTheEnd) {
-  // On the heap: GCC 12 sees reads beyond the end of a literal that are never reached.
+  // On the heap: for a literal, GCC 12 warns of reads past its end that never happen.
   const std::string bytes = test::unitsOf(test::kUtf16Little, std::string(20, '\n')) + '\n';
   SoundStatements<TextUnits<TextEncoding::kUtf16Little>> statements{
       TextUnits<TextEncoding::kUtf16Little>(bytes)};

@@ -7,7 +7,7 @@
 namespace orvanta::strings {
 namespace {
 
-// So many bytes that a reader whose time grows with their square would take far longer.
+// Large enough that quadratic time would exceed the limit by far.
 constexpr std::size_t kSize = 500'000;
 constexpr double kMostSeconds = 8;
 
@@ -81,7 +81,7 @@ const Row kRows[] = {
     {"XML: ampersands", kXml + "<key>a</key><string>", "&", ""},
 };
 
-// A good statement, the head, the unit again and again, and the tail.
+// Each text is a good statement, the head, the repeated unit, and the tail.
 TEST(HostileTable, TakesLinearTimeWhateverComes) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.name);
@@ -90,7 +90,7 @@ TEST(HostileTable, TakesLinearTimeWhateverComes) {
   }
 }
 
-// Decoding the long text for every pair that is lost would take minutes.
+// Decoding the long text for every lost pair would take minutes.
 TEST(HostileTable, TakesLinearTimeWhereNoPairOfABinaryListIsSound) {
   test::BinaryList list{3, 4};
   list.pair(test::asciiObject("good"), test::asciiObject("G"));

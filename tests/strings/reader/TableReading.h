@@ -13,7 +13,7 @@
 
 namespace orvanta::strings {
 
-/// What came of reading a file, as texts for a row to hold.
+/// The result of reading a file, as texts that a row can be compared with.
 struct TableReading {
   std::shared_ptr<const StringTable> table;
   std::string pairs;         ///< "key=value", by key, with "|" between them; or `kNoTable`.

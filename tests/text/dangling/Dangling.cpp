@@ -1,5 +1,5 @@
-// Compiled with `clang++ -fsyntax-only -Xclang -verify -Wdangling`, which fails unless exactly the
-// warnings come that are expected here.
+// Compiled with `clang++ -fsyntax-only -Xclang -verify -Wdangling`, which fails unless clang gives
+// exactly the warnings that are expected here.
 
 #include <string>
 #include <string_view>
