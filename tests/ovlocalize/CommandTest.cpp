@@ -1,3 +1,5 @@
+#include <regex>
+
 #include "Command.h"
 
 namespace ovlocalize {
@@ -99,6 +101,40 @@ TEST_F(Command, ExplainsTexts) {
     run(std::string("$OV --device en explain ") + row.arguments);
     EXPECT_THAT(out_, HasSubstr(row.lines)) << row.arguments << err_;
   }
+}
+
+TEST_F(Command, MakesPseudoLanguages) {
+  const struct {
+    const char* source;
+    const char* accented;
+    const char* turned;
+  } rows[] = {
+      {"%1$@ of 50%% ok", "[%1$@ ööƒ 50%% öööķ~]", "%1$@ <of> 50%% <ok>"},
+      {"{n, plural, one {# it''s} other {'{x}' {name}}} €5",
+       "[{n, plural, one {# îîţ''š} other {'{ẋ}' {name}}} €5~~~~]",
+       "{n, plural, one {# <it>''<s>} other {'{<x>}' {name}}} €5"},
+      {"{no message} <b>a</b> &amp; 1 < 2", "[{ñöö ɱééššåååĝé} <b>ååå</b> &amp; 1 < 2~~]",
+       "{<no> <message>} <b><a></b> &amp; 1 < 2"},
+      {R"(say \"no\"\n\\ \U0007)", R"([šååý \"ñööö\"\n\\ \U0007~~])",
+       R"(<say> \"<no>\"\n\\ \U0007)"},
+      {"a@b.example", "a@b.example", "a@b.example"},
+  };
+  for (const auto& row : rows) {
+    fs::remove_all(folder_ / "OrvantaLocalizations");
+    write("b/en.lproj/Localizable.strings", std::string("\"\\\"k\" = \"") + row.source + "\";");
+    std::string turned = std::regex_replace(row.turned, std::regex("<([a-z]{2,}|[sxa])>"),
+                                            "\u200F\u202E$1\u202C\u200F");
+    for (const auto& [to, text] : {std::pair{"en-XA", row.accented}, {"ar-XB", turned.c_str()}}) {
+      const std::string ov = "${OV%% *} --bundle b --cache $PWD ";
+      run(ov + "pseudo --to " + to + " && " + ov + "check && " + ov + "dump --language " + to);
+      EXPECT_THAT(out_, testing::EndsWith(std::string("\n\"\\\"k\" = \"") + text + "\"\n"))
+          << row.source;
+      EXPECT_EQ(status_, 0) << out_ << err_;
+    }
+  }
+  run("$OV pseudo --to ar-XB && $OV pseudo --to en-XA && $OV check && $OV languages");
+  EXPECT_THAT(out_, testing::ContainsRegex("\nen-XA +cache +38 +100 % +0 +0\n"));
+  EXPECT_THAT(out_, testing::ContainsRegex("\nen-XA\tdownloaded\t.*\tversion 1.0.0\n"));
 }
 
 TEST_F(Command, ForgesNoLineAndSendsNoEscapeToATerminal) {

@@ -3,7 +3,7 @@
 usage: documented.py PAGE OVLOCALIZE FOLDER...
 
 The commands run one after the other in one new folder, which holds a copy of each FOLDER. A line
-"..." of the page stands for any lines.
+"..." of the page stands for any lines, "..." in a line for anything.
 """
 
 import os
@@ -29,7 +29,9 @@ def main():
             line, _, shown = step.partition("\n")
             ran = subprocess.run(["bash", "-c", line], cwd=work, env={**os.environ, "PATH": path},
                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
-            pattern = re.escape(shown).replace(re.escape("...\n"), r"(?:.*\n)*?")
+            pattern = "".join(r"(?:.*\n)*?" if text == "...\n" else
+                              re.escape(text).replace(re.escape("..."), ".*")
+                              for text in shown.splitlines(keepends=True))
             if not re.fullmatch(pattern, ran.stdout):
                 sys.exit(f"{page}: `{line}` prints\n{ran.stdout}instead of\n{shown}")
 

@@ -12,6 +12,7 @@ void addLookup(CommandLine& commands);
 void addExplain(CommandLine& commands);
 void addDump(CommandLine& commands);
 void addUpdate(CommandLine& commands);
+void addPseudo(CommandLine& commands);
 void addClear(CommandLine& commands);
 void addCheck(CommandLine& commands);
 void addKeys(CommandLine& commands);

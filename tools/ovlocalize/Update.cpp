@@ -1,20 +1,14 @@
-#include <iostream>
 #include <memory>
-
-#include <orvanta/cache/OVStringCache.h>
 
 #include "CommandLine.h"
 #include "Commands.h"
-#include "Escaping.h"
 #include "FileContents.h"
-#include "Json.h"
 #include "JsonPayload.h"
+#include "UpdateReport.h"
 
 namespace ovlocalize {
 
 namespace {
-
-using orvanta::StringsUpdate;
 
 /// Where the tables are in a service's answer, and the file that holds the answer ("-": standard
 /// input).
@@ -24,56 +18,10 @@ struct Download {
   std::string file;
 };
 
-std::string_view wordFor(StringsUpdate::Result result) {
-  switch (result) {
-    case StringsUpdate::Result::written:
-      return "written";
-    case StringsUpdate::Result::skipped:
-      return "skipped";
-    case StringsUpdate::Result::failed:
-      break;
-  }
-  return "failed";
-}
-
-Json toJson(const StringsUpdate& update) {
-  return {{"language", ovlocalize::toJson(update.language)},
-          {"result", wordFor(update.result)},
-          {"file", ovlocalize::toJson(update.file.path())},
-          {"reason", ovlocalize::toJson(update.reason)}};
-}
-
-void printLine(const StringsUpdate& update) {
-  std::cout << oneLine(update.language) << '\t' << wordFor(update.result) << '\t'
-            << oneLine(update.reason.isPresent() ? update.reason : update.file.path()) << '\n';
-}
-
-// Fails when a language's table could not be written.
 int update(const Settings& settings, const Download& download) {
-  Settings quiet = settings;
-  // The report below says all that the log would, and more.
-  quiet.logSink = [](std::string_view) {};
-  installPlatform(quiet);
   const orvanta::StringsPayload strings =
       payloadFromJson(contentsOf(download.file), nameOf(download.file));
-  Json array = Json::array();
-  bool failed = false;
-  const auto report = [&](const StringsUpdate& update) {
-    failed |= update.result == StringsUpdate::Result::failed;
-    if (settings.json) {
-      array.push_back(toJson(update));
-    } else {
-      printLine(update);
-    }
-  };
-  orvanta::OVStringCache().updateStrings(strings, download.namespaceName, download.bundleName,
-                                         report);
-  if (settings.json) {
-    std::cout << printed(array) << '\n';
-  }
-  if (failed) {
-    throw Failure("not every table could be written");
-  }
+  updateAndReport(settings, strings, download.namespaceName, download.bundleName);
   return 0;
 }
 

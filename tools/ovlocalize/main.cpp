@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     ovlocalize::addExplain(commands);
     ovlocalize::addDump(commands);
     ovlocalize::addUpdate(commands);
+    ovlocalize::addPseudo(commands);
     ovlocalize::addClear(commands);
     ovlocalize::addCheck(commands);
     ovlocalize::addKeys(commands);

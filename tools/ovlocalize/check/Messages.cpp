@@ -6,6 +6,7 @@
 
 #include "../Escaping.h"
 #include "../MessageShape.h"
+#include "../pseudo/PseudoText.h"
 #include "Rules.h"
 
 namespace ovlocalize {
@@ -56,7 +57,9 @@ void checkPlurals(LanguageFile& file, std::string_view key, const MessageShape& 
     const std::string choice =
         plural.type == orvanta::PluralType::cardinal ? "the plural of " : "the ordinal of ";
     const std::string name = choice + std::string(plural.argument);
-    for (const Lack& lack : lacksOf(file.language, plural)) {
+    // A pseudo-language has the branches of the language that it was made from.
+    const bool isPseudo = isPseudoLanguage(file.language);
+    for (const Lack& lack : isPseudo ? std::vector<Lack>() : lacksOf(file.language, plural)) {
       file.add(lack.number < kMillion ? rules::kPlural : rules::kRarePlural, key,
                name + " lacks the branch " + std::string(lack.keyword) + ", which " +
                    std::to_string(lack.number) + " takes");

@@ -3,6 +3,7 @@
 #include <orvanta/locale/LanguagePart.h>
 #include <orvanta/messages/Placeholders.h>
 
+#include "../Addresses.h"
 #include "../Escaping.h"
 #include "../Tables.h"
 #include "Rules.h"
@@ -14,12 +15,6 @@ namespace {
 bool isLetter(char byte) {
   return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
          static_cast<unsigned char>(byte) >= 0x80;
-}
-
-// "name@example.com", "https://example.com": the same in every language.
-bool isAddress(std::string_view text) {
-  return text.find(' ') == std::string_view::npos &&
-         (text.find('@') != std::string_view::npos || text.find("://") != std::string_view::npos);
 }
 
 // Whether there is anything to translate beside the placeholders.
