@@ -94,7 +94,7 @@ fingerprint() {
   find "$@" -type f -print0 | sort -z | xargs -0 sha256sum | sha256sum
 }
 
-core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev fonts-noto-core
+core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev libgettextpo-dev fonts-noto-core
   python3-minimal python3-fonttools)
 # ICU is the reference for directions of languages, plural rules and messages.
 test_packages=(libgtest-dev libgmock-dev clang clang-format libclang-rt-14-dev libicu-dev pkgconf doxygen)

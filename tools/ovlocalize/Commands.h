@@ -16,5 +16,7 @@ void addPseudo(CommandLine& commands);
 void addClear(CommandLine& commands);
 void addCheck(CommandLine& commands);
 void addKeys(CommandLine& commands);
+void addExport(CommandLine& commands);
+void addImport(CommandLine& commands);
 
 }  // namespace ovlocalize

@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
     ovlocalize::addClear(commands);
     ovlocalize::addCheck(commands);
     ovlocalize::addKeys(commands);
+    ovlocalize::addExport(commands);
+    ovlocalize::addImport(commands);
     return commands.run(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "ovlocalize: " << ovlocalize::escaped(error.what()) << '\n';

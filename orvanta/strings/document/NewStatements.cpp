@@ -44,6 +44,14 @@ bool isPlain(std::string_view key) noexcept {
          std::all_of(key.begin(), key.end(), [](char c) { return isKind(c, kPlain) && c != '/'; });
 }
 
+std::string withLineEnds(std::string_view comment, std::string_view lineEnd) {
+  std::string lines;
+  for (const char c : comment) {
+    lines += c == '\n' ? lineEnd : std::string_view(&c, 1);
+  }
+  return lines;
+}
+
 std::string asToken(std::string_view text) {
   return '"' + asQuoted(text, '"') + '"';
 }
@@ -83,14 +91,15 @@ std::string asXmlData(std::string_view text) {
 std::string newStatement(const StatementStyle& style, std::string_view key, std::string_view value,
                          std::string_view comment) {
   const std::string begin = std::string(style.lineEnd) + style.indentation;
+  const std::string ownComment = withLineEnds(comment, style.lineEnd);
   std::string lines = style.indentation;
   if (style.isXml) {
-    lines += comment.empty() ? "" : asXmlComment(comment) + begin;
+    lines += comment.empty() ? "" : asXmlComment(ownComment) + begin;
     lines +=
         "<key>" + asXmlData(key) + "</key>" + begin + "<string>" + asXmlData(value) + "</string>";
   } else {
     // A blank line separates it from what stands before.
-    lines = comment.empty() ? lines : begin + asComment(comment) + begin;
+    lines = comment.empty() ? lines : begin + asComment(ownComment) + begin;
     lines += (style.hasPlainKeys && isPlain(key) ? std::string(key) : asToken(key)) + " = " +
              asToken(value) + ';';
   }

@@ -2,7 +2,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include <orvanta/strings/document/ByteOffsets.h>
 #include <orvanta/strings/document/DocumentReader.h>
 #include <orvanta/strings/document/EncodeText.h>
 #include <orvanta/strings/document/NewStatements.h>
@@ -11,14 +10,12 @@
 
 namespace orvanta::strings {
 
-struct StringsDocument::Contents : DocumentContents {};
-
-StringsDocument::StringsDocument(std::shared_ptr<const Contents> contents) noexcept
+StringsDocument::StringsDocument(std::shared_ptr<const DocumentContents> contents) noexcept
     : contents_(std::move(contents)) {}
 
 std::optional<StringsDocument> StringsDocument::read(std::string bytes,
                                                      const ProblemCollector& problems) {
-  auto contents = std::make_shared<Contents>();
+  auto contents = std::make_shared<DocumentContents>();
   contents->bytes = std::move(bytes);
   if (!readDocument(*contents, problems)) {
     return std::nullopt;
@@ -33,7 +30,7 @@ const std::vector<DocumentEntry>& StringsDocument::entries() const noexcept {
 /// Puts texts into a file.
 class StringsDocument::Rewriting {
  public:
-  Rewriting(const Contents& contents, const std::vector<DocumentEntry>& texts)
+  Rewriting(const DocumentContents& contents, const std::vector<DocumentEntry>& texts)
       : contents_(contents), entries_(contents.entries) {
     std::unordered_map<std::string_view, std::size_t, TextHash> places;
     for (std::size_t index = 0; index < entries_.size(); ++index) {
@@ -111,7 +108,7 @@ class StringsDocument::Rewriting {
     appendEncoded(bytes, statements, contents_.encoding);
   }
 
-  const Contents& contents_;
+  const DocumentContents& contents_;
   std::vector<DocumentEntry> entries_;  // Those of the file first.
 };
 

@@ -23,6 +23,8 @@ struct DocumentEntry {
   std::string comment;
 };
 
+struct DocumentContents;
+
 /// A strings file with what a table drops: the order of its statements, their comments, and the
 /// form. Texts can be replaced in it, and every other byte stays as it is.
 ///
@@ -52,12 +54,12 @@ class ORVANTA_EXPORT StringsDocument {
   [[nodiscard]] std::optional<std::string> withTexts(const std::vector<DocumentEntry>& texts) const;
 
  private:
-  struct Contents;
   class Rewriting;
 
-  ORVANTA_HIDDEN explicit StringsDocument(std::shared_ptr<const Contents> contents) noexcept;
+  ORVANTA_HIDDEN explicit StringsDocument(
+      std::shared_ptr<const DocumentContents> contents) noexcept;
 
-  std::shared_ptr<const Contents> contents_;
+  std::shared_ptr<const DocumentContents> contents_;
 };
 
 }  // namespace orvanta::strings
