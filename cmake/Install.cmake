@@ -32,7 +32,15 @@ if(TARGET orvanta_resources)
   install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)
 endif()
 if(TARGET ovlocalize)
-  install(TARGETS ovlocalize COMPONENT Command)
+  if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    # Finds the library beside it in a tree that may be moved.
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
+               BASE_DIRECTORY ${CMAKE_INSTALL_FULL_BINDIR} OUTPUT_VARIABLE lib_from_bin)
+    set_target_properties(ovlocalize PROPERTIES INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
+  endif()
+  install(TARGETS ovlocalize EXPORT OrvantaLocalizerCommand COMPONENT Command)
+  install(EXPORT OrvantaLocalizerCommand NAMESPACE OrvantaLocalizer::
+    DESTINATION ${package_dir} COMPONENT Command)
 endif()
 
 configure_package_config_file(
@@ -42,6 +50,7 @@ configure_package_config_file(
 write_basic_package_version_file(
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
+  ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerKeys.cmake
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfig.cmake
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT Development)

@@ -2,7 +2,7 @@
 # from elsewhere, because an installed tree must be relocatable.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
-foreach(component IN ITEMS Core Development Qt QtDevelopment Quick QuickDevelopment)
+foreach(component IN ITEMS Core Command Development Qt QtDevelopment Quick QuickDevelopment)
   must_run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component ${component}
            --prefix ${WORK_DIR}/first)
 endforeach()

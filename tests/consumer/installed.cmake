@@ -6,6 +6,7 @@ configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/core ${find_options}
                     -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON)
 must_answer(${WORK_DIR}/core/consumer "${core_answer}")
 must_answer(${WORK_DIR}/core/consumer_plain "${core_answer}")
+must_answer(${WORK_DIR}/core/consumer_keys "${keys_answer}")
 if(WITH_QT)
   configure_and_build(${CMAKE_CURRENT_LIST_DIR} ${WORK_DIR}/qt ${find_options}
                       -DCOMPONENT=${component})

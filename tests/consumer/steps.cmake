@@ -12,7 +12,7 @@ endfunction()
 # configure_and_build(SOURCE BUILD OPTION...)
 function(configure_and_build source build)
   must_run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR} --fresh
-           -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_BUILD_TYPE=Debug ${ARGN})
+           -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_BUILD_TYPE=Debug -DBUNDLE=${BUNDLE} ${ARGN})
   must_run(${CMAKE_COMMAND} --build ${build})
 endfunction()
 
@@ -30,6 +30,7 @@ if(WITH_FONTS)
 else()
   set(core_answer "1 Connexion Connexion no font")
 endif()
+set(keys_answer "Anmelden, 2 Artikel bestellt")
 set(qt_answer "Connexion")
 
 # The component that is furthest from the core.
@@ -43,6 +44,7 @@ endif()
 # applications_must_answer(FOLDER) runs those that were built there for the component.
 function(applications_must_answer folder)
   must_answer(${folder}/consumer "${core_answer}")
+  must_answer(${folder}/consumer_keys "${keys_answer}")
   if(WITH_QT)
     must_answer(${folder}/consumer_qt "${qt_answer}")
   endif()

@@ -18,5 +18,6 @@ void addCheck(CommandLine& commands);
 void addKeys(CommandLine& commands);
 void addExport(CommandLine& commands);
 void addImport(CommandLine& commands);
+void addHeader(CommandLine& commands);
 
 }  // namespace ovlocalize

@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
     ovlocalize::addKeys(commands);
     ovlocalize::addExport(commands);
     ovlocalize::addImport(commands);
+    ovlocalize::addHeader(commands);
     return commands.run(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "ovlocalize: " << ovlocalize::escaped(error.what()) << '\n';
