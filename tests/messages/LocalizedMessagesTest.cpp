@@ -103,6 +103,7 @@ TEST(LocalizedMessages, AreAbsentWithoutAnyBundle) {
   EXPECT_TRUE(texts(localizer).localizedStringForKey("key").isAbsent());
   EXPECT_TRUE(texts(localizer).localizedMessageForKey("key", {}).isAbsent());
   EXPECT_TRUE(TextSnapshot().localizedStringForKey("key").isAbsent());
+  EXPECT_TRUE(TextSnapshot().localizedMessageForKey("key", {}).isAbsent());
   EXPECT_TRUE(localizer.explain("key").text.isAbsent());
 }
 
