@@ -42,6 +42,9 @@ if(TARGET ovlocalize)
   install(EXPORT OrvantaLocalizerCommand NAMESPACE OrvantaLocalizer::
     DESTINATION ${package_dir} COMPONENT Command)
 endif()
+if(TARGET ovaudit)
+  install(TARGETS ovaudit COMPONENT QtDevelopment)
+endif()
 
 configure_package_config_file(
   ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerConfig.cmake.in

@@ -1,0 +1,48 @@
+"""Audits a form with faults of each kind, and one without.
+
+usage: audit.py OVAUDIT FOLDER
+"""
+
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+audit, folder = map(pathlib.Path, sys.argv[1:])
+bundle = folder / "bundle"
+FAULTS = """ar cut outsideLabel, ar side leftLabel, de cut button, de cut cutLabel, de cut field,
+de cut firstLabel, de cut outsideLabel, de cut wrappedLabel, de glyph glyphLabel,
+de glyph tipField, de overlap firstLabel""".replace("\n", " ").split(", ")
+
+
+def run(*arguments):
+    command = [audit, "--json", "--font", "DejaVu Sans,11", *map(str, arguments)]
+    ran = subprocess.run(command, capture_output=True, text=True)
+    found = json.loads(ran.stdout)["findings"] if ran.stdout else ran.stderr
+    return ran.returncode, sorted(f"{f['language']} {f['rule']} {f['widget']}" for f in found) \
+        if ran.stdout else found
+
+
+def expect(row, result, status, found):
+    if result != (status, found):
+        sys.exit(f"{row}: {result} instead of {(status, found)}")
+
+
+with tempfile.TemporaryDirectory() as pictures:
+    faults = folder / "faults.ui"
+    expect("faults", run("--pictures", pictures, faults, bundle), 1, FAULTS)
+    if sorted(path.stem for path in pathlib.Path(pictures).iterdir()) != ["ar", "de", "en"]:
+        sys.exit("a picture is missing")
+expect("sound", run(folder / "sound.ui", bundle), 0, [])
+expect("only", run("--only", "ar", "--ignore", "cut:outsideLabel", faults, bundle), 1, FAULTS[1:2])
+expect("ignored", run("--ignore", "cut,glyph", "--ignore", "leftLabel,overlap", faults, bundle), 0, [])
+for row, arguments, message in (
+    ("no form", (bundle, bundle), "is no form, or cannot be read"),
+    ("no bundle", (faults, "no"), "no such bundle folder: no"),
+    ("no language", ("--only", "fr", faults, bundle), "no table for the language fr"),
+    ("no languages", (faults, folder), "no languages in the folder"),
+):
+    status, error = run(*arguments)
+    if status != 1 or message not in error or error.count("\n") != 1:
+        sys.exit(f"{row}: {status} {error}")
