@@ -29,7 +29,7 @@ std::string transcoded(EncodedText text, std::size_t room) {
   return out;
 }
 
-TEST(TextEncoding, IsToldWithAndWithoutAMark) {
+TEST(TextEncoding, IsDetectedWithAndWithoutAMark) {
   const TableRow rows[] = {
       {"statement", "\"k\" = \"\u00E9\u05E9\U0001F600\";\n", "k=\u00E9\u05E9\U0001F600"},
       {"low bytes of zero", "\"\u4E00\u0100\" = \"\u4E00\u4E00\";", "\u4E00\u0100=\u4E00\u4E00"},

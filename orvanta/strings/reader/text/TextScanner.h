@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include <orvanta/strings/reader/text/RememberedSearch.h>
+#include <orvanta/strings/reader/text/MemoizedSearch.h>
 #include <orvanta/strings/reader/text/TextCharacters.h>
 #include <orvanta/strings/reader/text/TextToken.h>
 
@@ -82,10 +82,10 @@ class TextScanner {
 
   const char* begin_;
   const char* end_;
-  RememberedSearch<findStar, 1> stars_;
-  RememberedSearch<findCommentEnd, 2> commentEnds_;
-  RememberedSearch<findLineEnd, 3> lineEnds_;
-  RememberedSearch<findBackslash, 1> backslashes_;
+  MemoizedSearch<findStar, 1> stars_;
+  MemoizedSearch<findCommentEnd, 2> commentEnds_;
+  MemoizedSearch<findLineEnd, 3> lineEnds_;
+  MemoizedSearch<findBackslash, 1> backslashes_;
 };
 
 }  // namespace orvanta::strings

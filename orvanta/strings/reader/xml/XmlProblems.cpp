@@ -9,7 +9,7 @@ XmlProblems::XmlProblems(const WholeUtf8& text, const ProblemCollector& collecto
   inOrder_.addDamage(text);
 }
 
-void XmlProblems::handOver() {
+void XmlProblems::flush() {
   std::stable_sort(problems_.begin(), problems_.end(),
                    [](const Problem& a, const Problem& b) { return a.offset < b.offset; });
   for (const Problem& problem : problems_) {
@@ -19,7 +19,7 @@ void XmlProblems::handOver() {
 }
 
 void XmlProblems::finish() {
-  handOver();
+  flush();
   inOrder_.finish();
 }
 

@@ -21,7 +21,7 @@ class XmlProblems {
   }
 
   /// Reports what was added so far, in order. Problems added later must stand behind it.
-  void handOver();
+  void flush();
 
   /// Reports the rest.
   void finish();

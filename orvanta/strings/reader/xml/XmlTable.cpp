@@ -164,13 +164,13 @@ class XmlTableReader {
     }
     if (token.text == kKey) {
       dropKey();
-      problems_.handOver();
+      problems_.flush();
       keyAt_ = token.offset;
       held_ = readText(token, key_) ? Key::kHeld : Key::kLost;
       return true;
     }
     const Key owner = std::exchange(held_, Key::kNone);
-    problems_.handOver();
+    problems_.flush();
     if (owner == Key::kNone) {
       problems_.add(token.offset, "a value without a key");
     }

@@ -11,9 +11,9 @@ namespace orvanta::strings {
 ///
 /// `Find` returns the first match in [from, to), or null; a match is at most `kLength` bytes long.
 template <const char* (*Find)(const char* from, const char* to) noexcept, std::ptrdiff_t kLength>
-class RememberedSearch {
+class MemoizedSearch {
  public:
-  RememberedSearch(const char* begin, const char* end) noexcept
+  MemoizedSearch(const char* begin, const char* end) noexcept
       : end_(end), searchedFrom_(begin), found_(search(begin, end)) {}
 
   /// The first match from `from` on; the end of the text when there is none.
