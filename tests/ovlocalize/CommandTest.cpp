@@ -17,7 +17,7 @@ TEST_F(Command, RefusesInOneLine) {
     const char* message;
   } rows[] = {
       {"nothing", "$OV", 2, "A subcommand is required"},
-      {"unknown command", "$OV no", 2, "A subcommand is required"},
+      {"unknown command", "$OV no", 2, "there is no command no"},
       {"unknown option", "$OV languages --no", 2, "not expected: --no"},
       {"too many arguments", "$OV clear a", 2, "not expected: a"},
       {"option without value", "$OV match --country", 2, "--country"},
@@ -46,6 +46,29 @@ TEST_F(Command, RefusesInOneLine) {
     EXPECT_THAT(err_, HasSubstr(row.message));
     EXPECT_EQ(err_.find('\n'), err_.size() - 1) << err_;
   }
+}
+
+TEST_F(Command, WritesItsPagesAndItsVersion) {
+  write("d/complete", R"(source ovlocalize.bash
+complete() { COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _ovlocalize; echo "${COMPREPLY[@]}"; }
+complete ovlocalize ch
+complete ovlocalize --json check --l
+complete ovlocalize check --level ''
+complete ovlocalize --bundle ''
+complete ovlocalize dump d/)");
+  run("$OV generate . && bash d/complete");
+  EXPECT_EQ(out_, "check\n--level\nerror warning\nd\nd/complete\n") << err_;
+  const std::string page = contents("ovlocalize.1");
+  EXPECT_THAT(page, HasSubstr(".SS check\n"));
+  EXPECT_THAT(page, HasSubstr("\\fB\\-\\-level\\fR \\fIerror|warning\\fR\n"));
+  EXPECT_THAT(page, testing::Not(HasSubstr("generate")));
+  run("$OV --version && $OV languages | head -n 2 && $OV --color always languages | head -n 1");
+  EXPECT_THAT(out_, testing::StartsWith("ovlocalize 1."));
+  EXPECT_THAT(out_, HasSubstr("\nLANGUAGE  FROM     VERSION"));
+  EXPECT_THAT(out_, HasSubstr("\n\x1B[1mLANGUAGE"));
+  run("script -qec \"stty cols 40; $OV languages; NO_COLOR=1 $OV languages\" /dev/null");
+  EXPECT_THAT(out_, testing::MatchesRegex("\x1B\\[1mLANGUAGE .*\nLANGUAGE .*"));
+  EXPECT_THAT(out_, HasSubstr("…"));
 }
 
 TEST_F(Command, UpdatesOnlyWhatHasTexts) {
@@ -134,7 +157,7 @@ TEST_F(Command, MakesPseudoLanguages) {
   }
   run("$OV pseudo --to ar-XB && $OV pseudo --to en-XA && $OV check && $OV languages");
   EXPECT_THAT(out_, testing::ContainsRegex("\nen-XA +cache +38 +100 % +0 +0\n"));
-  EXPECT_THAT(out_, testing::ContainsRegex("\nen-XA\tdownloaded\t.*\tversion 1.0.0\n"));
+  EXPECT_THAT(out_, testing::ContainsRegex("\nen-XA +downloaded +1.0.0 +- "));
 }
 
 TEST_F(Command, ForgesNoLineAndSendsNoEscapeToATerminal) {

@@ -1,7 +1,16 @@
 #include "CommandLine.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <sstream>
+#include <string_view>
 #include <utility>
+
+#include <unistd.h>
+
+#include <orvanta/locale/Version.h>
 
 #include "Escaping.h"
 
@@ -12,6 +21,12 @@ namespace {
 constexpr const char* kDescription =
     "Asks the localization library about an application's languages: the .lproj folders in its\n"
     "bundle, and the tables that it downloaded into its cache.";
+#define OVLOCALIZE_TEXT_OF(number) #number
+#define OVLOCALIZE_VERSION(major, minor, patch)                                                 \
+  "ovlocalize " OVLOCALIZE_TEXT_OF(major) "." OVLOCALIZE_TEXT_OF(minor) "." OVLOCALIZE_TEXT_OF( \
+      patch)
+constexpr const char* kVersion =
+    OVLOCALIZE_VERSION(ORVANTA_VERSION_MAJOR, ORVANTA_VERSION_MINOR, ORVANTA_VERSION_PATCH);
 constexpr const char* kFooter =
     "`ovlocalize COMMAND --help` shows a command's options and examples.\n"
     "\n"
@@ -20,6 +35,36 @@ constexpr const char* kFooter =
     "error when it could not, or when a check found an error; 2 with one line when the arguments\n"
     "are wrong.";
 
+constexpr const char* kEveryCommand =
+    "Every command also takes --bundle, --cache, --device, --json and --color: see\n"
+    "`ovlocalize --help`.\n"
+    "\n"
+    "Examples:\n";
+
+// Lists the commands with the first clause of what each does.
+class Formatter : public CLI::Formatter {
+ public:
+  std::string make_subcommand(const CLI::App* command) const override {
+    std::string what = command->get_description();
+    std::replace(what.begin(), what.end(), '\n', ' ');
+    for (const char* end : {": ", ". ", "; ", ", "}) {
+      what.resize(std::min(what.find(end), what.size()));
+    }
+    std::ostringstream line;
+    CLI::detail::format_help(line, command->get_name(), what, get_column_width());
+    return line.str();
+  }
+};
+
+// https://no-color.org: a variable that is set and not empty.
+bool wantsColor(const std::string& choice) {
+  const char* const none = std::getenv("NO_COLOR");
+  const char* const terminal = std::getenv("TERM");
+  const bool isPlain = (none != nullptr && *none != '\0') ||
+                       (terminal != nullptr && std::string_view(terminal) == "dumb");
+  return choice == "always" || (choice == "auto" && !isPlain && ::isatty(STDOUT_FILENO) != 0);
+}
+
 }  // namespace
 
 std::string refuseEmpty(const std::string& word) {
@@ -27,7 +72,9 @@ std::string refuseEmpty(const std::string& word) {
 }
 
 CommandLine::CommandLine() : app_(kDescription, "ovlocalize") {
+  app_.formatter(std::make_shared<Formatter>());
   app_.footer(kFooter);
+  app_.set_version_flag("--version", kVersion, "Print the version and exit");
   app_.require_subcommand(1);
   app_.fallthrough();
   app_.add_option("--bundle", settings_.bundle,
@@ -47,12 +94,17 @@ CommandLine::CommandLine() : app_(kDescription, "ovlocalize") {
       ->allow_extra_args(false)
       ->type_name("a,b");
   app_.add_flag("--json", settings_.json, "Print JSON");
+  app_.add_option(
+          "--color", color_,
+          "Whether answers are coloured (default: auto, on a terminal unless NO_COLOR is set)")
+      ->check(CLI::IsMember({"auto", "always", "never"}).description(""))
+      ->type_name("auto|always|never");
 }
 
 CLI::App& CommandLine::add(const char* name, const char* help, const char* examples,
                            Command command) {
   CLI::App* const added = app_.add_subcommand(name, help);
-  added->footer(std::string("Examples:\n") + examples);
+  added->footer(std::string(kEveryCommand) + examples);
   added->callback([this, command = std::move(command)] {
     chosen_ = [this, command] { return command(settings_); };
   });
@@ -67,15 +119,24 @@ int CommandLine::run(int argc, char** argv) {
   return status;
 }
 
+std::string CommandLine::reasonOf(const CLI::ParseError& error) const {
+  const std::vector<std::string> words = app_.remaining();
+  const auto isWord = [](const std::string& word) { return !word.starts_with('-'); };
+  const auto unknown = std::find_if(words.begin(), words.end(), isWord);
+  const bool isCommand = app_.get_subcommands().empty() && unknown != words.end();
+  return isCommand ? "there is no command " + *unknown : error.what();
+}
+
 int CommandLine::parseAndRun(int argc, char** argv) {
   try {
     app_.parse(argc, argv);
-  } catch (const CLI::CallForHelp& help) {
+  } catch (const CLI::Success& help) {
     return app_.exit(help);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "ovlocalize: " << escaped(error.what()) << " (see ovlocalize --help)\n";
+    std::cerr << "ovlocalize: " << escaped(reasonOf(error)) << " (see ovlocalize --help)\n";
     return 2;
   }
+  settings_.isColored = wantsColor(color_);
   if (app_.count("--device") > 0) {
     std::erase(devices_, "");
     settings_.devices = devices_;

@@ -30,12 +30,17 @@ class CommandLine {
   /// Parses the arguments and runs the command that they name. Returns the exit status.
   int run(int argc, char** argv);
 
+  /// The definitions of all commands.
+  [[nodiscard]] const CLI::App& app() const noexcept { return app_; }
+
  private:
+  [[nodiscard]] std::string reasonOf(const CLI::ParseError& error) const;
   int parseAndRun(int argc, char** argv);
 
   CLI::App app_;
   Settings settings_;
   std::vector<std::string> devices_;
+  std::string color_ = "auto";
   std::function<int()> chosen_;
 };
 

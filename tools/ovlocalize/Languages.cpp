@@ -8,6 +8,7 @@
 #include "Escaping.h"
 #include "Json.h"
 #include "LanguageRequest.h"
+#include "TextTable.h"
 
 namespace ovlocalize {
 
@@ -52,24 +53,23 @@ void printJson(const std::vector<Row>& rows) {
   std::cout << printed(array) << '\n';
 }
 
-void printLines(const std::vector<Row>& rows) {
+void printTable(const Settings& settings, const std::vector<Row>& rows) {
+  TextTable table({{"LANGUAGE"}, {"FROM"}, {"VERSION"}, {"ALSO"}, {"FOLDER"}});
   for (const Row& row : rows) {
-    std::cout << oneLine(row.key) << '\t' << row.source << '\t' << oneLine(row.path());
-    if (row.locale->version() != orvanta::OVOrvantaLanguageVersionKey) {
-      std::cout << "\tversion " << oneLine(row.locale->version());
-    }
-    if (row.locale->fallbackLocales().isPresent()) {
-      std::cout << "\talso "
-                << oneLine(orvanta::componentsJoinedBy(',', row.locale->fallbackLocales()));
-    }
-    std::cout << '\n';
+    const bool hasVersion = row.locale->version() != orvanta::OVOrvantaLanguageVersionKey;
+    const orvanta::StringList& also = row.locale->fallbackLocales();
+    table.add({oneLine(row.key), std::string(row.source),
+               hasVersion ? oneLine(row.locale->version()) : "-",
+               also.isPresent() ? oneLine(orvanta::componentsJoinedBy(',', also)) : "-",
+               oneLine(row.path())});
   }
+  table.print(settings);
 }
 
 int languages(const Settings& settings) {
   installPlatform(settings);
   const std::vector<Row> rows = catalogue();
-  settings.json ? printJson(rows) : printLines(rows);
+  settings.json ? printJson(rows) : printTable(settings, rows);
   return 0;
 }
 

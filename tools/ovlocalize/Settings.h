@@ -15,6 +15,7 @@ struct Settings {
   std::string cache;   ///< The caches directory; empty: the user's.
   std::optional<std::vector<std::string>> devices;  ///< The device's languages.
   bool json = false;
+  bool isColored = false;                         ///< Answers for people are.
   std::function<void(std::string_view)> logSink;  ///< Absent: standard error, a line each.
 };
 

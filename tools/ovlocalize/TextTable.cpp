@@ -1,12 +1,15 @@
 #include "TextTable.h"
 
 #include <algorithm>
+#include <iostream>
 #include <numeric>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <orvanta/text/Utf8.h>
+
+#include "Color.h"
 
 namespace ovlocalize {
 
@@ -33,6 +36,14 @@ std::string cut(const std::string& text, std::size_t width) {
   return text.substr(0, text.size() - rest.size()).append(kCut);
 }
 
+// Of standard output; 0 when that is no terminal.
+std::size_t terminalWidth() {
+  winsize size{};
+  const bool isKnown =
+      ::isatty(STDOUT_FILENO) != 0 && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0;
+  return isKnown ? size.ws_col : 0;
+}
+
 }  // namespace
 
 std::vector<std::size_t> TextTable::widths(std::size_t most) const {
@@ -47,42 +58,41 @@ std::vector<std::size_t> TextTable::widths(std::size_t most) const {
   const auto total = [&] {
     return std::accumulate(widths.begin(), widths.end(), kGap.size() * (widths.size() - 1));
   };
-  constexpr std::size_t kLeast = 4;
   while (most > 0 && total() > most) {
-    auto& widest = *std::max_element(widths.begin(), widths.end());
-    if (widest <= kLeast) {
+    std::size_t widest = 0;
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+      widest = widths[index] > widths[widest] ? index : widest;
+    }
+    if (widths[widest] <= lengthOf(columns_[widest].heading)) {
       break;
     }
-    --widest;
+    --widths[widest];
   }
   return widths;
 }
 
-std::string TextTable::text(std::size_t width) const {
-  const std::vector<std::size_t> columnWidths = widths(width);
-  std::string out;
-  const auto addLine = [&](const auto& cellAt) {
-    std::string line;
-    for (std::size_t index = 0; index < columns_.size(); ++index) {
-      const std::string cell = cut(cellAt(index), columnWidths[index]);
-      const std::string padding(columnWidths[index] - lengthOf(cell), ' ');
-      line += index == 0 ? "" : kGap;
-      line += columns_[index].align == Align::kRight ? padding + cell : cell + padding;
-    }
-    out += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
-  };
-  addLine([&](std::size_t index) { return columns_[index].heading; });
-  for (const auto& row : rows_) {
-    addLine([&](std::size_t index) { return row[index]; });
+std::string TextTable::line(const std::vector<std::string>& cells,
+                            const std::vector<std::size_t>& widths) const {
+  std::string line;
+  for (std::size_t index = 0; index < columns_.size(); ++index) {
+    const std::string cell = cut(cells[index], widths[index]);
+    const std::string padding(widths[index] - lengthOf(cell), ' ');
+    line += index == 0 ? "" : kGap;
+    line += columns_[index].align == Align::kRight ? padding + cell : cell + padding;
   }
-  return out;
+  return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
-std::size_t terminalWidth() {
-  winsize size{};
-  const bool isKnown =
-      ::isatty(STDOUT_FILENO) != 0 && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0;
-  return isKnown ? size.ws_col : 0;
+void TextTable::print(const Settings& settings) const {
+  const std::vector<std::size_t> fitting = widths(terminalWidth());
+  std::vector<std::string> headings;
+  for (const Column& column : columns_) {
+    headings.push_back(column.heading);
+  }
+  std::cout << painted(settings.isColored, Tone::kHeading, line(headings, fitting)) << '\n';
+  for (const auto& row : rows_) {
+    std::cout << line(row, fitting) << '\n';
+  }
 }
 
 }  // namespace ovlocalize

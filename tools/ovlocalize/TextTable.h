@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Settings.h"
+
 namespace ovlocalize {
 
 /// A table for people, with a heading for each column. On a terminal it fits the width: the cells
@@ -23,17 +25,16 @@ class TextTable {
   /// A cell for each column, without control characters.
   void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
 
-  /// Lines with two spaces between the columns, no longer than `width`; 0: as long as they are.
-  [[nodiscard]] std::string text(std::size_t width) const;
+  /// Prints lines with two spaces between the columns, the headings coloured if answers are.
+  void print(const Settings& settings) const;
 
  private:
+  [[nodiscard]] std::string line(const std::vector<std::string>& cells,
+                                 const std::vector<std::size_t>& widths) const;
   [[nodiscard]] std::vector<std::size_t> widths(std::size_t most) const;
 
   std::vector<Column> columns_;
   std::vector<std::vector<std::string>> rows_;
 };
-
-/// The width of the terminal that standard output is; 0 when it is none.
-[[nodiscard]] std::size_t terminalWidth();
 
 }  // namespace ovlocalize

@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 
+#include "../Color.h"
 #include "../Escaping.h"
 #include "../Json.h"
 #include "../TextTable.h"
@@ -20,12 +21,13 @@ std::string_view levelOf(const Finding& finding) {
 }
 
 // FILE:LINE:COLUMN: error: "key": message [rule]
-void printLine(const Finding& finding) {
+void printLine(const CheckReport& report, const Finding& finding) {
   std::cout << escaped(finding.file);
   if (finding.line > 0) {
     std::cout << ':' << finding.line << ':' << finding.column;
   }
-  std::cout << ": " << levelOf(finding) << ": ";
+  const Tone tone = finding.rule->isError ? Tone::kError : Tone::kWarning;
+  std::cout << ": " << painted(report.settings.isColored, tone, levelOf(finding)) << ": ";
   if (!finding.key.empty()) {
     std::cout << quoted(finding.key) << ": ";
   }
@@ -36,7 +38,7 @@ void printFindings(const CheckReport& report, const std::vector<Finding>& findin
   std::map<const Rule*, std::size_t> counts;
   for (const Finding& finding : findings) {
     if (report.shows(finding) && (++counts[finding.rule] <= kShownOfAKind || report.showsAll)) {
-      printLine(finding);
+      printLine(report, finding);
     }
   }
   for (const Rule& rule : rules::kAll) {
@@ -80,7 +82,7 @@ void printTable(const CheckReport& report) {
                  std::to_string(countIn(report, file.findings, false))});
     }
   }
-  std::cout << table.text(terminalWidth());
+  table.print(report.settings);
 }
 
 Json toJson(const Finding& finding) {

@@ -98,7 +98,7 @@ void addExport(CommandLine& commands) {
       [request](const Settings& settings) { return exportTable(settings, *request); });
   addTableOptions(command, request->table);
   command.add_option("--format", request->format, "po, or xliff for XLIFF 1.2 (default: po)")
-      ->check(CLI::IsMember({"po", "xliff"}))
+      ->check(CLI::IsMember({"po", "xliff"}).description(""))
       ->type_name("po|xliff");
   command.add_option("--output", request->output, "The file (default: standard output)")
       ->check(refuseEmpty)

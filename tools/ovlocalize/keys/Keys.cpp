@@ -10,6 +10,7 @@
 
 #include <orvanta/strings/reader/StringTableReader.h>
 
+#include "../Color.h"
 #include "../CommandLine.h"
 #include "../Commands.h"
 #include "../Escaping.h"
@@ -139,15 +140,17 @@ void printForMachines(const Report& report) {
             << '\n';
 }
 
-void printForPeople(const Report& report) {
+void printForPeople(const Settings& settings, const Report& report) {
+  const std::string error = painted(settings.isColored, Tone::kError, "error");
+  const std::string warning = painted(settings.isColored, Tone::kWarning, "warning");
   for (const auto& [key, uses] : report.missing) {
     for (const KeyUse& use : uses) {
-      std::cout << escaped(use.file) << ':' << use.line << ": error: the key " << quoted(key)
-                << " is not in English\n";
+      std::cout << escaped(use.file) << ':' << use.line << ": " << error << ": the key "
+                << quoted(key) << " is not in English\n";
     }
   }
   for (const std::string& key : report.unused) {
-    std::cout << "warning: the key " << quoted(key) << " is used nowhere\n";
+    std::cout << warning << ": the key " << quoted(key) << " is used nowhere\n";
   }
   std::cout << report.sources << " sources: " << report.found << " keys found, "
             << report.missing.size() << " missing, " << report.unused.size() << " unused, "
@@ -156,7 +159,7 @@ void printForPeople(const Report& report) {
 
 int keys(const Settings& settings, const KeysRequest& request) {
   const Report report = reportOn(settings, request);
-  settings.json ? printForMachines(report) : printForPeople(report);
+  settings.json ? printForMachines(report) : printForPeople(settings, report);
   return report.missing.empty() ? 0 : 1;
 }
 
