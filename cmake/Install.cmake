@@ -43,7 +43,12 @@ if(TARGET ovlocalize)
     DESTINATION ${package_dir} COMPONENT Command)
 endif()
 if(TARGET ovaudit)
-  install(TARGETS ovaudit COMPONENT QtDevelopment)
+  # In the package of whatever it links with.
+  set(audit_component QtDevelopment)
+  if(TARGET orvanta_quick)
+    set(audit_component QuickDevelopment)
+  endif()
+  install(TARGETS ovaudit COMPONENT ${audit_component})
 endif()
 
 configure_package_config_file(

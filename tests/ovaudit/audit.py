@@ -1,6 +1,6 @@
-"""Audits a form with faults of each kind, and one without.
+"""Audits a form with faults of each kind, and one without; with "qml", QML files like them.
 
-usage: audit.py OVAUDIT FOLDER
+usage: audit.py OVAUDIT FOLDER [qml]
 """
 
 import json
@@ -9,8 +9,9 @@ import subprocess
 import sys
 import tempfile
 
-audit, folder = map(pathlib.Path, sys.argv[1:])
+audit, folder = map(pathlib.Path, sys.argv[1:3])
 bundle = folder / "bundle"
+qml = "qml" in sys.argv[3:]
 FAULTS = """ar cut outsideLabel, ar side leftLabel, de cut button, de cut cutLabel, de cut field,
 de cut firstLabel, de cut outsideLabel, de cut wrappedLabel, de glyph glyphLabel,
 de glyph tipField, de overlap firstLabel""".replace("\n", " ").split(", ")
@@ -35,10 +36,17 @@ with tempfile.TemporaryDirectory() as pictures:
     if sorted(path.stem for path in pathlib.Path(pictures).iterdir()) != ["ar", "de", "en"]:
         sys.exit("a picture is missing")
 expect("sound", run(folder / "sound.ui", bundle), 0, [])
+if qml:
+    # An item is as large as its text and has no bound properties.
+    faults_in_qml = sorted({*FAULTS, "de cut elidedLabel"} -
+                           {"de cut firstLabel", "de glyph tipField", "ar cut outsideLabel"})
+    expect("QML", run(folder / "faults.qml", bundle), 1, faults_in_qml)
+    expect("sound QML", run(folder / "sound.qml", bundle), 0, [])
 expect("only", run("--only", "ar", "--ignore", "cut:outsideLabel", faults, bundle), 1, FAULTS[1:2])
 expect("ignored", run("--ignore", "cut,glyph", "--ignore", "leftLabel,overlap", faults, bundle), 0, [])
 for row, arguments, message in (
     ("no form", (bundle, bundle), "is no form, or cannot be read"),
+    ("no QML", ("no.qml", bundle), "no.qml cannot be " + ("loaded: file:" if qml else "audited")),
     ("no bundle", (faults, "no"), "no such bundle folder: no"),
     ("no language", ("--only", "fr", faults, bundle), "no table for the language fr"),
     ("no languages", (faults, folder), "no languages in the folder"),

@@ -1,15 +1,8 @@
 #include "Findings.h"
 
-#include <QWidget>
-
 namespace ovaudit {
 
 namespace {
-
-QString nameOf(const QWidget& widget) {
-  return widget.objectName().isEmpty() ? QLatin1String(widget.metaObject()->className())
-                                       : widget.objectName();
-}
 
 QString quoted(const QString& text) {
   constexpr int kLongest = 40;
@@ -25,25 +18,13 @@ int sideOf(const DrawnText& text, bool isRightToLeft) {
   return isLeft != isRightToLeft ? -1 : 1;
 }
 
-// The part of the text's place that its parents leave visible.
-QRect visiblePart(const QWidget& window, const DrawnText& text) {
-  QRect visible = text.place;
-  for (const QWidget* widget = text.widget; widget != nullptr && widget != &window;
-       widget = widget->parentWidget()) {
-    const QWidget* const parent = widget->parentWidget();
-    visible &= QRect(parent->mapTo(&window, QPoint(0, 0)), parent->size());
-  }
-  return visible;
-}
-
 QString pixels(const QSize& size) {
   return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
 class Audit {
  public:
-  Audit(const QWidget& window, const Sides& sides, bool isRightToLeft)
-      : window_(window), sides_(sides), isRightToLeft_(isRightToLeft) {}
+  Audit(const Sides& sides, bool isRightToLeft) : sides_(sides), isRightToLeft_(isRightToLeft) {}
 
   void check(const DrawnText& text) {
     const QString missing = charactersWithoutGlyph(text.text, text.font);
@@ -71,9 +52,9 @@ class Audit {
   // Texts in one widget share its place by design.
   void checkPair(const DrawnText& text, const DrawnText& other) {
     const QRect common = text.rect() & other.rect();
-    if (text.isDrawn && other.isDrawn && text.widget != other.widget && !common.isEmpty()) {
+    if (text.isDrawn && other.isDrawn && text.owner != other.owner && !common.isEmpty()) {
       add(kOverlap, text,
-          text.what + QStringLiteral(" overlaps that of ") + nameOf(*other.widget) + u' ' +
+          text.what + QStringLiteral(" overlaps that of ") + other.name + u' ' +
               quoted(other.text));
     }
   }
@@ -82,27 +63,21 @@ class Audit {
 
  private:
   void checkRoom(const DrawnText& text) {
-    const QRect visible = visiblePart(window_, text);
-    const QRect lacking = text.rect();
     if (text.needed.width() > text.place.width() || text.needed.height() > text.place.height()) {
       add(kCut, text,
           text.what + u' ' + quoted(text.text) + QStringLiteral(" needs ") + pixels(text.needed) +
               QStringLiteral(" and has ") + pixels(text.place.size()));
-    } else if (!visible.contains(lacking)) {
+    } else if (!text.visible.contains(text.rect())) {
       add(kCut, text,
           text.what + u' ' + quoted(text.text) + QStringLiteral(" reaches out of its parent"));
     }
   }
 
   void add(const char* rule, const DrawnText& text, const QString& message) {
-    findings.append({{},
-                     QLatin1String(rule),
-                     nameOf(*text.widget),
-                     message,
-                     text.isDrawn ? text.place : QRect()});
+    findings.append(
+        {{}, QLatin1String(rule), text.name, message, text.isDrawn ? text.place : QRect()});
   }
 
-  const QWidget& window_;
   const Sides& sides_;
   bool isRightToLeft_;
 };
@@ -112,19 +87,18 @@ class Audit {
 void Sides::remember(const QList<DrawnText>& texts, bool isRightToLeft) {
   for (const DrawnText& text : texts) {
     if (text.isDrawn) {
-      sides_.insert({text.widget, text.what}, sideOf(text, isRightToLeft));
+      sides_.insert({text.owner, text.what}, sideOf(text, isRightToLeft));
     }
   }
 }
 
 bool Sides::isKept(const DrawnText& text, bool isRightToLeft) const {
-  const auto designed = sides_.find({text.widget, text.what});
+  const auto designed = sides_.find({text.owner, text.what});
   return designed == sides_.end() || *designed == sideOf(text, isRightToLeft);
 }
 
-QList<Finding> findingsIn(const QWidget& window, const QList<DrawnText>& texts, const Sides& sides,
-                          bool isRightToLeft) {
-  Audit audit(window, sides, isRightToLeft);
+QList<Finding> findingsIn(const QList<DrawnText>& texts, const Sides& sides, bool isRightToLeft) {
+  Audit audit(sides, isRightToLeft);
   for (qsizetype index = 0; index < texts.size(); ++index) {
     audit.check(texts[index]);
     for (qsizetype other = index + 1; other < texts.size(); ++other) {

@@ -19,7 +19,7 @@ inline constexpr const char* kOverlap = "overlap";
 struct Finding {
   QString language;
   QString rule;
-  QString widget;  ///< The object's name, or its class where it has none.
+  QString widget;  ///< Or item.
   QString message;
   QRect frame;  ///< In the window; empty for a text that is not drawn.
 };
@@ -35,12 +35,12 @@ class Sides {
   [[nodiscard]] bool isKept(const DrawnText& text, bool isRightToLeft) const;
 
  private:
-  QHash<std::pair<const QWidget*, QString>, int> sides_;
+  QHash<std::pair<const QObject*, QString>, int> sides_;
 };
 
 /// What is wrong with the texts of a window in one language.
-[[nodiscard]] QList<Finding> findingsIn(const QWidget& window, const QList<DrawnText>& texts,
-                                        const Sides& sides, bool isRightToLeft);
+[[nodiscard]] QList<Finding> findingsIn(const QList<DrawnText>& texts, const Sides& sides,
+                                        bool isRightToLeft);
 
 /// The characters of the text, each once, for which no font that Qt would take has a glyph.
 [[nodiscard]] QString charactersWithoutGlyph(const QString& text, const QFont& font);

@@ -1,19 +1,13 @@
 #include "Pictures.h"
 
-#include <QImage>
 #include <QPainter>
-#include <QWidget>
 #include <algorithm>
 
 namespace ovaudit {
 
-bool savePicture(QWidget& window, const QList<Finding>& findings, const QString& file) {
-  constexpr int kScale = 2;
+bool savePicture(QImage window, const QList<Finding>& findings, const QString& file) {
   constexpr int kGap = 2;
-  QImage image(window.size() * kScale, QImage::Format_RGB32);
-  image.setDevicePixelRatio(kScale);
-  window.render(&image);
-  QPainter painter(&image);
+  QPainter painter(&window);
   painter.setFont(QFont(QStringLiteral("sans-serif"), 7));
   QRect lastLabel;
   QRect lastFrame;
@@ -37,7 +31,7 @@ bool savePicture(QWidget& window, const QList<Finding>& findings, const QString&
     painter.drawText(label, Qt::AlignCenter, finding.rule);
   }
   painter.end();
-  return image.save(file);
+  return window.save(file);
 }
 
 }  // namespace ovaudit

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QWidget>
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -17,16 +16,15 @@
 
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/orvanta.h>
-#include <orvanta/qt/FormLoader.h>
 #include <orvanta/qt/LanguageChangeObserver.h>
 #include <orvanta/qt/LayoutDirectionFollower.h>
 #include <orvanta/qt/Text.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 
-#include "DrawnTexts.h"
 #include "Findings.h"
 #include "Pictures.h"
 #include "Report.h"
+#include "Stage.h"
 
 namespace ovaudit {
 
@@ -48,9 +46,9 @@ struct Request {
 };
 
 void addOptions(CLI::App& app, Request& request) {
-  app.add_option("form", request.form, "The form, as Qt Designer saves it")
+  app.add_option("form", request.form, "A form, as Qt Designer saves it, or a QML file")
       ->required()
-      ->type_name("FORM.ui");
+      ->type_name("FORM.ui|FILE.qml");
   app.add_option("bundle", request.bundle, "The folder that holds the .lproj folders")
       ->required()
       ->type_name("DIR");
@@ -145,9 +143,9 @@ bool isAudited(const QString& language, const Request& request) {
                                            language.toStdString()) != request.only.end();
 }
 
-class AuditOfForm {
+class AuditOfStage {
  public:
-  AuditOfForm(QWidget& window, const Request& request) : window_(window), request_(request) {}
+  AuditOfStage(const Stage& stage, const Request& request) : stage_(stage), request_(request) {}
 
   Report run() {
     const QStringList languages = catalogue();
@@ -172,7 +170,7 @@ class AuditOfForm {
     changeLanguage(language);
     const bool isRightToLeft = orvanta::localizationUtilities::languageAlignmentIsReversed(
         orvanta::Localizer::languageOnlyFromString(orvanta::qt::fromQString(language)));
-    const QList<DrawnText> texts = drawnTexts(window_);
+    const QList<DrawnText> texts = stage_.texts();
     if (isFirst) {
       sides_.remember(texts, isRightToLeft);
     }
@@ -181,7 +179,7 @@ class AuditOfForm {
     }
     ++report_.languages;
     report_.texts = std::max(report_.texts, texts.size());
-    QList<Finding> findings = findingsIn(window_, texts, sides_, isRightToLeft);
+    QList<Finding> findings = findingsIn(texts, sides_, isRightToLeft);
     findings.removeIf([&](const Finding& finding) { return isIgnored(finding, request_.ignored); });
     for (Finding& finding : findings) {
       finding.language = language;
@@ -190,13 +188,14 @@ class AuditOfForm {
     if (!request_.pictures.empty()) {
       const QString folder = QString::fromStdString(request_.pictures);
       if (!QDir().mkpath(folder) ||
-          !savePicture(window_, findings, folder + u'/' + language + QStringLiteral(".png"))) {
+          !savePicture(stage_.picture(), findings,
+                       folder + u'/' + language + QStringLiteral(".png"))) {
         throw Failure("the pictures cannot be written to " + request_.pictures);
       }
     }
   }
 
-  QWidget& window_;
+  const Stage& stage_;
   const Request& request_;
   Sides sides_;
   Report report_;
@@ -228,13 +227,9 @@ int audit(const Request& request, int& argc, char** argv) {
   if (request.isMirrored) {
     follower.emplace();
   }
-  const std::unique_ptr<QWidget> window(
-      orvanta::qt::FormLoader().load(QString::fromStdString(request.form)));
-  if (window == nullptr) {
-    throw Failure(request.form + " is no form, or cannot be read");
-  }
-  window->show();
-  const Report report = AuditOfForm(*window, request).run();
+  const std::unique_ptr<Stage> stage =
+      request.form.ends_with(".qml") ? makeQuickStage(request.form) : makeFormStage(request.form);
+  const Report report = AuditOfStage(*stage, request).run();
   request.asJson ? printForMachines(report) : printForPeople(report);
   if (!std::cout.flush()) {
     throw Failure("the answer could not be written");
