@@ -286,8 +286,14 @@ class TableMaker {
   }
 
   std::string statements() {
+    static const char* const kEnds[] = {"", "}", ";;", "; v\";", "; w = (x);", "; 'y' = 'z';"};
     const auto& layouts = fuzz::layoutsOf(static_cast<fuzz::Group>(below(3)));
-    return layOut(layouts[below(layouts.size())], pairs());
+    std::string text = layOut(layouts[below(layouts.size())], pairs());
+    const std::size_t semicolon = text.find(';', below(text.size() + 1));
+    if (below(3) == 0 && semicolon != std::string::npos) {
+      text.replace(semicolon, 1, kEnds[below(std::size(kEnds))]);
+    }
+    return text;
   }
 
   std::string xmlList() {
@@ -338,7 +344,7 @@ class TableMaker {
 // ORVANTA_PROBE_TABLES sets the number of tables for each prefix.
 TEST(PrefixProbe, AgreesWithAFullReadOnDamagedTables) {
   const char* const wanted = std::getenv("ORVANTA_PROBE_TABLES");
-  const int tables = wanted == nullptr ? 4000 : std::atoi(wanted);
+  const int tables = wanted == nullptr ? 15000 : std::atoi(wanted);
   for (const std::string& prefix : {std::string("abn-U_ex"), kPrefix}) {
     TableMaker maker(prefix);
     int held = 0;

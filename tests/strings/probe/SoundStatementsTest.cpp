@@ -25,6 +25,8 @@ const Row kRows[] = {
     {"quotes in comments", "/* \"\\\" */ \"a\" = \"b\"; // it's \"\n\"c\";/*/ \" */", 2, true},
     {"beyond ASCII", "\"\u00E9\u222A\" = \"\u5C22\U0001F600\u2222\";", 1, true},
     {"a line that ends beyond ASCII", "\"a\" = \"b\"; // \u00E9\u2028\"c\" = \"d\";", 1, false},
+    {"a line that ends with U+2029", "\"a\"; // \u2029\"b\";", 1, false},
+    {"another sign", R"("a" : "b";)", 0, false},
     {"a comment within a comment", R"("a" = "b"; /* c /* d */)", 1, false},
     {"no semicolon", "\"a\" = \"b\"\n\"c\" = \"d\";", 0, false},
     {"a string without an end", R"("a" = "b"; "c" = "d;)", 1, false},
