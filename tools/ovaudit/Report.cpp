@@ -16,7 +16,7 @@ void printForPeople(const Report& report) {
                  ovlocalize::escaped(finding.widget.toStdString()),
                  ovlocalize::escaped(finding.message.toStdString())});
     }
-    std::cout << table.text(ovlocalize::terminalWidth());
+    table.print(false);
   }
   std::cout << report.languages << " languages, " << report.texts
             << " texts: " << report.findings.size() << " findings\n";

@@ -63,7 +63,7 @@ void printTable(const Settings& settings, const std::vector<Row>& rows) {
                also.isPresent() ? oneLine(orvanta::componentsJoinedBy(',', also)) : "-",
                oneLine(row.path())});
   }
-  table.print(settings);
+  table.print(settings.isColored);
 }
 
 int languages(const Settings& settings) {

@@ -83,13 +83,13 @@ std::string TextTable::line(const std::vector<std::string>& cells,
   return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
-void TextTable::print(const Settings& settings) const {
+void TextTable::print(bool isColored) const {
   const std::vector<std::size_t> fitting = widths(terminalWidth());
   std::vector<std::string> headings;
   for (const Column& column : columns_) {
     headings.push_back(column.heading);
   }
-  std::cout << painted(settings.isColored, Tone::kHeading, line(headings, fitting)) << '\n';
+  std::cout << painted(isColored, Tone::kHeading, line(headings, fitting)) << '\n';
   for (const auto& row : rows_) {
     std::cout << line(row, fitting) << '\n';
   }

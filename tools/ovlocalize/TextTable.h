@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "Settings.h"
-
 namespace ovlocalize {
 
 /// A table for people, with a heading for each column. On a terminal it fits the width: the cells
@@ -25,8 +23,8 @@ class TextTable {
   /// A cell for each column, without control characters.
   void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
 
-  /// Prints lines with two spaces between the columns, the headings coloured if answers are.
-  void print(const Settings& settings) const;
+  /// Prints lines with two spaces between the columns, the headings coloured if asked to.
+  void print(bool isColored) const;
 
  private:
   [[nodiscard]] std::string line(const std::vector<std::string>& cells,

@@ -50,7 +50,7 @@ void checkAll(CheckReport& report) {
 
 int check(const Settings& settings, const CheckRequest& request) {
   CheckReport report;
-  report.settings = settings;
+  report.isColored = settings.isColored;
   report.folders = readLanguageFolders(settings);
   report.showsWarnings = request.level == "warning";
   report.showsAll = request.showsAll;

@@ -27,7 +27,7 @@ void printLine(const CheckReport& report, const Finding& finding) {
     std::cout << ':' << finding.line << ':' << finding.column;
   }
   const Tone tone = finding.rule->isError ? Tone::kError : Tone::kWarning;
-  std::cout << ": " << painted(report.settings.isColored, tone, levelOf(finding)) << ": ";
+  std::cout << ": " << painted(report.isColored, tone, levelOf(finding)) << ": ";
   if (!finding.key.empty()) {
     std::cout << quoted(finding.key) << ": ";
   }
@@ -82,7 +82,7 @@ void printTable(const CheckReport& report) {
                  std::to_string(countIn(report, file.findings, false))});
     }
   }
-  table.print(report.settings);
+  table.print(report.isColored);
 }
 
 Json toJson(const Finding& finding) {

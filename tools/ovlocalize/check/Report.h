@@ -9,7 +9,7 @@ namespace ovlocalize {
 
 /// What the check found, and how it is to be shown.
 struct CheckReport {
-  Settings settings;
+  bool isColored = false;
   std::vector<LanguageFolder> folders;
   std::vector<Finding> general;  ///< About whole folders.
   bool showsWarnings = true;
