@@ -134,6 +134,8 @@ TEST_F(Exchange, RefusesInOneLineAndWritesNothing) {
       {"nothing", "", "x holds no text under a key"},
       {"XLIFF of another language", "<xliff version='1.2'><file target-language='pt-BR'/></xliff>",
        "is for the language pt-BR"},
+      {"XLIFF of two languages", open + "</file><file target-language='de'/></xliff>",
+       "is for several languages"},
       {"XLIFF 2", "<xliff version='2.0'/>", "x is XLIFF 2.0, not 1.2"},
       {"no XLIFF", "<plist version='1.2'/>", "x is no XLIFF file"},
       {"truncated XLIFF", open + "\n<body><trans-unit id='a'", "x is no XLIFF file: 2: "},

@@ -2,18 +2,22 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedWidget>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTextDocument>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -206,7 +210,31 @@ void addBoundProperties(QWidget& window, QObject& object, QList<DrawnText>& text
 class FormStage final : public Stage {
  public:
   explicit FormStage(std::unique_ptr<QWidget> window) : window_(std::move(window)) {
+    for (const QStackedWidget* const stack : window_->findChildren<QStackedWidget*>()) {
+      for (int index = 0; index < stack->count(); ++index) {
+        pages_ << stack->widget(index);
+      }
+    }
     window_->show();
+  }
+
+  [[nodiscard]] int views() const override { return std::max(1, int(pages_.size())); }
+
+  // Pages may stand on pages.
+  void show(int view) override {
+    for (QWidget* page = pages_.value(view); page != nullptr; page = page->parentWidget()) {
+      auto* const stack = qobject_cast<QStackedWidget*>(page->parentWidget());
+      if (stack == nullptr) {
+        continue;
+      }
+      if (auto* const tabs = qobject_cast<QTabWidget*>(stack->parentWidget())) {
+        tabs->setCurrentWidget(page);
+      } else {
+        stack->setCurrentWidget(page);
+      }
+    }
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
   }
 
   [[nodiscard]] QList<DrawnText> texts() const override {
@@ -232,6 +260,7 @@ class FormStage final : public Stage {
 
  private:
   std::unique_ptr<QWidget> window_;
+  QList<QWidget*> pages_;
 };
 
 }  // namespace

@@ -17,6 +17,11 @@ class Stage {
   Stage(const Stage&) = delete;
   Stage& operator=(const Stage&) = delete;
 
+  /// How many pages of tabs and the like there are to be shown one after the other; 1 without any.
+  [[nodiscard]] virtual int views() const { return 1; }
+  /// Shows one of them.
+  virtual void show(int /*view*/) {}
+
   /// The visible texts and the bound properties.
   [[nodiscard]] virtual QList<DrawnText> texts() const = 0;
   /// The window, with a device pixel ratio that maps its coordinates.

@@ -20,9 +20,10 @@ struct Unit {
 /// The texts of one table in one language.
 struct Catalog {
   std::string sourceLanguage;
-  std::string language;      ///< As the file names it; empty where it does not.
-  std::string table;         ///< The strings file without its folder.
-  std::time_t revision = 0;  ///< When the translations were changed.
+  std::string language;         ///< As the file names it; empty where it does not.
+  bool isOfOneLanguage = true;  ///< False for a file of several.
+  std::string table;            ///< The strings file without its folder.
+  std::time_t revision = 0;     ///< When the translations were changed.
   std::vector<Unit> units;
   std::size_t leftOut = 0;  ///< Entries of a read file that are no text under a key.
 };

@@ -58,6 +58,9 @@ Catalog readCatalog(const ImportRequest& request) {
   const bool isMarkup = (begin != std::string::npos && bytes[begin] == '<') ||
                         mark.starts_with("\xFF\xFE") || mark.starts_with("\xFE\xFF");
   Catalog catalog = isMarkup ? catalogFromXliff(bytes, name) : catalogFromPo(bytes, name);
+  if (!catalog.isOfOneLanguage) {
+    throw Failure(name + " is for several languages");
+  }
   if (!catalog.language.empty() &&
       comparable(catalog.language) != comparable(request.table.language)) {
     throw Failure(name + " is for the language " + catalog.language + ", not for " +

@@ -101,7 +101,9 @@ pugi::xml_node nodeBehind(pugi::xml_node node) {
 void collectUnits(pugi::xml_node root, Catalog& catalog) {
   for (pugi::xml_node node = root; node; node = nodeBehind(node)) {
     if (localName(node) == "file") {
-      catalog.language = node.attribute("target-language").value();
+      const std::string language = node.attribute("target-language").value();
+      catalog.language = catalog.language.empty() ? language : catalog.language;
+      catalog.isOfOneLanguage = catalog.isOfOneLanguage && language == catalog.language;
     } else if (localName(node) == kUnit && (node.attribute("resname") || node.attribute("id"))) {
       catalog.units.push_back(unitFrom(node));
     } else if (localName(node) == kUnit) {
