@@ -218,6 +218,14 @@ TEST_F(StandardBundles, TakeAnUnreadableTableForAnEmptyOne) {
   failing_ = "none";
   EXPECT_EQ(look("it.lproj"), "k");
   EXPECT_EQ(look("fr.lproj"), "one") << "readable again, though unchanged";
+
+  writeOld("es.lproj/Localizable.strings", R"("CONFIG-Language-A" = "a";)");
+  const std::vector<HashedKey> keys = {HashedKey("CONFIG-Language-A"),
+                                       HashedKey("CONFIG-Language-B")};
+  for (const auto& [failing, text] : {std::pair("read", String()), {"none", "a"}}) {
+    failing_ = failing;
+    EXPECT_EQ(registry->bundleWithPath(path("es.lproj"))->textsForKeys(keys).front(), text);
+  }
 }
 
 TEST_F(StandardBundles, FindResourcesBelowThemselvesAlone) {
