@@ -1,35 +1,34 @@
+#include <algorithm>
 #include <bit>
-#include <memory>
 
 #include <orvanta/fonts/DerivedFonts.h>
 
 namespace orvanta::localizationUtilities {
 
-DerivedFonts::~DerivedFonts() {
-  for (const auto& slot : derived_) {
-    delete slot.load();
-  }
+FontHandle DerivedFonts::known(std::uint64_t sizeBits) const {
+  const auto font = std::find_if(derived_.begin(), derived_.end(),
+                                 [&](const auto& each) { return each.first == sizeBits; });
+  return font == derived_.end() ? nullptr : font->second;
 }
 
 FontHandle DerivedFonts::fontWithSize(const FontHandle& face, double size) {
   const auto sizeBits = std::bit_cast<std::uint64_t>(size);
-  for (auto& slot : derived_) {
-    const Derived* known = slot.load(std::memory_order_acquire);
-    if (known == nullptr) {
-      FontHandle font = face->fontWithSize(size);
-      if (font == nullptr) {
-        return nullptr;
-      }
-      auto made = std::make_unique<const Derived>(Derived{sizeBits, std::move(font)});
-      if (slot.compare_exchange_strong(known, made.get(), std::memory_order_acq_rel)) {
-        return made.release()->font;
-      }
-    }
-    if (known->sizeBits == sizeBits) {
-      return known->font;
+  {
+    const std::lock_guard lock(mutex_);
+    if (FontHandle font = known(sizeBits)) {
+      return font;
     }
   }
-  return face->fontWithSize(size);
+  // Without the lock: the face belongs to the platform.
+  FontHandle font = face->fontWithSize(size);
+  const std::lock_guard lock(mutex_);
+  if (FontHandle other = known(sizeBits)) {
+    return other;
+  }
+  if (font != nullptr && derived_.size() < kMostSizes) {
+    derived_.emplace_back(sizeBits, font);
+  }
+  return font;
 }
 
 }  // namespace orvanta::localizationUtilities

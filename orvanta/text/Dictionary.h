@@ -90,7 +90,8 @@ class Dictionary {
 
  private:
   // The map, and an index that is searched with a hash computed before. Open addressing: a slot by
-  // the hash's lower bits, linear probing, at most half of the slots used.
+  // the hash's lower bits, linear probing, at most half of the slots used. For the benchmark's row
+  // `match`, which takes a quarter longer with the map alone.
   struct Indexed {
     struct Slot {
       std::uint64_t hash = 0;

@@ -88,7 +88,8 @@ class ORVANTA_EXPORT StringList {
   std::size_t size_ = 0;
 };
 
-/// Makes a list entry by entry.
+/// Makes a list entry by entry, in one allocation: the benchmark's row `match` takes a third longer
+/// with a vector that is copied.
 class StringList::Builder {
  public:
   /// At most `most` calls of `add` may follow.
