@@ -12,7 +12,7 @@ namespace orvanta::strings {
 /// Searches for a few byte patterns and reads only a part of the text: windows of eight bytes, one
 /// stride apart. The stride is so short that every occurrence of a pattern contains one of the
 /// windows. A stride is skipped when no pattern contains its window, which a small filter decides.
-/// `memmem` takes two to four times as long (benchmark rows startup and startup-1k).
+/// `memmem` takes two to four times as long (benchmark rows startup-configured-first and its -1k).
 class SampledSearch {
  public:
   static constexpr std::size_t kShortestPattern = 8;
