@@ -103,8 +103,9 @@ class AuditOfStage {
         seen.insert({text.owner, text.what});
       }
       if (isAudited(language, request_)) {
-        findings += newFindings(language, findingsIn(texts, sides_, isRightToLeft), findings);
-        savePictureOf(language, view, findings);
+        const QList<Finding> ofView = relevant(language, findingsIn(texts, sides_, isRightToLeft));
+        savePictureOf(language, view, ofView);
+        addNew(ofView, findings);
       }
     }
     report_.languages += isAudited(language, request_) ? 1 : 0;
@@ -112,20 +113,25 @@ class AuditOfStage {
     report_.findings += findings;
   }
 
-  // What stands beside pages is seen with each of them.
-  [[nodiscard]] QList<Finding> newFindings(const QString& language, QList<Finding> findings,
-                                           const QList<Finding>& known) const {
-    findings.removeIf([&](const Finding& finding) {
-      return isIgnored(finding, request_.ignored) ||
-             std::any_of(known.begin(), known.end(), [&](const Finding& other) {
-               return other.rule == finding.rule && other.widget == finding.widget &&
-                      other.message == finding.message && other.frame == finding.frame;
-             });
-    });
+  [[nodiscard]] QList<Finding> relevant(const QString& language, QList<Finding> findings) const {
+    findings.removeIf([&](const Finding& finding) { return isIgnored(finding, request_.ignored); });
     for (Finding& finding : findings) {
       finding.language = language;
     }
     return findings;
+  }
+
+  // What stands beside pages is seen with each of them.
+  static void addNew(const QList<Finding>& ofView, QList<Finding>& findings) {
+    for (const Finding& finding : ofView) {
+      const bool isKnown = std::any_of(findings.begin(), findings.end(), [&](const Finding& other) {
+        return other.rule == finding.rule && other.widget == finding.widget &&
+               other.message == finding.message && other.frame == finding.frame;
+      });
+      if (!isKnown) {
+        findings.append(finding);
+      }
+    }
   }
 
   // The second view's is "de-2.png".

@@ -7,11 +7,13 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <CLI/CLI.hpp>
 #include <ovlocalize/Escaping.h>
 #include <ovlocalize/Settings.h>
 
+#include <orvanta/locale/Version.h>
 #include <orvanta/qt/LayoutDirectionFollower.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 
@@ -52,6 +54,11 @@ void addOptions(CLI::App& app, Request& request) {
   app.add_option("--font", request.font, "The application's font, as QFont::toString writes it")
       ->type_name("\"FAMILY,SIZE\"");
   app.add_flag("--mirrored", request.isMirrored, "Mirror layouts as LayoutDirectionFollower does");
+  app.set_version_flag("--version",
+                       "ovaudit " + std::to_string(ORVANTA_VERSION_MAJOR) + '.' +
+                           std::to_string(ORVANTA_VERSION_MINOR) + '.' +
+                           std::to_string(ORVANTA_VERSION_PATCH),
+                       "Print the version and exit");
   app.add_flag("--json", request.asJson, "Print JSON");
   app.footer(
       "Examples:\n"
@@ -130,8 +137,8 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return ovaudit::run(request, argc, argv);
-  } catch (const CLI::CallForHelp& help) {
-    return app.exit(help);
+  } catch (const CLI::Success& answer) {
+    return app.exit(answer);
   } catch (const CLI::ParseError& error) {
     std::cerr << "ovaudit: " << ovlocalize::escaped(error.what()) << " (see ovaudit --help)\n";
     return 2;
