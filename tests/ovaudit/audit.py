@@ -46,7 +46,8 @@ if qml:
 expect("only", run("--only", "ar", "--ignore", "cut:outsideLabel", faults, bundle), 1, FAULTS[1:2])
 expect("ignored", run("--ignore", "cut,glyph", "--ignore", "leftLabel,overlap", faults, bundle), 0, [])
 for row, arguments, message in (
-    ("no form", (bundle, bundle), "is no form, or cannot be read"),
+    ("no file", (bundle, bundle), "bundle cannot be read"),
+    ("no form", (folder / "audit.py", bundle), "audit.py is no form: "),
     ("no QML", ("no.qml", bundle), "no.qml cannot be " + ("loaded: file:" if qml else "audited")),
     ("no bundle", (faults, "no"), "no such bundle folder: no"),
     ("no language", ("--only", "fr", faults, bundle), "no table for the language fr"),

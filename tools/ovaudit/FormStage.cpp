@@ -266,9 +266,12 @@ class FormStage final : public Stage {
 }  // namespace
 
 std::unique_ptr<Stage> makeFormStage(const std::string& file) {
-  std::unique_ptr<QWidget> window(orvanta::qt::FormLoader().load(QString::fromStdString(file)));
+  orvanta::qt::FormLoader loader;
+  std::unique_ptr<QWidget> window(loader.load(QString::fromStdString(file)));
   if (window == nullptr) {
-    throw ovlocalize::Failure(file + " is no form, or cannot be read");
+    const std::string reason = loader.errorString().toStdString();
+    throw ovlocalize::Failure(reason.empty() ? file + " cannot be read"
+                                             : file + " is no form: " + reason);
   }
   return std::make_unique<FormStage>(std::move(window));
 }

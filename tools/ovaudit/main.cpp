@@ -88,11 +88,13 @@ void applyAppearance(const Request& request) {
   }
 }
 
-// What the platform without a display says of itself concerns no form.
+// What the platform without a display says of itself concerns no form, and why a form cannot be
+// loaded is told by whoever loads it.
 void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-  const bool isOfPlatform = text.startsWith(QLatin1String("This plugin does not support")) ||
-                            text.startsWith(QLatin1String("QStandardPaths:"));
-  if (!isOfPlatform && type != QtDebugMsg && type != QtInfoMsg) {
+  const bool isKnown = text.startsWith(QLatin1String("This plugin does not support")) ||
+                       text.startsWith(QLatin1String("QStandardPaths:")) ||
+                       text.startsWith(QLatin1String("Designer:"));
+  if (!isKnown && type != QtDebugMsg && type != QtInfoMsg) {
     std::cerr << ovlocalize::escaped(qFormatLogMessage(type, context, text).toStdString()) << '\n';
   }
 }
