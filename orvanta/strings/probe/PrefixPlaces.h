@@ -64,7 +64,7 @@ class PrefixPlaces {
 
   // In UTF-16 the byte of a backslash is also half of many other units, mostly of Chinese
   // characters. Where one of those is found, a whole block without a backslash is skipped
-  // (benchmark row startup).
+  // (benchmark row startup-configured-some).
   [[nodiscard]] std::size_t nextBackslash(std::size_t from, std::size_t end) const noexcept {
     constexpr std::size_t kBlock = 128;
     const std::string_view bytes = text_.slice(0, end);

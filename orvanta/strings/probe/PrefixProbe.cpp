@@ -142,8 +142,8 @@ void PrefixProbe::releaseMemory() noexcept {
 }
 
 // Keeps the head of the file in memory and searches the rest through a small window, which is
-// faster than reading the whole file into memory (benchmark row startup). Null when the head is not
-// enough.
+// faster than reading the whole file into memory (benchmark row startup-configured-some). Null when
+// the head is not enough.
 std::shared_ptr<const StringTable> PrefixProbe::entriesFromHead(ByteSource& file) {
   if (window_ == nullptr) {
     window_.reset(allocateBytes(kPiece + kOverlap + kPiece));
