@@ -1,6 +1,10 @@
 #pragma once
 
+#include <string_view>
+
 namespace orvanta {
+
+inline constexpr std::string_view kHexadecimalDigits = "0123456789ABCDEF";
 
 inline constexpr unsigned kNoDigit = 16;
 

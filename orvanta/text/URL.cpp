@@ -40,7 +40,6 @@ bool isURLText(std::string_view text) {
 }
 
 std::string escapedPath(std::string_view path) {
-  constexpr std::string_view kHex = "0123456789ABCDEF";
   std::string escaped;
   for (const char character : path) {
     if (kUnescapedInPath.find(character) != std::string_view::npos) {
@@ -48,8 +47,8 @@ std::string escapedPath(std::string_view path) {
     } else {
       const auto byte = static_cast<unsigned char>(character);
       escaped += '%';
-      escaped += kHex[byte >> 4U];
-      escaped += kHex[byte & 0xFU];
+      escaped += kHexadecimalDigits[byte >> 4U];
+      escaped += kHexadecimalDigits[byte & 0xFU];
     }
   }
   return escaped;

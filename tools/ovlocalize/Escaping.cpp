@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <orvanta/strings/encoding/ControlCharacters.h>
+#include <orvanta/text/HexDigit.h>
 #include <orvanta/text/Utf8.h>
 
 namespace ovlocalize {
@@ -10,29 +12,7 @@ namespace {
 
 void appendHexadecimal(std::string& out, unsigned value, int digits) {
   for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
-    out += "0123456789ABCDEF"[(value >> shift) & 0xF];
-  }
-}
-
-// C0, DEL and C1.
-bool isControl(char32_t character) {
-  return character < 0x20 || (character >= 0x7F && character < 0xA0);
-}
-
-void appendControl(std::string& out, char32_t character) {
-  switch (character) {
-    case '\n':
-      out += "\\n";
-      break;
-    case '\r':
-      out += "\\r";
-      break;
-    case '\t':
-      out += "\\t";
-      break;
-    default:
-      out += "\\U";
-      appendHexadecimal(out, static_cast<unsigned>(character), 4);
+    out += orvanta::kHexadecimalDigits[(value >> shift) & 0xF];
   }
 }
 
@@ -45,8 +25,8 @@ void appendEscaped(std::string& out, std::string_view text, std::string_view spe
         out += "\\x";
         appendHexadecimal(out, static_cast<unsigned char>(byte), 2);
       }
-    } else if (isControl(character.codePoint)) {
-      appendControl(out, character.codePoint);
+    } else if (orvanta::strings::isControl(character.codePoint)) {
+      orvanta::strings::appendEscapedControl(out, character.codePoint);
     } else {
       if (special.find(bytes) != std::string_view::npos) {
         out += '\\';
@@ -75,7 +55,7 @@ std::string escapedJson(std::string_view json) {
   std::string out;
   while (!json.empty()) {
     const auto character = orvanta::utf8::decode(json);
-    if (character.codePoint >= 0x7F && isControl(character.codePoint)) {
+    if (character.codePoint >= 0x7F && orvanta::strings::isControl(character.codePoint)) {
       out += "\\u";
       appendHexadecimal(out, static_cast<unsigned>(character.codePoint), 4);
     } else {

@@ -2,37 +2,13 @@
 
 #include <orvanta/strings/document/Comments.h>
 #include <orvanta/strings/document/NewStatements.h>
+#include <orvanta/strings/encoding/ControlCharacters.h>
 #include <orvanta/strings/reader/text/TextCharacters.h>
 #include <orvanta/text/Utf8.h>
 
 namespace orvanta::strings {
 
 namespace {
-
-constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
-
-// C0, DEL and C1.
-bool isControl(char32_t character) noexcept {
-  return character < 0x20 || (character >= 0x7F && character < 0xA0);
-}
-
-void appendControl(std::string& out, char32_t character) {
-  switch (character) {
-    case '\n':
-      out += "\\n";
-      break;
-    case '\r':
-      out += "\\r";
-      break;
-    case '\t':
-      out += "\\t";
-      break;
-    default:
-      out += "\\U00";
-      out += kHexadecimal[character >> 4];
-      out += kHexadecimal[character & 0xF];
-  }
-}
 
 std::string_view xmlEntity(char c) noexcept {
   return c == '&' ? "&amp;" : c == '<' ? "&lt;" : "&gt;";
@@ -63,7 +39,7 @@ std::string asQuoted(std::string_view text, char quote) {
   while (!text.empty()) {
     const utf8::Decoded next = utf8::decode(text);
     if (isControl(next.codePoint)) {
-      appendControl(quoted, next.codePoint);
+      appendEscapedControl(quoted, next.codePoint);
     } else {
       const bool isMark = text[0] == '\\' || text[0] == quote;
       quoted.append(isMark ? "\\" : "").append(text.substr(0, next.length));

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include <orvanta/text/HexDigit.h>
 #include <orvanta/text/Utf8.h>
 
 namespace ovlocalize {
@@ -40,7 +41,7 @@ std::string written(std::string_view text, bool isKey) {
     if (mustBeWritten(next.codePoint, isKey) || escapeAt(text) <= 0xFFFF) {
       out += kEscape;
       for (int shift = 12; shift >= 0; shift -= 4) {
-        out += "0123456789ABCDEF"[(next.codePoint >> shift) & 0xF];
+        out += orvanta::kHexadecimalDigits[(next.codePoint >> shift) & 0xF];
       }
     } else {
       out += text.substr(0, next.length);
