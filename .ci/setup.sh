@@ -97,7 +97,8 @@ fingerprint() {
 core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev libgettextpo-dev fonts-noto-core
   python3-minimal python3-fonttools)
 # ICU is the reference for directions of languages, plural rules and messages.
-test_packages=(libgtest-dev libgmock-dev clang clang-format libclang-rt-14-dev libicu-dev pkgconf doxygen)
+test_packages=(libgtest-dev libgmock-dev clang clang-format clang-tidy shellcheck
+  libclang-rt-14-dev libicu-dev pkgconf doxygen)
 # The last is a font with Han letters, for the pictures of the demo.
 qt_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev fonts-droid-fallback)
 # The modules are what QtQuick.Controls needs at run time.
