@@ -14,8 +14,8 @@ std::string replaced(std::string text, std::string_view what, const std::string&
   return text;
 }
 
-const char* const kKeys[] = {"section.#.title",       "Save # files?", "KEY_#", "#",
-                             "Do you want \\\"#\\\"", "%@ of #"};
+const char* const kKeys[] = {"section.#.title",      "Save # files?", "KEY_#", "#",
+                             R"(Do you want \"#\")", "%@ of #"};
 
 const char* const kValues[] = {"Plain text #",
                                "Gr\u00FC\u00DFe #, \u05E9\u05DC\u05D5\u05DD, \U0001F600",
@@ -90,7 +90,7 @@ std::string inventCollection(std::mt19937& random) {
     case 1:
       return "(\n  { " + inner + "1 = \"Wrong\"; },\n  { " + inner + "2 = Wrong; }\n)";
     case 2:
-      return "{ " + inner + "1 = <0fab 12>; \"" + inner + "2\" = \"Wrong\"; }";
+      return "{ " + inner + "1 = <0fab 12>; \"" + inner + R"(2" = "Wrong"; })";
     default:
       return "(\"one\", two, <00ff>)";
   }
