@@ -106,7 +106,7 @@ std::shared_ptr<Bundle> Localizer::shippedBundleFor(const TextLink& link) const 
   const String folder = path::lastPathComponent(link.bundle()->bundlePath());
   for (const String& name :
        {path::stringByDeletingPathExtension(folder), link.locale(), languagePart(link.locale())}) {
-    const auto bundle = platform::Platform::current().bundles->bundleWithPath(
+    auto bundle = platform::Platform::current().bundles->bundleWithPath(
         mainBundle_->pathForResource(name, "lproj"_s));
     if (bundle != nullptr) {
       return bundle;
@@ -146,8 +146,10 @@ TextExplanation Localizer::explain(const String& key) {
   if (!chain.empty() && key.isPresent()) {
     TextChain::Found found = chain.find(HashedKey(key.view()));
     explanation.source = found.source;
-    explanation.text = found.source == TextSource::key ? key : std::move(found.text);
-    if (found.source != TextSource::key) {
+    if (found.source == TextSource::key) {
+      explanation.text = key;
+    } else {
+      explanation.text = std::move(found.text);
       const TextLink& link = chain.links()[found.link];
       explanation.locale = link.locale();
       explanation.bundlePath = link.bundle()->bundlePath();
