@@ -51,7 +51,7 @@ String TextSnapshot::localizedStringForKey(const String& key) const {
     return {};
   }
   TextChain::Found found = content_->find(HashedKey(key.view()), 0);
-  return found.source == TextSource::key ? key : std::move(found.text);
+  return found.source == TextSource::key ? String(key) : std::move(found.text);
 }
 
 String TextSnapshot::localizedStringForKey(std::string_view key) const {
