@@ -41,6 +41,14 @@ if(TARGET ovlocalize)
   install(TARGETS ovlocalize EXPORT OrvantaLocalizerCommand COMPONENT Command)
   install(EXPORT OrvantaLocalizerCommand NAMESPACE OrvantaLocalizer::
     DESTINATION ${package_dir} COMPONENT Command)
+  if(NOT CMAKE_CROSSCOMPILING)
+    # Written when the command was built.
+    get_target_property(pages_dir ovlocalize BINARY_DIR)
+    install(FILES ${pages_dir}/ovlocalize.1
+      DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Command)
+    install(FILES ${pages_dir}/ovlocalize.bash RENAME ovlocalize
+      DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions COMPONENT Command)
+  endif()
 endif()
 if(TARGET ovaudit)
   # In the package of whatever it links with.

@@ -111,6 +111,8 @@ TEST_F(Check, LooksAtFilesAndFolders) {
       "rule": "statement",
       "file": "b/de.lproj/Localizable.strings",
       "line": 3,)"));
+  run("${OV%% *} --bundle b --cache no check");
+  EXPECT_EQ(err_, "ovlocalize: no such caches folder: no\n");
   run("${OV%% *} --bundle c check");
   EXPECT_EQ(err_, "ovlocalize: no languages in the folder c\n");
 }

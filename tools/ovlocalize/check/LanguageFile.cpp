@@ -125,6 +125,9 @@ std::vector<LanguageFolder> readLanguageFolders(const Settings& settings) {
   folders.push_back(readFolder(bundle, false));
   const fs::path cache = fs::path(settings.cache) / orvanta::cacheDirectoryName;
   std::error_code ignored;
+  if (!settings.cache.empty() && !fs::is_directory(settings.cache, ignored)) {
+    throw Failure("no such caches folder: " + settings.cache);
+  }
   if (!settings.cache.empty() && fs::exists(cache, ignored)) {
     folders.push_back(readFolder(cache.string(), true));
   }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 
 #include <orvanta/messages/PluralKeyword.h>
 
@@ -24,15 +25,28 @@ struct Lack {
   std::int64_t number;
 };
 
-std::string_view keywordFor(std::string_view language, const PluralShape& plural,
-                            std::int64_t number) {
-  const double left = static_cast<double>(number) - plural.offset;
-  return std::trunc(left) == left
-             ? orvanta::pluralKeyword(language, static_cast<std::int64_t>(left), plural.type)
-             : orvanta::pluralKeyword(language, left, plural.type);
+// The keywords of a language for the usual numbers. A table may hold any number of plurals.
+const std::vector<std::string_view>& usualKeywords(const std::string& language,
+                                                   orvanta::PluralType type) {
+  static std::map<std::pair<std::string, orvanta::PluralType>, std::vector<std::string_view>> known;
+  std::vector<std::string_view>& keywords = known[{language, type}];
+  if (keywords.empty()) {
+    for (std::int64_t number = 0; number <= kUsual; ++number) {
+      keywords.push_back(orvanta::pluralKeyword(language, number, type));
+    }
+  }
+  return keywords;
 }
 
-std::vector<Lack> lacksOf(std::string_view language, const PluralShape& plural) {
+std::string_view keywordFor(const std::string& language, const PluralShape& plural,
+                            std::int64_t number) {
+  const double left = std::abs(static_cast<double>(number) - plural.offset);
+  const bool isUsual = left <= static_cast<double>(kUsual) && std::trunc(left) == left;
+  return isUsual ? usualKeywords(language, plural.type)[static_cast<std::size_t>(left)]
+                 : orvanta::pluralKeyword(language, left, plural.type);
+}
+
+std::vector<Lack> lacksOf(const std::string& language, const PluralShape& plural) {
   std::vector<Lack> lacks;
   const auto ask = [&](std::int64_t number) {
     if (plural.numbers.contains(static_cast<double>(number))) {
