@@ -12,7 +12,7 @@ TextBindings& TextBindings::shared() {
 
 TextBindings::TextBindings() : observer_([this] { applyAll(); }) {}
 
-void TextBindings::bind(QObject* object, const QByteArray& name, Text text, Set set) {
+void TextBindings::bind(QObject* object, const QByteArray& name, Text text, const Set& set) {
   if (!bindings_.contains(object)) {
     connect(object, &QObject::destroyed, this, [this, object] { bindings_.remove(object); });
   }

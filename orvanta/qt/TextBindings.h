@@ -22,7 +22,7 @@ class TextBindings : public QObject {
 
   /// Sets the text, and again after every change of language for as long as `object` lives. Takes
   /// the place of the object's binding under the same name, unless the name is empty.
-  void bind(QObject* object, const QByteArray& name, Text text, Set set);
+  void bind(QObject* object, const QByteArray& name, Text text, const Set& set);
   /// Takes a binding away.
   void unbind(QObject* object, const QByteArray& name);
   /// Sets the bound texts of the object again.

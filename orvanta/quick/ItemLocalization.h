@@ -56,10 +56,9 @@ class ItemLocalization : public QObject, public QQmlParserStatus {
   /// The item is mirrored now, or not any more.
   virtual void mirrored() {}
 
- private Q_SLOTS:
-  void effectiveAlignmentChanged() { mirrored(); }
-
  private:
+  Q_SLOT void effectiveAlignmentChanged() { mirrored(); }
+
   void applyKey();
   void followMirroring();
 

@@ -51,7 +51,7 @@ void registerAgainForNewApplication() {
 
 // The families in the file; none when Qt cannot read it.
 QStringList addForEveryApplication(const QByteArray& file) {
-  const QStringList families =
+  QStringList families =
       QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(file));
   if (!families.isEmpty()) {
     if (registeredFiles().isEmpty()) {
