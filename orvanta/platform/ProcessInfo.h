@@ -16,6 +16,7 @@ struct OperatingSystemVersion {
   long patchVersion = 0;
 
   /// Number by number.
+  // NOLINTNEXTLINE(modernize-use-nullptr): takes the 0 of a defaulted comparison for null.
   friend auto operator<=>(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
 };
 

@@ -51,7 +51,7 @@ TEST(LabelAllocations, OfAChangeAreTheSameForOneLabelAndForTenThousand) {
                                   {"ar", stringsOf("Arabic")},
                                   {"he", stringsOf("Hebrew")}});
   const char* const kLocales[] = {"fr", "ar", "he-IL", "ar-EG", "en"};
-  const auto warmUp = liveLabels(2 * kSizes * 3);
+  const auto warmUp = liveLabels(std::size_t{2} * kSizes * 3);
   for (const char* locale : kLocales) {
     app.speak({locale});
   }

@@ -107,7 +107,7 @@ const char* TextRecovery::recoverStatement(const DamagedStatement& statement,
 // the answer of a server.
 bool TextRecovery::isWholeText(const DamagedStatement& statement, const char* end) const noexcept {
   return end == scanner_.end() && statements_.count() == 0 && !isQuote(*statement.begin) &&
-         !isQuote(*statement.value);
+         statement.value != nullptr && !isQuote(*statement.value);
 }
 
 // Handles a value with a quote and a semicolon inside: the previous statement was taken to end
