@@ -83,6 +83,15 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
+// AddressSanitizer has one of its own, which does not.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  try {
+    return operator new(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
