@@ -157,6 +157,13 @@ TEST_F(Exchange, RefusesInOneLineAndWritesNothing) {
   write(kFile, "<dict/>");
   import("x");
   EXPECT_THAT(err_, HasSubstr("cannot hold these texts")) << status_;
+  // A name at which something else than a file stands, such as /dev/null.
+  for (const char* command : {"export --language fr", "header --namespace a"}) {
+    run("rm -f pipe && mkfifo pipe && ${OV%% *} --bundle . " + std::string(command) +
+        " --output pipe; test -p pipe || echo replaced");
+    EXPECT_EQ(err_, "ovlocalize: cannot write pipe: it is not a regular file\n") << command;
+    EXPECT_EQ(out_, "") << command;
+  }
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A name becomes a part of a path.
+// A check for CLI11: the error message for a word that is not a single file name, else empty.
 std::string refusePath(const std::string& word) {
   return word.empty() || word.find('/') != std::string::npos ? "must be a name, not a path" : "";
 }
@@ -48,8 +48,10 @@ std::string fileInBundle(const Settings& settings, const std::string& language,
 }
 
 orvanta::strings::StringsDocument documentIn(const std::string& file, Missing missing) {
-  std::error_code ignored;
-  const bool isThere = missing == Missing::kRefused || fs::exists(file, ignored);
+  // Only a file that is known not to be there is an empty one.
+  std::error_code error;
+  const bool isThere =
+      missing == Missing::kRefused || fs::status(file, error).type() != fs::file_type::not_found;
   auto document = orvanta::strings::StringsDocument::read(isThere ? contentsOf(file) : "");
   if (!document) {
     throw Failure(file + " is not a strings file");

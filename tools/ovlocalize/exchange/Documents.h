@@ -24,9 +24,11 @@ void addTableOptions(CLI::App& command, TableRequest& request);
 [[nodiscard]] std::string fileInBundle(const Settings& settings, const std::string& language,
                                        const std::string& table);
 
-/// The file; an empty one where there is none, if that is allowed. Throws `Failure` when it cannot
-/// be read or is no strings file.
+/// What `documentIn` does about a missing file: throws, or returns an empty document.
 enum class Missing { kRefused, kEmpty };
+
+/// The document of a strings file. Throws `Failure` when the file cannot be read or is not a
+/// strings file.
 [[nodiscard]] orvanta::strings::StringsDocument documentIn(const std::string& file,
                                                            Missing missing);
 

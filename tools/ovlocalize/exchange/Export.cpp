@@ -10,10 +10,10 @@
 
 #include "../CommandLine.h"
 #include "../Commands.h"
+#include "../ReplaceFile.h"
 #include "../Tables.h"
 #include "Documents.h"
 #include "Formats.h"
-#include "ReplaceFile.h"
 
 namespace ovlocalize {
 

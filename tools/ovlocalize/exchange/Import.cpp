@@ -12,9 +12,9 @@
 #include "../Escaping.h"
 #include "../FileContents.h"
 #include "../Json.h"
+#include "../ReplaceFile.h"
 #include "Documents.h"
 #include "Formats.h"
-#include "ReplaceFile.h"
 
 namespace ovlocalize {
 

@@ -1,18 +1,16 @@
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <map>
 #include <memory>
 #include <set>
 #include <sstream>
-#include <system_error>
 
 #include "../CommandLine.h"
 #include "../Commands.h"
 #include "../Escaping.h"
 #include "../MessageShape.h"
+#include "../ReplaceFile.h"
 #include "../Tables.h"
 #include "Identifiers.h"
 
@@ -136,19 +134,6 @@ std::string headerOf(const Entries& entries, const std::string& namespaceName) {
   return out.str();
 }
 
-void writeTo(const std::string& file, const std::string& text) {
-  std::error_code error;
-  const std::filesystem::path folder = std::filesystem::path(file).parent_path();
-  if (!folder.empty()) {
-    std::filesystem::create_directories(folder, error);
-  }
-  std::ofstream out(file, std::ios::binary | std::ios::trunc);
-  out << text;
-  if (!out.flush()) {
-    throw Failure("cannot write " + file);
-  }
-}
-
 int header(const Settings& settings, const HeaderRequest& request) {
   const auto table = tableOfLanguage(settings, "en");
   Entries entries;
@@ -161,7 +146,7 @@ int header(const Settings& settings, const HeaderRequest& request) {
   if (request.output.empty()) {
     std::cout << text;
   } else {
-    writeTo(request.output, text);
+    replaceFile(request.output, text);
   }
   return 0;
 }

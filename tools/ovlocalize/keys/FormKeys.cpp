@@ -35,7 +35,7 @@ bool isDynamicKey(std::string_view property) {
          std::isupper(static_cast<unsigned char>(property[2])) != 0;
 }
 
-// Finds the texts of one property: a string, or the strings of a list.
+// Collects the keys of a form from the properties that hold them, strings and lists of strings.
 class FormWalker : public pugi::xml_tree_walker {
  public:
   FormWalker(std::string_view form, const std::string& file, std::vector<KeyUse>& uses)

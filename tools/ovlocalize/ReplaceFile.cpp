@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "../Settings.h"
+#include "Settings.h"
 
 namespace ovlocalize {
 
@@ -71,6 +71,9 @@ void replaceFile(const std::string& file, const std::string& contents) {
   try {
     // A link stays one.
     const std::string target = fs::weakly_canonical(fs::absolute(file)).string();
+    if (fs::exists(target) && !fs::is_regular_file(target)) {
+      throw Failure("cannot write " + file + ": it is not a regular file");
+    }
     fs::create_directories(fs::path(target).parent_path());
     NewFile next(target);
     next.takePermissionsOf(target);
