@@ -32,13 +32,13 @@ StringList codesOf(const OVLocaleDictionary& languages) {
   return StringList(codes);
 }
 
-// Null when there is none; a dictionary that an application has set may hold a key without one.
+// Null when there is no record. A dictionary set by the application may map a key to null.
 const OVLocale* recordUnder(const HashedKey& key, const OVLocaleDictionary& languages) {
   const auto* locale = languages.find(key);
   return locale == nullptr ? nullptr : locale->get();
 }
 
-// Only texts count: the cache cannot store a value of another kind.
+// Whether any value is a text: the cache cannot store values of other types.
 bool holdsTexts(const StringsPayload& table) {
   return std::any_of(table.entries().begin(), table.entries().end(),
                      [](const StringsPayload::Entry& entry) { return entry.second.isText(); });
@@ -63,7 +63,7 @@ StringsUpdate writeTable(CacheUpdate& update, const String& language, const Stri
   return {language, StringsUpdate::Result::written, file, reason};
 }
 
-// Forgets the catalogue however an update ends.
+// Calls `refreshCache` when an update returns, and when it throws.
 struct RefreshAtExit {
   OVStringCache& cache;
   ~RefreshAtExit() { cache.refreshCache(); }
@@ -178,7 +178,7 @@ StringList OVStringCache::cachedLanguageCodes() {
   return codesOf(cachedLanguages());
 }
 
-// Properties with a setter whose value is never used: each read builds the list.
+// These setters do nothing, because each call of the getter builds a new list.
 void OVStringCache::setAvailableLanguageCodes(const StringList& /*codes*/) noexcept {}
 void OVStringCache::setCachedLanguageCodes(const StringList& /*codes*/) noexcept {}
 
@@ -256,6 +256,8 @@ void OVStringCache::refreshCache() noexcept {
 }
 
 void OVStringCache::clearCache() {
+  // First, so that the catalogue names no folder that is gone if removing them throws.
+  refreshCache();
   OVStringCacheUtilities::clearFilesFromDirectory(OVStringCacheUtilities::cacheDirectoryURL());
   setCachedLanguages({});
   setAvailableLanguages({});

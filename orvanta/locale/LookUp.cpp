@@ -81,6 +81,8 @@ const TextChain& Localizer::textChain() {
 
 TextChain Localizer::makeChain() const {
   TextChain chain;
+  // Also where none was asked for yet: links are told from downloads by it.
+  static_cast<void>(stringCache());
   const auto add = [&](TextSource source, const std::shared_ptr<Bundle>& bundle,
                        TextSource shippedSource) {
     const TextLink link(source, bundle, stringCache_);
