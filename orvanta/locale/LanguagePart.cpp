@@ -7,14 +7,16 @@ namespace orvanta {
 
 namespace {
 
-// No shorter identifier is split. In UTF-16 code units, each of which takes up to 3 bytes of UTF-8.
+// The minimum length, in UTF-16 code units, of an identifier that is split.
 constexpr std::size_t kShortestSplit = 3;
+// The maximum number of UTF-8 bytes for one UTF-16 code unit.
 constexpr std::size_t kLongestUnit = 3;
 
 bool isAscii(char byte) noexcept {
   return static_cast<unsigned char>(byte) < 0x80;
 }
 
+// Counts UTF-16 code units only where the number of bytes does not decide.
 bool isShort(std::string_view identifier) noexcept {
   if (identifier.size() < kShortestSplit) {
     return true;

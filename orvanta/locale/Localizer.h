@@ -26,17 +26,17 @@ inline constexpr std::string_view arabicCode = "ar";
 inline constexpr std::string_view hebrewCode = "he";
 inline constexpr std::string_view urduCode = "ur";
 
-/// Posted on the main queue, some time after each change, from no sender. The user info holds two
-/// lists, both always present.
+/// Posted asynchronously on the main queue after each change, without a sender. The user info
+/// always holds both of the lists below.
 inline constexpr std::string_view OVPreferredLocaleDidChangeNotification =
     "OVPreferredLocaleDidChangeNotification";
 /// In the user info: the available identifiers that the change adopted.
 inline constexpr std::string_view OVPreferredLocaleKey = "OVPreferredLocaleKey";
-/// In the user info: the identifiers that were asked for, country expanded; what was adopted when
-/// an absent list was passed.
+/// In the user info: the requested identifiers, expanded with the country; the adopted ones when
+/// the requested list was absent.
 inline constexpr std::string_view OVRawLocaleKey = "OVRawLocaleKey";
 
-/// Holds the application's current language and answers in it.
+/// Holds the application's current language and looks texts up in it.
 ///
 /// The current language is an ordered list of identifiers, the first of which has a bundle that
 /// strings come from; English stands in for what it lacks. A change stores the new state at once
@@ -49,12 +49,12 @@ inline constexpr std::string_view OVRawLocaleKey = "OVRawLocaleKey";
 ///
 /// Shortage of memory: whatever has to build a list, a catalogue or a table may throw
 /// `std::bad_alloc`. The object is then usable, and the next call tries again; a change of language
-/// has happened or not, but may be without its notification. A look-up of which both tables are in
-/// memory does not allocate.
+/// has happened or not, but may be without its notification. A look-up whose tables are all in
+/// memory does not allocate, except to copy a key.
 ///
-/// What an application's callback throws reaches the caller of the operation. The library's own
-/// state is then whole: a notification has reached the other handlers, and steps that are queued
-/// stay queued. What a log sink throws is dropped.
+/// An exception from an application's callback reaches the caller of the operation. The library's
+/// own state stays valid: a notification has reached the other handlers, and queued steps stay
+/// queued. An exception from a log sink is dropped.
 ///
 /// In a child process made by `fork` see `platform::MainQueue`.
 class ORVANTA_EXPORT Localizer {
@@ -85,12 +85,12 @@ class ORVANTA_EXPORT Localizer {
   /// the list as `originalLocales`, and adopts it. An absent country leaves the list as it is.
   void updatePreferredLocales(const StringList& languages, const String& country);
 
-  // ── Asking in it ───────────────────────────────────────────────────────────────────────────
+  // ── Looking texts up ───────────────────────────────────────────────────────────────────────
 
   /// The text in the current language; else in English; else the key itself, as the handle that
-  /// was passed in. A text that is found empty stays empty in the current language, but does not
-  /// stand in from English. Absent when there is no bundle at all. A text that is found costs no
-  /// allocation and outlives any later change.
+  /// was passed in. An empty text of the current language is returned; an empty English text is
+  /// not, and gives the key. Absent when there is no bundle at all. A text that is found needs no
+  /// allocation and stays valid after any later change.
   [[nodiscard]] String localizedStringForKey(const String& key);
   /// The same; a key that is found nowhere is copied.
   [[nodiscard]] String localizedStringForKey(std::string_view key);
@@ -125,7 +125,7 @@ class ORVANTA_EXPORT Localizer {
   /// one lacks, before English: a table downloaded for an older version of the application lacks
   /// the keys of the new one. Off by default. An empty text of the shipped table stays empty.
   [[nodiscard]] bool shippedTextsStandIn() const noexcept { return shippedTextsStandIn_; }
-  /// Counts from the next look-up on; posts nothing.
+  /// Takes effect with the next look-up; posts nothing.
   void setShippedTextsStandIn(bool standIn) noexcept;
 
   /// The current identifiers, `preferredLocales` itself.
@@ -149,10 +149,11 @@ class ORVANTA_EXPORT Localizer {
 
   // ── Matching ───────────────────────────────────────────────────────────────────────────────
 
-  /// What a request comes to: each identifier through the fallback table, kept when it or its
-  /// language part has a bundle; else its language part through the table likewise. Order and
-  /// duplicates stay. ["en"], unchecked, for an absent or empty request; absent when nothing is
-  /// available.
+  /// The available identifiers for the requested ones. Each is replaced by its entry in the
+  /// fallback table, if there is one. The result is taken when it, or its language part, has a
+  /// bundle; otherwise the same is tried with the language part of the request. A request without a
+  /// bundle is left out; order and duplicates are kept. An absent or empty request gives ["en"]
+  /// without a check. Absent when nothing is available.
   [[nodiscard]] StringList availableLocalesFromArray(const StringList& requested) const;
 
   /// The identifier without blanks at its ends, or what the table has in its place. Absent for
@@ -256,7 +257,7 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] ORVANTA_HIDDEN Resolved resolve(const String& identifier) const;
   // Whether `languageBundleForLocale` would give one.
   [[nodiscard]] ORVANTA_HIDDEN bool hasBundleFor(const Resolved& resolved) const;
-  // What one request comes to.
+  // The result of matching one requested identifier.
   struct Match {
     bool isAvailable = false;
     String locale;
@@ -266,8 +267,8 @@ class ORVANTA_EXPORT Localizer {
   [[nodiscard]] ORVANTA_HIDDEN Match match(const String& request) const;
   ORVANTA_HIDDEN void explainLocale(TextExplanation& explanation) const;
 
-  // Whether there is a chain to ask; with English in it, where there is an English bundle. False
-  // when there is no current bundle and the device's choice gives none.
+  // Makes `chain_` if needed, with English if there is an English bundle. False when there is no
+  // current bundle and the device's languages give none.
   [[nodiscard]] ORVANTA_HIDDEN bool hasChain();
   [[nodiscard]] ORVANTA_HIDDEN bool settleChain();
   [[nodiscard]] ORVANTA_HIDDEN TextChain makeChain() const;
@@ -284,8 +285,8 @@ class ORVANTA_EXPORT Localizer {
 
   bool rightToLeftOrientation_ = false;
   bool shippedTextsStandIn_ = false;
-  // Whether `chain_` holds all that a look-up needs, English included. Whatever changes what it is
-  // made of resets it.
+  // Whether `chain_` is made and includes English. Setters of the properties that it is made from
+  // reset it.
   bool chainIsComplete_ = false;
   TextChain chain_;
   std::shared_ptr<const TextObserver> textObserver_;

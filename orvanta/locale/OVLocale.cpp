@@ -13,8 +13,8 @@ namespace orvanta {
 
 namespace {
 
-// Whether `other` is an instance of the class of `self`, or of a subclass: a `dynamic_cast` to a
-// class that only the run time knows. The ABI has that operation, the language has not.
+// Whether `other` is an instance of the dynamic type of `self`, or of a subclass. C++ has no
+// `dynamic_cast` to a type known only at run time, so this calls the function of the Itanium ABI.
 bool isOfClassOf(const OVLocale& self, const OVLocale& other) noexcept {
   const std::type_info& base = typeid(OVLocale);
   const std::type_info& wanted = typeid(self);
@@ -27,7 +27,7 @@ bool isOfClassOf(const OVLocale& self, const OVLocale& other) noexcept {
                              kNoHint) != nullptr;
 }
 
-// What `takeOver` takes, in its order.
+// The configuration keys. `takeOver` expects their texts in this order.
 std::span<const HashedKey> entryKeys() {
   static const std::array keys = {HashedKey(OVOrvantaLanguageVersionKey),
                                   HashedKey(OVOrvantaLanguageAppleIDKey),
@@ -37,11 +37,11 @@ std::span<const HashedKey> entryKeys() {
 
 }  // namespace
 
-// What a record reads later, and the lock for it.
+// The reader of a table that has not been read yet, and the mutex that guards reading it.
 struct OVLocale::Unread {
   explicit Unread(platform::Bundle::TextsReader reader) noexcept : read(std::move(reader)) {}
   std::mutex mutex;
-  platform::Bundle::TextsReader read;  // Empty once it was called.
+  platform::Bundle::TextsReader read;  // Empty once it has succeeded.
 };
 
 OVLocale::OVLocale(String orvantaName, String appleName, String version,
@@ -66,7 +66,7 @@ std::shared_ptr<OVLocale> OVLocale::initWithOrvantaName(String orvantaName, Stri
 std::shared_ptr<OVLocale> OVLocale::recordOf(const std::shared_ptr<platform::Bundle>& bundle) {
   const String path = bundle == nullptr ? String() : bundle->bundlePath();
   const String name = path::stringByDeletingPathExtension(path::lastPathComponent(path));
-  // The name stands in for the platform's identifier until the table is read.
+  // The name is also the platform's identifier, unless the table names another one.
   return name.isAbsent() ? nullptr : initWithOrvantaName(name, name, {}, bundle, {});
 }
 

@@ -17,8 +17,8 @@
 namespace orvanta {
 
 /// The keys of the three configuration entries that a language's table may carry beside its
-/// ordinary strings. ("ID" in the constant and "Id" in the value is no slip: tables in use are
-/// written so.)
+/// ordinary strings. "ID" in the constant's name and "Id" in its value are intended: existing
+/// tables contain "Id".
 inline constexpr std::string_view OVOrvantaLanguageAppleIDKey =
     "CONFIG-DO_NOT_TRANSLATE-OrvantaLanguageAppleIdKey";
 inline constexpr std::string_view OVOrvantaLanguageEquivalentsKey =
@@ -28,13 +28,14 @@ inline constexpr std::string_view OVOrvantaLanguageVersionKey =
 
 /// One language that the application can show.
 ///
-/// A record is a shared object with identity: never copied, its hash is its address. Built and
-/// changed on the thread that uses the catalogue; reading one from several threads is safe once it
-/// is built.
+/// A record is a shared object with identity: it is never copied, and its hash is its address.
+/// Built and changed on the thread that uses the catalogue. Several threads may read a record at
+/// the same time once it is built, while none changes it.
 ///
-/// What a shipped table says of its language is read when it is first asked for, as the file is
-/// then: an application starts without reading all its tables. Those operations may throw
-/// `std::bad_alloc` and are then as if they had not been called.
+/// The entries of a shipped table are read lazily, by the first operation that needs one of them,
+/// from the file as it is at that time. So an application starts without reading all its tables.
+/// Operations that read the table may throw `std::bad_alloc`; they then have no effect, and the
+/// next one reads it again.
 class ORVANTA_EXPORT OVLocale {
  public:
   /// A record of exactly these values; absent ones are kept as absent.
@@ -47,7 +48,8 @@ class ORVANTA_EXPORT OVLocale {
   [[nodiscard]] static std::shared_ptr<OVLocale> initWithBundle(
       const std::shared_ptr<platform::Bundle>& bundle);
 
-  /// The same; the table is read when a value that it may name is first asked for.
+  /// The same, but reads the table lazily: with the first access to `appleLocaleName`, `version` or
+  /// `fallbackLocales`. Reads it at once for a bundle without a `laterTexts` reader.
   [[nodiscard]] static std::shared_ptr<OVLocale> initWithUnreadBundle(
       const std::shared_ptr<platform::Bundle>& bundle);
 
@@ -69,8 +71,8 @@ class ORVANTA_EXPORT OVLocale {
   /// Replaces it; the catalogue keeps the record where it is.
   void setOrvantaLocaleName(String name) noexcept { orvantaLocaleName_ = std::move(name); }
 
-  /// The platform's identifier, under which the catalogue keeps a downloaded language. The very
-  /// object of `orvantaLocaleName` when the table names none.
+  /// The platform's identifier, under which the catalogue keeps a downloaded language. When the
+  /// table names none, the same String object (see `isSameObject`) as the folder's name.
   [[nodiscard]] const String& appleLocaleName() const ORVANTA_LIFETIME_BOUND {
     makeRead();
     return appleLocaleName_;
@@ -131,14 +133,14 @@ class ORVANTA_EXPORT OVLocale {
     }
   }
   void readTable() const;
-  // With the name and the bundle alone; null where the bundle gives no name.
+  // A record with the name and the bundle only. Null when the bundle's path gives no name.
   [[nodiscard]] ORVANTA_HIDDEN static std::shared_ptr<OVLocale> recordOf(
       const std::shared_ptr<platform::Bundle>& bundle);
-  // `texts` are those under the three keys above.
+  // Sets the values from the texts of the three configuration keys.
   ORVANTA_HIDDEN void takeOver(const std::vector<String>& texts) const;
 
   bool availableForDownload_ = false;
-  // While true, what the table may name is written under the lock of `unread_`, and read by nobody.
+  // While true, the values from the table are accessed only under the mutex of `unread_`.
   mutable std::atomic<bool> isUnread_{false};
   std::unique_ptr<Unread> unread_;
   String orvantaLocaleName_;

@@ -1,4 +1,4 @@
-// Localizer's punctuation and mirroring.
+// The member functions of Localizer for punctuation and mirroring.
 #include <string>
 
 #include <orvanta/locale/LanguagePart.h>

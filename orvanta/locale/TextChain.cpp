@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include <orvanta/cache/CachePath.h>
+#include <orvanta/locale/Localizer.h>
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/locale/TextChain.h>
 #include <orvanta/text/PathString.h>
@@ -8,8 +9,6 @@
 namespace orvanta {
 
 namespace {
-
-constexpr std::string_view kLanguageOfOtherFolders = "en";
 
 String localeOf(const platform::Bundle& bundle) {
   String named = bundle.textForKey(HashedKey(OVOrvantaLanguageAppleIDKey), {});
@@ -19,7 +18,7 @@ String localeOf(const platform::Bundle& bundle) {
   const String path = bundle.bundlePath();
   return path.view().ends_with(kLanguageFolderExtension)
              ? path::stringByDeletingPathExtension(path::lastPathComponent(path))
-             : String::fromStatic(kLanguageOfOtherFolders);
+             : String::fromStatic(lastResortLocale);
 }
 
 }  // namespace
@@ -61,8 +60,9 @@ TextChain::Found TextChain::find(const HashedKey& key, std::size_t first) const 
   return {{}, TextSource::key, size_};
 }
 
-// Where a table is not in memory yet, or a bundle keeps its texts elsewhere. Asks copies of the
-// links, because an application's bundle may change the language, and with it this chain.
+// The slow path of `find`: for a table that is not in memory yet, or a bundle that keeps its texts
+// elsewhere. Works on a copy of the chain, because `textForKey` of an application's bundle may
+// change the language and thereby reset this chain.
 TextChain::Found TextChain::findInBundles(const HashedKey& key, std::size_t first) const {
   const TextChain held = *this;
   for (std::size_t at = first; at < held.size_; ++at) {

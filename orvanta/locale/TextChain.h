@@ -17,30 +17,32 @@
 
 namespace orvanta {
 
-/// Which link of the chain a text comes from.
+/// Which kind of link in the chain a text comes from.
 enum class TextSource : std::uint8_t {
   current,  ///< The current language.
   standIn,  ///< The table that the application ships for the current language; see
             ///< `Localizer::setShippedTextsStandIn`.
-  english,
-  key,  ///< No table: the key is shown.
+  english,  ///< The English table.
+  key,      ///< No table has a text: the key is shown.
 };
 
-/// Whether a text that a table holds is the answer. An empty English text gives way to the key.
+/// Whether a look-up returns `text`, which has null data when the table has no entry. An empty
+/// English text is not returned: the look-up goes on, and in the end shows the key.
 [[nodiscard]] constexpr bool isAnswer(TextSource source, std::string_view text) noexcept {
   return source == TextSource::english ? !text.empty() : text.data() != nullptr;
 }
 
-/// One table that a look-up asks.
+/// One table that look-ups search.
 class ORVANTA_EXPORT TextLink {
  public:
   TextLink() noexcept = default;
-  /// A link to the table of `bundle`. `cache` tells whether it was downloaded; it may be null.
+  /// A link to the table of `bundle`. `isDownloaded` compares its path with the folder of `cache`;
+  /// without a cache no table counts as downloaded.
   TextLink(TextSource source, std::shared_ptr<platform::Bundle> bundle,
            std::shared_ptr<OVStringCache> cache) noexcept
       : source_(source), bundle_(std::move(bundle)), cache_(std::move(cache)) {}
 
-  /// What the link is in its chain.
+  /// The kind of link.
   [[nodiscard]] TextSource source() const noexcept { return source_; }
   /// The bundle of the table; null in a link made without one.
   [[nodiscard]] const std::shared_ptr<platform::Bundle>& bundle() const& noexcept
@@ -48,12 +50,13 @@ class ORVANTA_EXPORT TextLink {
     return bundle_;
   }
 
-  /// The locale of the texts: what the table names as `OVOrvantaLanguageAppleIDKey`, else the name
-  /// of its folder; `lastResortLocale` for a folder that is no language's. Memoized.
+  /// The locale of the texts: the table's entry `OVOrvantaLanguageAppleIDKey`, else the folder's
+  /// name without ".lproj", else (another kind of folder) `lastResortLocale`. Memoized. Absent
+  /// without a bundle.
   [[nodiscard]] const String& locale() const& ORVANTA_LIFETIME_BOUND;
 
-  /// Whether the table stands in the cache of downloads; else it is shipped, or the application's
-  /// own.
+  /// Whether the table's path is inside the cache of downloaded tables. Other tables were shipped
+  /// or supplied by the application. False without a bundle or a cache.
   [[nodiscard]] bool isDownloaded() const;
 
  private:
@@ -63,37 +66,39 @@ class ORVANTA_EXPORT TextLink {
   mutable String locale_;
 };
 
-/// The tables that a look-up asks, in their order; the first is the current language's. What none
-/// of them has is shown as its key.
+/// The tables that look-ups search, in order of priority. A key that none of them has is shown
+/// itself.
 ///
-/// Every answer about a text is made from this list: look-ups, explanations, messages and
-/// snapshots. A value; used from one thread at a time, as bundles are.
+/// Look-ups, explanations, messages and snapshots all use this list. A copyable value. Used from
+/// one thread at a time, because bundles are.
 class ORVANTA_EXPORT TextChain {
  public:
-  /// The most links that a chain has.
+  /// The maximum number of links.
   static constexpr std::size_t kMostLinks = 4;
 
-  /// What `find` gives.
+  /// The result of `find`.
   struct Found {
     String text;        ///< Absent when no link has one.
-    TextSource source;  ///< `key` then.
-    std::size_t link;   ///< Its position among the links.
+    TextSource source;  ///< `key` when no link has a text.
+    std::size_t link;   ///< The index of the link; the number of links when none has a text.
   };
 
   /// Whether there are no links.
   [[nodiscard]] bool empty() const noexcept { return size_ == 0; }
-  /// The links in the order in which they are asked; valid until the chain changes.
+  /// The links in the order in which they are searched; valid until the chain changes.
   [[nodiscard]] std::span<const TextLink> links() const& noexcept ORVANTA_LIFETIME_BOUND {
     return {links_.data(), size_};
   }
 
-  /// Adds a link, unless an earlier one has the same bundle or there is none. There must be room.
+  /// Appends a link. Ignores one without a bundle, and one whose bundle an earlier link has. Must
+  /// not be called on a chain of `kMostLinks` links.
   void add(TextLink link);
 
-  /// Asks the links from the position `first` on.
+  /// The first text for `key` in the links from index `first` on.
   [[nodiscard]] Found find(const HashedKey& key, std::size_t first = 0) const;
 
-  /// The table of the link, if it is in memory; null where there is no such link.
+  /// The table of the link at this index. Null when it is not in memory yet, when the bundle keeps
+  /// its texts elsewhere, and when there is no such link.
   [[nodiscard]] const strings::StringTable* loadedTable(std::size_t link) const noexcept
       ORVANTA_LIFETIME_BOUND {
     return link < size_ ? links_[link].bundle()->loadedDefaultTable() : nullptr;

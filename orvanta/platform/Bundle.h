@@ -63,7 +63,7 @@ class ORVANTA_EXPORT Bundle {
 
   /// Gives what `textsForKeys` gives, of the file as it is when this is called. Callable on any
   /// thread, also after the bundle's life; the texts of the keys must be static. May throw
-  /// `std::bad_alloc`.
+  /// `std::bad_alloc`. Must not ask the record that it is read for, which holds a lock meanwhile.
   using TextsReader = std::function<std::vector<String>(std::span<const HashedKey>)>;
   /// What reads the texts of the table "Localizable" later. Empty where they have to be asked for
   /// now: the bundle holds the table in memory, or keeps its texts elsewhere.

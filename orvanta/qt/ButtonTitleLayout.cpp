@@ -9,14 +9,15 @@ namespace orvanta::qt {
 
 namespace {
 
-// The gap between icon and title that Qt's styles draw.
+// The pixels that Qt's styles leave between icon and title.
 constexpr int kIconGap = 4;
 
 QSize textSize(const QPushButton& button, const QString& title) {
   return button.fontMetrics().size(Qt::TextShowMnemonic, title);
 }
 
-// Styles draw the menu indicator beside the contents, and reserve the place when they draw a title.
+// The rectangle for icon and title: the contents without the menu indicator, whose width styles
+// subtract only when they draw the title.
 QRect placeOfTitle(const QPushButton& button, const QStyleOptionButton& option) {
   const QRect contents =
       button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button);
@@ -29,8 +30,8 @@ QRect placeOfTitle(const QPushButton& button, const QStyleOptionButton& option) 
                                              : contents.adjusted(0, 0, -indicator, 0);
 }
 
-// Styles draw icon and title in the middle of the rectangle that they are given: one that is as
-// wide as the two, with the style's margin around them, has them at the side.
+// The rectangle that puts icon and title at `side`. Styles center the two in the rectangle that
+// they are given, so it is only as wide as the two and the style's margin.
 QRect titleRect(const QPushButton& button, const QStyleOptionButton& option, Qt::Alignment side) {
   constexpr int kLeastMargin = 2;
   const QRect place = placeOfTitle(button, option);

@@ -13,15 +13,17 @@
 
 namespace orvanta::standard {
 
-/// Reads a few texts out of tables, on any thread, one table at a time. Keeps the memory of its
-/// probe for the next one: shared by the records of one catalogue, it goes with the last of them
-/// that is read.
+/// Reads a few texts of a table without keeping the table. Thread-safe: a mutex serializes the
+/// calls of `read`.
+///
+/// Keeps the buffers of its probe for the next table. Records share one object, and each releases
+/// it when it has read its table or is destroyed; the last one frees the buffers.
 class LaterTexts {
  public:
   explicit LaterTexts(std::shared_ptr<platform::FileManager> files) : files_(std::move(files)) {}
 
-  /// The texts under `keys` in the table at `path`, absent where it has none. Throws
-  /// `std::bad_alloc`.
+  /// One text for each of `keys` from the table at `path`; absent for a key that it lacks, and all
+  /// absent when there is no table. Throws `std::bad_alloc`.
   [[nodiscard]] std::vector<String> read(const String& path, std::span<const HashedKey> keys);
 
  private:
@@ -30,7 +32,7 @@ class LaterTexts {
   strings::PrefixProbe probe_;
 };
 
-/// The texts under `keys` in a table, absent where there is none.
+/// One text for each of `keys`; absent for a key that the table lacks.
 [[nodiscard]] std::vector<String> textsIn(const strings::StringTable& table,
                                           std::span<const HashedKey> keys);
 

@@ -11,8 +11,8 @@ namespace orvanta::standard {
 
 namespace {
 
-// Kernels round modification times to up to 10 ms, some file systems to one or two seconds. Within
-// that time another write of the same length leaves the stamp as it is.
+// Kernels round modification times to up to 10 ms, some file systems to one or two seconds. A
+// second write of the same length within that time does not change the stamp.
 bool isRacyAt(std::chrono::nanoseconds now, std::chrono::nanoseconds modification) {
   using std::chrono_literals::operator""s;
   using std::chrono_literals::operator""ms;
@@ -49,7 +49,7 @@ std::shared_ptr<const strings::StringTable> TableFile::read(const String& path) 
     table = emptyTable();
   }
   probe_->releaseMemory();
-  // A file that cannot be read now may become readable without another stamp.
+  // A file that cannot be read now may become readable without a change of its stamp.
   state.isRacy = state.isRacy || (state.stamp && !bytes);
   reset();
   if (bytes && state.isRacy) {

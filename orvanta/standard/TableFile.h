@@ -39,7 +39,8 @@ class TableFile {
   [[nodiscard]] std::shared_ptr<const strings::StringTable> read(const String& path);
 
   /// The entries of the table at `path` whose keys begin with `prefix`, which `prefixToProbeFor`
-  /// gave. Reads them without making the table, and remembers them; never null.
+  /// gave. Reads them without making the table, and then answers from memory until `reset`; never
+  /// null.
   [[nodiscard]] std::shared_ptr<const strings::StringTable> entriesWithPrefix(
       std::string_view prefix, const String& path);
 

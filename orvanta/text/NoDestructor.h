@@ -14,7 +14,7 @@ namespace orvanta {
 template <typename T>
 class NoDestructor {
  public:
-  /// Makes the object in place.
+  /// Constructs the object from these arguments.
   template <typename... Arguments>
   explicit NoDestructor(Arguments&&... arguments) {
     ::new (static_cast<void*>(storage_)) T(std::forward<Arguments>(arguments)...);
@@ -23,9 +23,9 @@ class NoDestructor {
   NoDestructor& operator=(const NoDestructor&) = delete;
   ~NoDestructor() = default;
 
-  /// The object.
+  /// The object; valid until the process ends.
   [[nodiscard]] T& operator*() noexcept { return *get(); }
-  /// The object.
+  /// The object; valid until the process ends.
   [[nodiscard]] T* operator->() noexcept { return get(); }
 
  private:

@@ -1,4 +1,5 @@
 #include <QGlyphRun>
+#include <QHash>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -8,7 +9,7 @@ namespace ovaudit {
 
 namespace {
 
-// Blanks, controls and format characters need none.
+// White space, control and format characters are drawn without a glyph.
 bool needsGlyph(char32_t character) {
   switch (QChar::category(character)) {
     case QChar::Other_Control:
@@ -18,13 +19,14 @@ bool needsGlyph(char32_t character) {
     case QChar::Separator_Space:
       return false;
     default:
-      // Variation selectors only choose between glyphs.
+      // A variation selector chooses the glyph of the character before it.
       return !(character >= 0xFE00 && character <= 0xFE0F) &&
              !(character >= 0xE0100 && character <= 0xE01EF);
   }
 }
 
-// As it is drawn: with the fonts that Qt falls back to. Glyph 0 is that for a missing one.
+// Whether `font`, or a font that Qt substitutes for it, has a glyph. Index 0 is the glyph that
+// fonts draw for a character that they lack.
 bool hasGlyph(char32_t character, const QFont& font) {
   QTextLayout layout(QString::fromUcs4(&character, 1), font);
   layout.beginLayout();

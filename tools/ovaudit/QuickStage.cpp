@@ -22,14 +22,14 @@ using ovlocalize::Failure;
 
 namespace {
 
-// Of QML types, whose class names carry a number.
+// The type's name without the suffix that the QML engine adds, such as "_QMLTYPE_12".
 QString className(const QObject& object) {
   const QString name = QLatin1String(object.metaObject()->className());
   return name.section(QStringLiteral("_QML"), 0, 0);
 }
 
-// The name of the item or of the nearest one around it: the text of a button is an item of its own.
-// What has no context was not written in QML, and is named by Qt.
+// The object name of the item, else of its nearest ancestor that has one: the text of a button is a
+// child item without a name. Items without a QML context are skipped: Qt created and named them.
 QString nameOf(const QQuickItem& item) {
   for (const QQuickItem* around = &item; around != nullptr; around = around->parentItem()) {
     if (!around->objectName().isEmpty() && QQmlEngine::contextForObject(around) != nullptr) {
@@ -58,7 +58,7 @@ QRectF visiblePart(const QQuickItem& item, QRectF place) {
 QSize neededSize(const QQuickItem& item, const DrawnText& text, const QSizeF& padding) {
   const auto number = [&](const char* property) { return item.property(property).toReal(); };
   const bool isTruncated = item.property("truncated").toBool();
-  // Of a text with an ellipsis the contents are what is left of it.
+  // For a truncated text, contentWidth is the width of the part that is drawn.
   const qreal width = isTruncated
                           ? std::max(number("contentWidth"), item.implicitWidth() - padding.width())
                           : number("contentWidth");
@@ -115,11 +115,11 @@ class QuickStage final : public Stage {
     QCoreApplication::processEvents();
   }
 
-  // The item goes before the window that shows it.
+  // Destroys the item before the window that shows it.
   ~QuickStage() override { root_.reset(); }
 
   [[nodiscard]] QList<DrawnText> texts() const override {
-    // Positions are updated when a frame is made.
+    // Rendering a frame updates the items' positions.
     static_cast<void>(picture());
     QList<DrawnText> texts;
     for (QList<QQuickItem*> open = {window()->contentItem()}; !open.isEmpty();) {

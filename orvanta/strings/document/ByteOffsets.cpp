@@ -19,7 +19,7 @@ void ByteOffsets::passCharacter() noexcept {
   switch (text_.encoding) {
     case TextEncoding::kUtf8:
     case TextEncoding::kBrokenUtf8:
-      // What is invalid was replaced by a character of another length.
+      // In `utf8_`, U+FFFD replaces each invalid sequence, whose length may differ.
       byteAt_ += utf8::decode(text_.bytes.substr(byteAt_, utf8::kLongest)).length;
       break;
     case TextEncoding::kUtf16Little:

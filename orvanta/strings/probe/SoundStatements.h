@@ -17,7 +17,7 @@ namespace orvanta::strings {
 template <typename Text>
 class SoundStatements {
  public:
-  /// The text must outlive this.
+  /// The bytes that `text` views must outlive this.
   explicit SoundStatements(Text text) noexcept : text_(text), quotes_(text) {}
 
   /// Advances to the next statement. False at the end of the text, and before anything that is not
@@ -39,14 +39,15 @@ class SoundStatements {
   /// Whether `next` reached the end of the text.
   [[nodiscard]] bool isAtEnd() const noexcept { return isAtEnd_; }
 
-  /// The current statement, from the end of the previous one; in units.
+  /// The range of the current statement, in units of the text. It begins where the previous one
+  /// ends, so it includes the white space and comments before the key.
   [[nodiscard]] std::size_t begin() const noexcept { return begin_; }
   [[nodiscard]] std::size_t end() const noexcept { return end_; }
 
  private:
   static constexpr std::size_t kNone = QuoteIndex<Text>::kNone;
 
-  // `kNone` where no statement of the usual kind begins at `key`.
+  // The end of the statement at `key`; `kNone` if it is not of the usual kind.
   [[nodiscard]] std::size_t statementEnd(std::size_t key) noexcept {
     std::size_t at = stringEnd(key);
     if (at == kNone) {
@@ -77,7 +78,7 @@ class SoundStatements {
     return at < text_.size() && text_.asciiAt(at) == ascii;
   }
 
-  // The end of the string that opens at `at`, behind its closing quote.
+  // The index after the closing quote of the string that begins at `at`; `kNone` if none does.
   [[nodiscard]] std::size_t stringEnd(std::size_t at) noexcept {
     if (!quotes_.takeAt(at)) {
       return kNone;
@@ -87,7 +88,8 @@ class SoundStatements {
     return close == kNone ? kNone : close + 1;
   }
 
-  // Stops at a comment without an end, and at one that contains the beginning of another.
+  // The index after white space and comments. Stops before a comment that is not closed, and before
+  // one that contains "/*".
   [[nodiscard]] std::size_t skipIdle(std::size_t at) const noexcept {
     while (at < text_.size()) {
       const char character = text_.asciiAt(at);
