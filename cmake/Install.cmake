@@ -31,24 +31,28 @@ endif()
 if(TARGET orvanta_resources)
   install(FILES ${resource_files} DESTINATION ${resources_dir} COMPONENT Core)
 endif()
-if(TARGET ovlocalize)
+# install_command(<target> <component> [<argument of install> ...])
+function(install_command command component)
   if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     # Finds the library beside it in a tree that may be moved.
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
                BASE_DIRECTORY ${CMAKE_INSTALL_FULL_BINDIR} OUTPUT_VARIABLE lib_from_bin)
-    set_target_properties(ovlocalize PROPERTIES INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
+    set_target_properties(${command} PROPERTIES INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
   endif()
-  install(TARGETS ovlocalize EXPORT OrvantaLocalizerCommand COMPONENT Command)
+  install(TARGETS ${command} ${ARGN} COMPONENT ${component})
+  if(NOT CMAKE_CROSSCOMPILING)
+    # The man page and the completion of bash, written when the command was built.
+    get_target_property(folder ${command} BINARY_DIR)
+    install(FILES ${folder}/${command}.1
+      DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+    install(FILES ${folder}/${command}.bash RENAME ${command}
+      DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions COMPONENT ${component})
+  endif()
+endfunction()
+if(TARGET ovlocalize)
+  install_command(ovlocalize Command EXPORT OrvantaLocalizerCommand)
   install(EXPORT OrvantaLocalizerCommand NAMESPACE OrvantaLocalizer::
     DESTINATION ${package_dir} COMPONENT Command)
-  if(NOT CMAKE_CROSSCOMPILING)
-    # Written when the command was built.
-    get_target_property(pages_dir ovlocalize BINARY_DIR)
-    install(FILES ${pages_dir}/ovlocalize.1
-      DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Command)
-    install(FILES ${pages_dir}/ovlocalize.bash RENAME ovlocalize
-      DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions COMPONENT Command)
-  endif()
 endif()
 if(TARGET ovaudit)
   # In the package of whatever it links with.
@@ -56,7 +60,7 @@ if(TARGET ovaudit)
   if(TARGET orvanta_quick)
     set(audit_component QuickDevelopment)
   endif()
-  install(TARGETS ovaudit COMPONENT ${audit_component})
+  install_command(ovaudit ${audit_component})
 endif()
 
 configure_package_config_file(

@@ -56,7 +56,7 @@ complete ovlocalize --json check --l
 complete ovlocalize check --level ''
 complete ovlocalize --bundle ''
 complete ovlocalize dump d/)");
-  run("$OV generate . && bash d/complete");
+  run("$OV --generate . && bash d/complete");
   EXPECT_EQ(out_, "check\n--level\nerror warning\nd\nd/complete\n") << err_;
   const std::string page = contents("ovlocalize.1");
   EXPECT_THAT(page, HasSubstr(".SS check\n"));

@@ -11,9 +11,9 @@
 
 #include <CLI/CLI.hpp>
 #include <ovlocalize/Escaping.h>
+#include <ovlocalize/Pages.h>
 #include <ovlocalize/Settings.h>
 
-#include <orvanta/locale/Version.h>
 #include <orvanta/qt/LayoutDirectionFollower.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 
@@ -54,11 +54,7 @@ void addOptions(CLI::App& app, Request& request) {
   app.add_option("--font", request.font, "The application's font, as QFont::toString writes it")
       ->type_name("\"FAMILY,SIZE\"");
   app.add_flag("--mirrored", request.isMirrored, "Mirror layouts as LayoutDirectionFollower does");
-  app.set_version_flag("--version",
-                       "ovaudit " + std::to_string(ORVANTA_VERSION_MAJOR) + '.' +
-                           std::to_string(ORVANTA_VERSION_MINOR) + '.' +
-                           std::to_string(ORVANTA_VERSION_PATCH),
-                       "Print the version and exit");
+  ovlocalize::addVersionAndPages(app, "find texts of a form that do not fit in a language");
   app.add_flag("--json", request.asJson, "Print JSON");
   app.footer(
       "Examples:\n"

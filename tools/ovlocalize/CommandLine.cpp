@@ -10,9 +10,8 @@
 
 #include <unistd.h>
 
-#include <orvanta/locale/Version.h>
-
 #include "Escaping.h"
+#include "Pages.h"
 
 namespace ovlocalize {
 
@@ -21,12 +20,6 @@ namespace {
 constexpr const char* kDescription =
     "Asks the localization library about an application's languages: the .lproj folders in its\n"
     "bundle, and the tables that it downloaded into its cache.";
-#define OVLOCALIZE_TEXT_OF(number) #number
-#define OVLOCALIZE_VERSION(major, minor, patch)                                                 \
-  "ovlocalize " OVLOCALIZE_TEXT_OF(major) "." OVLOCALIZE_TEXT_OF(minor) "." OVLOCALIZE_TEXT_OF( \
-      patch)
-constexpr const char* kVersion =
-    OVLOCALIZE_VERSION(ORVANTA_VERSION_MAJOR, ORVANTA_VERSION_MINOR, ORVANTA_VERSION_PATCH);
 constexpr const char* kFooter =
     "`ovlocalize COMMAND --help` shows a command's options and examples.\n"
     "\n"
@@ -74,7 +67,7 @@ std::string refuseEmpty(const std::string& word) {
 CommandLine::CommandLine() : app_(kDescription, "ovlocalize") {
   app_.formatter(std::make_shared<Formatter>());
   app_.footer(kFooter);
-  app_.set_version_flag("--version", kVersion, "Print the version and exit");
+  addVersionAndPages(app_, "ask about and check the languages of an application");
   app_.require_subcommand(1);
   app_.fallthrough();
   app_.add_option("--bundle", settings_.bundle,

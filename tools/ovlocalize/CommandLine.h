@@ -30,9 +30,6 @@ class CommandLine {
   /// Parses the arguments and runs the command that they name. Returns the exit status.
   int run(int argc, char** argv);
 
-  /// The definitions of all commands.
-  [[nodiscard]] const CLI::App& app() const noexcept { return app_; }
-
  private:
   [[nodiscard]] std::string reasonOf(const CLI::ParseError& error) const;
   int parseAndRun(int argc, char** argv);

@@ -19,6 +19,5 @@ void addKeys(CommandLine& commands);
 void addExport(CommandLine& commands);
 void addImport(CommandLine& commands);
 void addHeader(CommandLine& commands);
-void addPages(CommandLine& commands);
 
 }  // namespace ovlocalize

@@ -22,7 +22,6 @@ int main(int argc, char** argv) {
     ovlocalize::addExport(commands);
     ovlocalize::addImport(commands);
     ovlocalize::addHeader(commands);
-    ovlocalize::addPages(commands);
     return commands.run(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "ovlocalize: " << ovlocalize::escaped(error.what()) << '\n';
