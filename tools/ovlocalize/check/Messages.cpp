@@ -19,50 +19,58 @@ constexpr std::array<std::string_view, 6> kKeywords = {"zero", "one",  "two",
 constexpr std::int64_t kUsual = 1000;
 constexpr std::int64_t kMillion = 1'000'000;
 
-// The first number of so many from 0 on for which a plural lacks the branch.
+// The whole numbers from 0 to `kUsual` that take each keyword in a language.
+using NumbersOfKeywords = std::map<std::string_view, std::vector<std::int64_t>>;
+
+NumbersOfKeywords numbersOfKeywords(const std::string& language, const PluralShape& plural) {
+  NumbersOfKeywords numbers;
+  for (std::int64_t number = 0; number <= kUsual; ++number) {
+    const double left = std::abs(static_cast<double>(number) - plural.offset);
+    numbers[orvanta::pluralKeyword(language, left, plural.type)].push_back(number);
+  }
+  return numbers;
+}
+
+// A table may hold any number of plurals; those without an offset share their numbers.
+const NumbersOfKeywords& usualNumbers(const std::string& language, const PluralShape& plural) {
+  static std::map<std::pair<std::string, orvanta::PluralType>, NumbersOfKeywords> known;
+  NumbersOfKeywords& numbers = known[{language, plural.type}];
+  if (numbers.empty()) {
+    numbers = numbersOfKeywords(language, plural);
+  }
+  return numbers;
+}
+
+// The first number that takes a keyword for which a plural lacks the branch.
 struct Lack {
-  std::string_view keyword;
   std::int64_t number;
+  std::string_view keyword;
 };
 
-// The keywords of a language for the usual numbers. A table may hold any number of plurals.
-const std::vector<std::string_view>& usualKeywords(const std::string& language,
-                                                   orvanta::PluralType type) {
-  static std::map<std::pair<std::string, orvanta::PluralType>, std::vector<std::string_view>> known;
-  std::vector<std::string_view>& keywords = known[{language, type}];
-  if (keywords.empty()) {
-    for (std::int64_t number = 0; number <= kUsual; ++number) {
-      keywords.push_back(orvanta::pluralKeyword(language, number, type));
-    }
-  }
-  return keywords;
-}
-
-std::string_view keywordFor(const std::string& language, const PluralShape& plural,
-                            std::int64_t number) {
-  const double left = std::abs(static_cast<double>(number) - plural.offset);
-  const bool isUsual = left <= static_cast<double>(kUsual) && std::trunc(left) == left;
-  return isUsual ? usualKeywords(language, plural.type)[static_cast<std::size_t>(left)]
-                 : orvanta::pluralKeyword(language, left, plural.type);
-}
-
+// In the order of the numbers.
 std::vector<Lack> lacksOf(const std::string& language, const PluralShape& plural) {
+  const bool hasOffset = plural.offset != 0;
+  const NumbersOfKeywords own =
+      hasOffset ? numbersOfKeywords(language, plural) : NumbersOfKeywords();
   std::vector<Lack> lacks;
-  const auto ask = [&](std::int64_t number) {
-    if (plural.numbers.contains(static_cast<double>(number))) {
-      return;
+  for (const auto& [keyword, numbers] : hasOffset ? own : usualNumbers(language, plural)) {
+    const auto lack = std::find_if(numbers.begin(), numbers.end(), [&](std::int64_t number) {
+      return !plural.numbers.contains(static_cast<double>(number));
+    });
+    if (lack != numbers.end() && !plural.keywords.contains(keyword)) {
+      lacks.push_back({*lack, keyword});
     }
-    const std::string_view keyword = keywordFor(language, plural, number);
-    const bool isKnown = std::any_of(lacks.begin(), lacks.end(),
-                                     [&](const Lack& lack) { return lack.keyword == keyword; });
-    if (!isKnown && !plural.keywords.contains(keyword)) {
-      lacks.push_back({keyword, number});
-    }
-  };
-  for (std::int64_t number = 0; number <= kUsual; ++number) {
-    ask(number);
   }
-  ask(kMillion);
+  std::sort(lacks.begin(), lacks.end(),
+            [](const Lack& one, const Lack& other) { return one.number < other.number; });
+  const std::string_view rare =
+      orvanta::pluralKeyword(language, static_cast<double>(kMillion) - plural.offset, plural.type);
+  const bool isRare = !plural.keywords.contains(rare) && !plural.numbers.contains(kMillion) &&
+                      std::none_of(lacks.begin(), lacks.end(),
+                                   [&](const Lack& lack) { return lack.keyword == rare; });
+  if (isRare) {
+    lacks.push_back({kMillion, rare});
+  }
   return lacks;
 }
 
