@@ -37,6 +37,13 @@ class Command : public testing::Test {
     err_ = contents("err");
   }
 
+  // The same with a terminal as standard output. Not where the system has none to give, as in a
+  // container without /dev/pts.
+  [[nodiscard]] bool runOnTerminal(const std::string& command) {
+    run("script -qec true /dev/null && TERM=xterm script -qec \"" + command + "\" /dev/null");
+    return err_.find("failed to create pseudo-terminal") == std::string::npos;
+  }
+
   // Makes the file's folder too.
   void write(const std::string& name, const std::string& text) const {
     fs::create_directories((folder_ / name).parent_path());
