@@ -1,4 +1,5 @@
 #include <array>
+#include <cstddef>
 #include <mutex>
 #include <span>
 #include <typeinfo>
@@ -9,9 +10,24 @@
 #include <orvanta/locale/OVLocale.h>
 #include <orvanta/text/PathString.h>
 
+#ifdef _LIBCPP_VERSION
+// The header of libc++ leaves out what its library has.
+namespace __cxxabiv1 {                               // NOLINT(bugprone-reserved-identifier)
+class __class_type_info;                             // NOLINT(bugprone-reserved-identifier)
+extern "C" void* __dynamic_cast(const void* object,  // NOLINT(bugprone-reserved-identifier)
+                                const __class_type_info* base, const __class_type_info* wanted,
+                                std::ptrdiff_t hint);
+}  // namespace __cxxabiv1
+#endif
+
 namespace orvanta {
 
 namespace {
+
+// The ABI's own view of a class. `std::type_info` is its first base.
+const abi::__class_type_info* classInfo(const std::type_info& type) noexcept {
+  return reinterpret_cast<const abi::__class_type_info*>(&type);
+}
 
 // Whether `other` is an instance of the dynamic type of `self`, or of a subclass. C++ has no
 // `dynamic_cast` to a type known only at run time, so this calls the function of the Itanium ABI.
@@ -22,9 +38,7 @@ bool isOfClassOf(const OVLocale& self, const OVLocale& other) noexcept {
     return true;
   }
   constexpr std::ptrdiff_t kNoHint = -1;
-  return abi::__dynamic_cast(&other, dynamic_cast<const abi::__class_type_info*>(&base),
-                             dynamic_cast<const abi::__class_type_info*>(&wanted),
-                             kNoHint) != nullptr;
+  return abi::__dynamic_cast(&other, classInfo(base), classInfo(wanted), kNoHint) != nullptr;
 }
 
 // The configuration keys. `takeOver` expects their texts in this order.
