@@ -1,5 +1,9 @@
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <charconv>
+#include <clocale>
+#include <cstdlib>
 #include <limits>
 
 #include <orvanta/messages/pattern/MessagePattern.h>
@@ -30,6 +34,34 @@ bool isSpecial(char character) {
 bool isOfNumber(char character) {
   return isDigit(character) || std::string_view("+-.eE").find(character) != std::string_view::npos;
 }
+
+constexpr std::size_t kLongestNumber = 127;  // As for ICU.
+
+// The whole text as a number, which has no "+" in front; absent when it is none, or is out of
+// range.
+#ifdef __cpp_lib_to_chars
+std::optional<double> realNumber(std::string_view text) noexcept {
+  double number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool isWhole = error == std::errc() && end == text.data() + text.size();
+  return isWhole ? std::optional(number) : std::nullopt;
+}
+#else
+// The from_chars of libc++ knows no real numbers. strtod would take the point from the locale of
+// the process, and accepts spaces, signs and hexadecimal digits.
+std::optional<double> realNumber(std::string_view text) noexcept {
+  static const locale_t locale = ::newlocale(LC_ALL_MASK, "C", nullptr);
+  std::array<char, kLongestNumber + 1> terminated{};
+  std::copy(text.begin(), text.end(), terminated.begin());
+  char* end = nullptr;
+  errno = 0;
+  const double number = ::strtod_l(terminated.data(), &end, locale);
+  const bool isWhole = !text.empty() && text.front() != '+' &&
+                       std::all_of(text.begin(), text.end(), isOfNumber) &&
+                       end == terminated.data() + text.size();
+  return isWhole && errno == 0 ? std::optional(number) : std::nullopt;
+}
+#endif
 
 // `word` is in small letters.
 bool equalsIgnoringCase(std::string_view text, std::string_view word) {
@@ -299,14 +331,10 @@ std::optional<PatternError> parsePattern(std::string_view pattern, PatternParts&
 }
 
 std::optional<double> patternNumber(std::string_view text) noexcept {
-  constexpr std::size_t kLongest = 127;  // As for ICU.
   if (text.starts_with('+') && !text.starts_with("+-")) {
     text.remove_prefix(1);
   }
-  double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool isWhole = error == std::errc() && end == text.data() + text.size();
-  return isWhole && text.size() <= kLongest ? std::optional(number) : std::nullopt;
+  return text.size() <= kLongestNumber ? realNumber(text) : std::nullopt;
 }
 
 }  // namespace orvanta
