@@ -122,7 +122,7 @@ TEST(BinaryTable, RefusesABrokenFrame) {
 }
 
 TEST(BinaryTable, NamesTheBeginningOfTheKeyThatIsLost) {
-  for (const std::size_t size : {80, 81}) {
+  for (const std::size_t size : {80U, 81U}) {
     const BinaryList list = BinaryList().pair(asciiObject(std::string(size, 'x')), "\x09");
     std::string message;
     static_cast<void>(readStringTable(
