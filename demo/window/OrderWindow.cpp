@@ -10,6 +10,7 @@
 
 #include <orvanta/orvanta.h>
 #include <orvanta/qt/FormLoader.h>
+#include <orvanta/qt/Localize.h>
 #include <orvanta/qt/Text.h>
 #include <orvanta/qt/UILocalizedButton.h>
 #include <orvanta/qt/UILocalizedLabel.h>
@@ -22,13 +23,11 @@ namespace demo {
 namespace {
 
 using orvanta::qt::fromQString;
+using orvanta::qt::localize;
 using orvanta::qt::toQString;
 using orvanta::qt::UILocalizedButton;
 using orvanta::qt::UILocalizedLabel;
 using orvanta::qt::UILocalizedTextField;
-
-constexpr auto kEmailPlaceholder = "STRING.TUNDEL.NONMEMBER.email.emailTextField.placeholder";
-constexpr auto kPasswordPlaceholder = "STRING.TUNDEL.NONMEMBER.email.passwordTextField.placeholder";
 
 }  // namespace
 
@@ -43,8 +42,9 @@ OrderWindow::OrderWindow(QString downloadsPath, QWidget* parent)
   layout->addWidget(orvanta::qt::FormLoader().load(QStringLiteral(":/window.ui"), this));
   findWidgets();
   connectActions();
-  fillLanguageMenu();
   languageChanged();
+  localize(this, "windowTitle", QStringLiteral("order.title"));
+  setItemCount(7);
   resize(940, 640);
 }
 
@@ -113,39 +113,21 @@ void OrderWindow::showStatus(const char* key) {
   statusLabel_->setKey(QString::fromLatin1(key));
 }
 
+// What a change of language sets and no key expresses: the check mark in the menu, and the status.
 void OrderWindow::languageChanged() {
   fillLanguageMenu();
-  localizeFields();
-  showSummary();
-  setWindowTitle(toQString(localizer_.localizedStringForKey("order.title")));
   showStatus("status.language");
 }
 
-// What is ordered, and in a line of its own how many things that are.
-void OrderWindow::showSummary() {
-  const orvanta::String list =
-      localizer_.stringWithLocalizedPunctuation(localizer_.localizedStringForKey("order.list"));
-  const orvanta::String count =
-      orvanta::localizedMessageForKey(localizer_, "order.items", {{"count", itemCount_}});
-  summaryLabel_->setText(toQString(list) + QLatin1Char('\n') + toQString(count));
-}
-
 void OrderWindow::setItemCount(int count) {
-  itemCount_ = count;
-  showSummary();
-}
-
-// A field without a text of its own has no key that its other texts could come along with.
-void OrderWindow::localizeFields() {
-  const auto text = [this](const char* key) {
-    return toQString(localizer_.localizedStringForKey(key));
-  };
-  emailField_->setPlaceholderText(text(kEmailPlaceholder));
-  emailField_->setAccessibleName(text("signin.email.label"));
-  emailField_->setAccessibleDescription(text("signin.email.hint"));
-  passwordField_->setPlaceholderText(text(kPasswordPlaceholder));
-  passwordField_->setAccessibleName(text("signin.password.label"));
-  passwordField_->setAccessibleDescription(text("signin.password.hint"));
+  // What is ordered, and in a line of its own how many things that are.
+  localize(summaryLabel_, "summary",
+           [this](const QString& things) {
+             const orvanta::String list = localizer_.stringWithLocalizedPunctuation(
+                 localizer_.localizedStringForKey("order.list"));
+             summaryLabel_->setText(toQString(list) + QLatin1Char('\n') + things);
+           },
+           QStringLiteral("order.items"), {{"count", count}});
 }
 
 }  // namespace demo

@@ -39,12 +39,9 @@ class OrderWindow : public QWidget {
   void downloadLanguages();
   void showStatus(const char* key);
   void languageChanged();
-  void showSummary();
-  void localizeFields();
 
   orvanta::Localizer& localizer_;
   QString downloadsPath_;
-  int itemCount_ = 7;
   orvanta::qt::LayoutDirectionFollower direction_;
   orvanta::qt::RepaintBatch batch_;
   orvanta::qt::LanguageChangeObserver observer_;

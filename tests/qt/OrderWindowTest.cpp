@@ -86,6 +86,8 @@ class OrderWindowTest : public QObject {
     QVERIFY(speak(u"de"_s));
     QCOMPARE(email->text(), u"me@here"_s);
     QCOMPARE(email->accessibleName(), u"E-Mail-Adresse"_s);
+    QCOMPARE(window_->windowTitle(), u"Ihr Warenkorb"_s);
+    QVERIFY(email->toolTip() == email->accessibleDescription() && !email->toolTip().isEmpty());
 
     QTest::mouseClick(find<UILocalizedButton>("placeButton"), Qt::LeftButton);
     QCOMPARE(find<UILocalizedLabel>("statusLabel")->control().originalKey().str(),
