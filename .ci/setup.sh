@@ -98,7 +98,7 @@ core_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-
   python3-minimal python3-fonttools)
 # ICU is the reference for directions of languages, plural rules and messages.
 test_packages=(libgtest-dev libgmock-dev clang clang-format clang-tidy shellcheck
-  libclang-rt-14-dev libicu-dev pkgconf doxygen)
+  libclang-rt-14-dev libicu-dev pkgconf doxygen qt6-translations-l10n)
 # The last is a font with Han letters, for the pictures of the demo.
 qt_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev fonts-droid-fallback)
 # The modules are what QtQuick.Controls needs at run time.

@@ -1,5 +1,3 @@
-#include <QCoreApplication>
-#include <QEvent>
 #include <QReadLocker>
 #include <QWriteLocker>
 #include <string_view>
@@ -7,6 +5,7 @@
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/CurrentDirection.h>
+#include <orvanta/qt/LanguageChangeEvent.h>
 #include <orvanta/qt/Text.h>
 #include <orvanta/qt/Translator.h>
 
@@ -18,12 +17,6 @@ namespace {
 bool isLayoutDirection(const char* context, std::string_view sourceText) {
   return sourceText == "QT_LAYOUT_DIRECTION" && context != nullptr &&
          std::string_view(context) == "QGuiApplication";
-}
-
-void postLanguageChange() {
-  if (QCoreApplication* const application = QCoreApplication::instance()) {
-    QCoreApplication::postEvent(application, new QEvent(QEvent::LanguageChange));
-  }
 }
 
 }  // namespace

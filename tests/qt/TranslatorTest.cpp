@@ -5,6 +5,8 @@
 #include <atomic>
 
 #include <orvanta/cache/OVStringCache.h>
+#include <orvanta/qt/LocaleFollower.h>
+#include <orvanta/qt/QtTextsTranslator.h>
 #include <orvanta/qt/Translator.h>
 #include <orvanta/text/StringsPayload.h>
 
@@ -112,6 +114,27 @@ class TranslatorTest : public QObject {
     QVERIFY(speak(u"en"_s));
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
     QCOMPARE(window.changes, 3);
+  }
+
+  static void bringsQtsOwnTextsAndNumbersAlong() {
+    const QLocale before;
+    orvanta::qt::QtTextsTranslator qtTexts;
+    const orvanta::qt::QtTextsTranslator nothing(u"/nowhere"_s);
+    QCoreApplication::installTranslator(&qtTexts);
+    const orvanta::qt::LocaleFollower follower;
+    for (const auto& [language, cancel, number] :
+         {std::tuple(u"de"_s, u"Abbrechen"_s, u"1.234,5"_s),
+          {u"zh-Hans"_s, u"取消"_s, u"1,234.5"_s},
+          {u"nl"_s, u"Annuleren"_s, u"1.234,5"_s},
+          {u"en"_s, u"Cancel"_s, u"1,234.5"_s}}) {
+      QVERIFY(speak(language));
+      QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
+      QCOMPARE(QLocale().toString(1234.5), number);
+      QVERIFY(nothing.translate("QPlatformTheme", "Cancel").isNull());
+    }
+    QVERIFY(speak(u"he"_s));
+    QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
+    QLocale::setDefault(before);
   }
 
   static void takesAnotherMapping() {
