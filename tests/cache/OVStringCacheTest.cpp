@@ -118,11 +118,7 @@ TEST(LanguageCatalogue, StaysWhenTheDiskCannotBeReadForAWhile) {
 }
 
 TEST(LanguageCatalogue, FindsTheFirstAvailableLanguage) {
-  const struct {
-    std::vector<std::string> known;
-    StringList languages;
-    int position;
-  } rows[] = {
+  const std::tuple<std::vector<std::string>, StringList, int> rows[] = {
       {{"en", "de"}, {"xx", " EN\n", "de"}, 1},
       {{"pt-BR"}, {"pt-BR"}, 1000},
       {{"pt"}, {"pt-BR"}, 0},
@@ -130,13 +126,13 @@ TEST(LanguageCatalogue, FindsTheFirstAvailableLanguage) {
       {{"en"}, {}, 1000},
       {{"en"}, {"\u0130x", "en-GB"}, 1},
   };
-  for (const auto& row : rows) {
+  for (const auto& [known, languages, position] : rows) {
     TestApplication app;
-    for (const std::string& language : row.known) {
+    for (const std::string& language : known) {
       app.ship(language, {});
     }
-    EXPECT_EQ(OVStringCache().indexOfFirstAvailableCachedLanguage(row.languages), row.position)
-        << row.languages;
+    EXPECT_EQ(OVStringCache().indexOfFirstAvailableCachedLanguage(languages), position)
+        << languages;
   }
 }
 
@@ -200,11 +196,8 @@ TEST(CacheStorage, LogsWhatCannotBeDeleted) {
 }
 
 TEST(CacheStorage, FormsTheURLOfATable) {
-  const struct {
-    const char* folder;
-    String language;
-    const char* url;  // Null: absent.
-  } rows[] = {
+  const std::tuple<const char*, String, const char*> rows[] = {
+      // A null URL: absent.
       {"file:///c", "fr", "file:///c/fr.lproj/Localizable.strings"},
       {"file:///c//", "pt-BR", "file:///c//pt-BR.lproj/Localizable.strings"},
       {"file:///c/", "../x", "file:///c/../x.lproj/Localizable.strings"},
@@ -214,10 +207,10 @@ TEST(CacheStorage, FormsTheURLOfATable) {
       {"file:///c/", "100%", nullptr},
       {"file:///c/", {}, nullptr},
   };
-  for (const auto& row : rows) {
-    const URL url = OVStringCacheUtilities::stringsFileURLForLanguage(
-        URL::URLWithString(row.folder), row.language);
-    EXPECT_EQ(url.absoluteString(), row.url) << row.language;
+  for (const auto& [folder, language, expected] : rows) {
+    const URL url =
+        OVStringCacheUtilities::stringsFileURLForLanguage(URL::URLWithString(folder), language);
+    EXPECT_EQ(url.absoluteString(), expected) << language;
   }
   const std::pair<const char*, const char*> parents[] = {
       {"file:///c/a%20b/x.strings", "/c/a b"}, {"file://localhost/x", "/"}, {"file:/x", "/"}};

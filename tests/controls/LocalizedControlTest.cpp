@@ -84,11 +84,7 @@ TYPED_TEST(LocalizedControls, TakeDesignedTextsAsKeys) {
 }
 
 TYPED_TEST(LocalizedControls, FollowTheLocaleInFontAndAlignmentKeyOrNot) {
-  const struct {
-    const char* locale;
-    const char* fontName;
-    TextAlignment alignment;
-  } kRows[] = {
+  const std::tuple<const char*, const char*, TextAlignment> kRows[] = {
       {"ar-EG", "CorbetSansKufiArabic", TextAlignment::right},
       {"de", "System", TextAlignment::left},
       {"ar", "CorbetSansKufiArabic", TextAlignment::right},
@@ -97,10 +93,10 @@ TYPED_TEST(LocalizedControls, FollowTheLocaleInFontAndAlignmentKeyOrNot) {
     this->app_.speak({"fr"});
     TypeParam control({text, {}, {}});
     control.localized->awakeFromNib();
-    for (const auto& row : kRows) {
-      this->app_.speak({row.locale});
-      EXPECT_EQ(control.fontName(), row.fontName) << row.locale << ", " << text;
-      EXPECT_EQ(control.shown().alignment, row.alignment) << row.locale << ", " << text;
+    for (const auto& [locale, fontName, alignment] : kRows) {
+      this->app_.speak({locale});
+      EXPECT_EQ(control.fontName(), fontName) << locale << ", " << text;
+      EXPECT_EQ(control.shown().alignment, alignment) << locale << ", " << text;
     }
     control.localized->setOriginalFont(nullptr);
     control.localized->setOriginalAlignment(TextAlignment::right);

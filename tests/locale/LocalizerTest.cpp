@@ -69,22 +69,17 @@ TEST(Localizer, PostsOnceForEachChange) {
   SpeakingApplication app({{"en", {}}, {"fr", {}}, {"ar", {}}}, {"fr"});
   Localizer& localizer = app.localizer;
   app.hear();
-  const struct {
-    const char* what;
-    StringList requested;
-    StringList preferred;
-    StringList raw;
-  } rows[] = {
+  const std::tuple<const char*, StringList, StringList, StringList> rows[] = {
       {"an absent list is English", {}, {"en"}, {"en"}},
       {"an empty one, too", StringList::emptyList(), {"en"}, StringList::emptyList()},
       {"nothing available: the device's choice", {"xx"}, {"fr"}, {"fr"}},
       {"what is not available is dropped", {"xx", "ar-EG"}, {"ar-EG"}, {"xx", "ar-EG"}},
       {"the same language again", {"ar-EG"}, {"ar-EG"}, {"ar-EG"}},
   };
-  for (const auto& row : rows) {
-    localizer.changeOrvantaLanguageToPreferredLocales(row.requested);
-    EXPECT_EQ(localizer.preferredLocales(), row.preferred) << row.what;
-    EXPECT_EQ(app.hear(), Heard({{row.preferred, row.raw}})) << row.what;
+  for (const auto& [what, requested, preferred, raw] : rows) {
+    localizer.changeOrvantaLanguageToPreferredLocales(requested);
+    EXPECT_EQ(localizer.preferredLocales(), preferred) << what;
+    EXPECT_EQ(app.hear(), Heard({{preferred, raw}})) << what;
   }
   EXPECT_TRUE(localizer.rightToLeftOrientation());
   localizer.changeOrvantaLanguageToPreferredLocales({"fr"});
@@ -218,18 +213,14 @@ TEST(Localizer, NamesItsLocales) {
   SpeakingApplication app({{"en", {}}}, {"en"});
   const String ofTheDevice =
       platform::Platform::current().locales->currentCalendar()->locale().localeIdentifier();
-  const struct {
-    StringList locales;
-    String joined;
-    String ofTheCalendar;
-  } rows[] = {{{"a", "b"}, "a,b", "a"},
-              {StringList::emptyList(), "", ofTheDevice},
-              {{}, "en", ofTheDevice}};
-  for (const auto& row : rows) {
-    app.localizer.setPreferredLocales(row.locales);
-    EXPECT_EQ(app.localizer.currentLocalesString(), row.joined);
+  const std::tuple<StringList, String, String> rows[] = {{{"a", "b"}, "a,b", "a"},
+                                                         {StringList::emptyList(), "", ofTheDevice},
+                                                         {{}, "en", ofTheDevice}};
+  for (const auto& [locales, joined, ofTheCalendar] : rows) {
+    app.localizer.setPreferredLocales(locales);
+    EXPECT_EQ(app.localizer.currentLocalesString(), joined);
     const auto calendar = app.localizer.currentCalendar();
-    EXPECT_EQ(calendar->locale().localeIdentifier(), row.ofTheCalendar) << row.locales;
+    EXPECT_EQ(calendar->locale().localeIdentifier(), ofTheCalendar) << locales;
     EXPECT_NE(calendar, app.localizer.currentCalendar()) << "one for each caller";
   }
 }
@@ -247,11 +238,7 @@ TEST(Localizer, IsSharedByAllThreads) {
 
 TEST(Punctuation, FollowsTheFirstLocale) {
   SpeakingApplication app({});
-  const struct {
-    StringList locales;
-    const char* text;
-    const char* localized;
-  } rows[] = {
+  const std::tuple<StringList, const char*, const char*> rows[] = {
       {{"ar-EG", "en"}, "1,2,3", "1\u060C2\u060C3"},
       {{"ar"}, "a,,b", "a\u060C\u060Cb"},
       {{"ar"}, "a. b? c;", "a. b? c;"},
@@ -261,12 +248,12 @@ TEST(Punctuation, FollowsTheFirstLocale) {
       {StringList::emptyList(), "1,2", "1,2"},
       {{}, "1,2", "1,2"},
   };
-  for (const auto& row : rows) {
-    app.localizer.setPreferredLocales(row.locales);
-    const String text = row.text;
+  for (const auto& [locales, original, expected] : rows) {
+    app.localizer.setPreferredLocales(locales);
+    const String text = original;
     const String localized = app.localizer.stringWithLocalizedPunctuation(text);
-    EXPECT_EQ(localized, row.localized) << row.locales;
-    EXPECT_EQ(localized.isSameObject(text), localized == text) << row.locales;
+    EXPECT_EQ(localized, expected) << locales;
+    EXPECT_EQ(localized.isSameObject(text), localized == text) << locales;
   }
   EXPECT_TRUE(Localizer::arabicComma().isSameObject(Localizer::arabicComma()));
 }

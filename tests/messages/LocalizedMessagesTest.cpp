@@ -190,13 +190,7 @@ TEST(TextChain, TakesTheLocaleFromTheTableBeforeTheFolder) {
 TEST(Explanation, SaysHowTheCurrentLocaleCameAbout) {
   test::TestApplication app({{"en", {}}, {"en-GB", {}}, {"fr", {}}, {"zh-Hans", {}}});
   Localizer localizer;
-  const struct {
-    StringList requested;
-    const char* locale;
-    const char* request;
-    const char* fallbackRow;
-    const char* languagePart;
-  } rows[] = {
+  const std::tuple<StringList, const char*, const char*, const char*, const char*> rows[] = {
       {{"xx", "fr"}, "fr", "fr", nullptr, nullptr},
       {{"xx", "fr-CA"}, "fr-CA", "fr-CA", nullptr, "fr"},
       {{" en-IE "}, "en-GB", " en-IE ", "en-IE", nullptr},
@@ -205,23 +199,19 @@ TEST(Explanation, SaysHowTheCurrentLocaleCameAbout) {
       {{}, "en", "en", nullptr, nullptr},
       {StringList::emptyList(), "en", nullptr, nullptr, nullptr},
   };
-  for (const auto& row : rows) {
-    localizer.changeOrvantaLanguageToPreferredLocales(row.requested);
+  for (const auto& [requested, locale, request, fallbackRow, languagePart] : rows) {
+    localizer.changeOrvantaLanguageToPreferredLocales(requested);
     const TextExplanation explanation = localizer.explain("key");
-    EXPECT_EQ(explanation.currentLocale, row.locale);
-    EXPECT_EQ(explanation.request, row.request) << row.locale;
-    EXPECT_EQ(explanation.fallbackRow, row.fallbackRow) << row.locale;
-    EXPECT_EQ(explanation.languagePart, row.languagePart) << row.locale;
+    EXPECT_EQ(explanation.currentLocale, locale);
+    EXPECT_EQ(explanation.request, request) << locale;
+    EXPECT_EQ(explanation.fallbackRow, fallbackRow) << locale;
+    EXPECT_EQ(explanation.languagePart, languagePart) << locale;
   }
 }
 
 TEST(OlderTables, AreDiscardedByTheirVersions) {
-  const struct {
-    const char* language;
-    const char* downloaded;  // Null: the table names none.
-    const char* shipped;
-    bool isDiscarded;
-  } rows[] = {
+  // Downloaded and shipped version; null: the table names none.
+  const std::tuple<const char*, const char*, const char*, bool> rows[] = {
       {"aa", "1.9", "1.10", true},    {"bb", "1.10", "1.9", false},
       {"cc", "2", "2.0.0", false},    {"dd", nullptr, "0", true},
       {"ee", "1", nullptr, false},    {"ff", nullptr, nullptr, false},
@@ -230,11 +220,11 @@ TEST(OlderTables, AreDiscardedByTheirVersions) {
   };
   test::TestApplication app;
   const std::string key(OVOrvantaLanguageVersionKey);
-  for (const auto& row : rows) {
-    app.download(row.language, row.downloaded == nullptr ? test::Strings{{"k", "v"}}
-                                                         : test::Strings{{key, row.downloaded}});
-    app.ship(row.language, row.shipped == nullptr ? test::Strings{{"k", "v"}}
-                                                  : test::Strings{{key, row.shipped}});
+  for (const auto& [language, downloaded, shipped, isDiscarded] : rows) {
+    app.download(language, downloaded == nullptr ? test::Strings{{"k", "v"}}
+                                                 : test::Strings{{key, downloaded}});
+    app.ship(language,
+             shipped == nullptr ? test::Strings{{"k", "v"}} : test::Strings{{key, shipped}});
   }
   app.download("alone", {{"k", "v"}});
   OVStringCache cache;
@@ -243,9 +233,9 @@ TEST(OlderTables, AreDiscardedByTheirVersions) {
   const auto holds = [](const StringList& list, const char* language) {
     return std::find(list.begin(), list.end(), language) != list.end();
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(holds(discarded, row.language), row.isDiscarded) << row.language;
-    EXPECT_EQ(holds(cached, row.language), !row.isDiscarded) << row.language;
+  for (const auto& [language, downloaded, shipped, isDiscarded] : rows) {
+    EXPECT_EQ(holds(discarded, language), isDiscarded) << language;
+    EXPECT_EQ(holds(cached, language), !isDiscarded) << language;
   }
   EXPECT_TRUE(holds(cached, "alone"));
   EXPECT_EQ(cache.discardCachedLanguagesOlderThanShipped(), StringList::emptyList());

@@ -86,11 +86,7 @@ TEST(PlainNumber, ShowsTheDigitsThatTheValueAllows) {
 
 TEST(MessageFormat, KeepsWhatItCannotFillIn) {
   const String absent;
-  const struct {
-    const char* pattern;
-    std::vector<MessageArgument> arguments;
-    const char* text;
-  } rows[] = {
+  const std::tuple<const char*, std::vector<MessageArgument>, const char*> rows[] = {
       {"{a}, {0} and {n, plural, other {#}}", {}, "{a}, {0} and {n}"},
       {"{a} {b}", {{"a", absent}, {"b", static_cast<const char*>(nullptr)}}, "{a} {b}"},
       {"{0} {1} {2}", {3, "Ada"}, "3 Ada {2}"},
@@ -102,35 +98,27 @@ TEST(MessageFormat, KeepsWhatItCannotFillIn) {
       {"{n, plural, one {#} other {# s}}", {{"n", 1.0001}}, "1"},
       {"{a}", {{"a", "{b} '{' # {n, plural, "}, {"b", 1}}, "{b} '{' # {n, plural, "},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(formatted("en", row.pattern, row.arguments), row.text) << row.pattern;
+  for (const auto& [pattern, arguments, text] : rows) {
+    EXPECT_EQ(formatted("en", pattern, arguments), text) << pattern;
   }
 }
 
 TEST(MessageFormat, IsolatesTextsOfAnotherDirectionOnly) {
-  const struct {
-    const char* locale;
-    const char* argument;
-    bool isIsolated;
-  } rows[] = {
+  const std::tuple<const char*, const char*, bool> rows[] = {
       {"en", "Ada", false},     {"en", "ليلى", true},   {"en", "12:30", false},
       {"en-GB", "日本", false}, {"ar", "Ada", true},    {"ar", "ليلى 3", false},
       {"ar", "12:30", true},    {"fa-IR", "…!", false}, {"he", "\u200E", true},
       {"en", "\u2067", true},   {"", "Ada", true},
   };
-  for (const auto& row : rows) {
-    const std::string text =
-        row.isIsolated ? "\u2068" + std::string(row.argument) + "\u2069" : row.argument;
-    EXPECT_EQ(formatted(row.locale, "{a}", {{"a", row.argument}}), text) << row.locale;
-    EXPECT_EQ(formatted(row.locale, "{n}", {{"n", -3}}), "-3") << row.locale;
+  for (const auto& [locale, argument, isIsolated] : rows) {
+    const std::string text = isIsolated ? "\u2068" + std::string(argument) + "\u2069" : argument;
+    EXPECT_EQ(formatted(locale, "{a}", {{"a", argument}}), text) << locale;
+    EXPECT_EQ(formatted(locale, "{n}", {{"n", -3}}), "-3") << locale;
   }
 }
 
 TEST(MessagePattern, TellsWhereItIsWrong) {
-  const struct {
-    const char* pattern;
-    std::size_t position;
-  } rows[] = {
+  const std::pair<const char*, std::size_t> rows[] = {
       {"Hello {", 7},
       {"Hello {name", 11},
       {"Hello {}", 7},
@@ -147,9 +135,8 @@ TEST(MessagePattern, TellsWhereItIsWrong) {
       {"{n, plural, {x} other {x}}", 12},
       {"{n, plural, other {x}", 21},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(formatted("en", row.pattern, {}), "error at " + std::to_string(row.position))
-        << row.pattern;
+  for (const auto& [pattern, position] : rows) {
+    EXPECT_EQ(formatted("en", pattern, {}), "error at " + std::to_string(position)) << pattern;
   }
 }
 
@@ -169,11 +156,7 @@ TEST(MessagePattern, LimitsNesting) {
 }
 
 TEST(FormatString, FillsPlaceholdersByPosition) {
-  const struct {
-    const char* text;
-    std::vector<MessageArgument> arguments;
-    const char* filled;
-  } rows[] = {
+  const std::tuple<const char*, std::vector<MessageArgument>, const char*> rows[] = {
       {"%@ has %d files, 100%%", {"Ada", 3}, "Ada has 3 files, 100%"},
       {"%2$@ %1$ld %@", {3, "Ada"}, "Ada 3 3"},
       {"%@ %@ %3$@ %@", {"only"}, "only %@ %3$@ %@"},
@@ -185,8 +168,8 @@ TEST(FormatString, FillsPlaceholdersByPosition) {
       {"100 % d, %n %p %*d %0$@ %123$@ %999d %", {1}, "100 % d, %n %p %*d %0$@ %123$@ %999d %"},
       {"%1$s %2$s", {"%@ %d", "%1$@"}, "%@ %d %1$@"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(filled(row.text, row.arguments), row.filled) << row.text;
+  for (const auto& [text, arguments, expected] : rows) {
+    EXPECT_EQ(filled(text, arguments), expected) << text;
   }
 }
 

@@ -26,13 +26,7 @@ class Check : public Command {
 };
 
 TEST_F(Check, ComparesTextsWithEnglish) {
-  const struct {
-    const char* name;
-    const char* language;
-    const char* english;
-    const char* text;
-    const char* rules;
-  } rows[] = {
+  const std::tuple<const char*, const char*, const char*, const char*, const char*> rows[] = {
       {"moved placeholders", "de", "%@ of %d%%", "%2$d%% von %1$@", ""},
       {"lost placeholder", "de", "%@ of %d", "von %d", "placeholders placeholders"},
       {"other family", "de", "%.2f", "%x km", "placeholders"},
@@ -76,13 +70,12 @@ TEST_F(Check, ComparesTextsWithEnglish) {
       {"address", "de", "name@example.com", "name@example.com", ""},
       {"empty", "de", "Open", "", "empty"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [name, language, english, text, expected] : rows) {
     fs::remove_all(folder_ / "b");
-    writeTable("en", std::string("\"k\" = \"") + row.english + "\";");
-    writeTable(row.language, std::string("\"k\" = \"") + row.text + "\";");
+    writeTable("en", std::string("\"k\" = \"") + english + "\";");
+    writeTable(language, std::string("\"k\" = \"") + text + "\";");
     std::string rules = std::regex_replace(findings(), std::regex(R"([a-zA-Z-]+:\d+ )"), "");
-    EXPECT_EQ(std::regex_replace(rules, std::regex(","), ""), row.rules) << row.name << '\n'
-                                                                         << out_;
+    EXPECT_EQ(std::regex_replace(rules, std::regex(","), ""), expected) << name << '\n' << out_;
   }
 }
 

@@ -10,12 +10,7 @@ using testing::HasSubstr;
 
 TEST_F(Command, RefusesInOneLine) {
   write("bad.json", "{\"fr\": ");
-  const struct {
-    const char* name;
-    const char* command;
-    int status;
-    const char* message;
-  } rows[] = {
+  const std::tuple<const char*, const char*, int, const char*> rows[] = {
       {"nothing", "$OV", 2, "A subcommand is required"},
       {"unknown command", "$OV no", 2, "there is no command no"},
       {"unknown option", "$OV languages --no", 2, "not expected: --no"},
@@ -37,13 +32,13 @@ TEST_F(Command, RefusesInOneLine) {
       {"line feed and escape in a name", "$OV dump \"$(printf 'a\\nb\\033[31m')\"", 1,
        "cannot read a\\nb\\U001B[31m: "},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    run(row.command);
-    EXPECT_EQ(status_, row.status);
+  for (const auto& [name, command, status, message] : rows) {
+    SCOPED_TRACE(name);
+    run(command);
+    EXPECT_EQ(status_, status);
     EXPECT_EQ(out_, "");
     EXPECT_THAT(err_, testing::StartsWith("ovlocalize: "));
-    EXPECT_THAT(err_, HasSubstr(row.message));
+    EXPECT_THAT(err_, HasSubstr(message));
     EXPECT_EQ(err_.find('\n'), err_.size() - 1) << err_;
   }
 }
@@ -107,10 +102,7 @@ TEST_F(Command, FillsMessagesWithArguments) {
 TEST_F(Command, ExplainsTexts) {
   write("new.json", R"({"fr": {"a": {"b": {"zantorData": {"signin.title": "Neu"}}}}})");
   run("$OV update --bundle-name a --namespace b new.json");
-  const struct {
-    const char* arguments;
-    const char* lines;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"--locales zh-TW signin.title",
        "zh-Hant, adopted for the request zh-TW; the fallback table"},
       {"--locales de-CH nope", "none: no table in use has the key"},
@@ -122,18 +114,14 @@ TEST_F(Command, ExplainsTexts) {
       {"--json --locales fr order.title", R"("source": "english",
     "locale": "en",)"},
   };
-  for (const auto& row : rows) {
-    run(std::string("$OV --device en explain ") + row.arguments);
-    EXPECT_THAT(out_, HasSubstr(row.lines)) << row.arguments << err_;
+  for (const auto& [arguments, lines] : rows) {
+    run(std::string("$OV --device en explain ") + arguments);
+    EXPECT_THAT(out_, HasSubstr(lines)) << arguments << err_;
   }
 }
 
 TEST_F(Command, MakesPseudoLanguages) {
-  const struct {
-    const char* source;
-    const char* accented;
-    const char* turned;
-  } rows[] = {
+  const std::tuple<const char*, const char*, const char*> rows[] = {
       {"%1$@ of 50%% ok", "[%1$@ ööƒ 50%% öööķ~]", "%1$@ <of> 50%% <ok>"},
       {"{n, plural, one {# it''s} other {'{x}' {name}}} €5",
        "[{n, plural, one {# îîţ''š} other {'{ẋ}' {name}}} €5~~~~]",
@@ -144,16 +132,16 @@ TEST_F(Command, MakesPseudoLanguages) {
        R"(<say> \"<no>\"\n\\ \U0007)"},
       {"a@b.example", "a@b.example", "a@b.example"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [source, accented, turned] : rows) {
     fs::remove_all(folder_ / "OrvantaLocalizations");
-    write("b/en.lproj/Localizable.strings", std::string("\"\\\"k\" = \"") + row.source + "\";");
-    std::string turned = std::regex_replace(row.turned, std::regex("<([a-z]{2,}|[sxa])>"),
-                                            "\u200F\u202E$1\u202C\u200F");
-    for (const auto& [to, text] : {std::pair{"en-XA", row.accented}, {"ar-XB", turned.c_str()}}) {
+    write("b/en.lproj/Localizable.strings", std::string("\"\\\"k\" = \"") + source + "\";");
+    std::string turned =
+        std::regex_replace(turned, std::regex("<([a-z]{2,}|[sxa])>"), "\u200F\u202E$1\u202C\u200F");
+    for (const auto& [to, text] : {std::pair{"en-XA", accented}, {"ar-XB", turned.c_str()}}) {
       const std::string ov = "${OV%% *} --bundle b --cache $PWD ";
       run(ov + "pseudo --to " + to + " && " + ov + "check && " + ov + "dump --language " + to);
       EXPECT_THAT(out_, testing::EndsWith(std::string("\n\"\\\"k\" = \"") + text + "\"\n"))
-          << row.source;
+          << source;
       EXPECT_EQ(status_, 0) << out_ << err_;
     }
   }

@@ -28,10 +28,7 @@ class Exchange : public Command {
 };
 
 TEST_F(Exchange, RoundTripsEveryTable) {
-  const struct {
-    const char* name;
-    std::string table;
-  } rows[] = {
+  const std::pair<const char*, std::string> rows[] = {
       {"no file", ""},
       {"some translated", "\"d\" = \"D!\"; \"a\" = \"\u00C0 \\\"\\\\\\\"\";"},
       {"equal to English, and empty", "// e\r\n'a' = 'A';\r\n\r\nb = \"\";\r\nc=\"\";\r\n"},
@@ -49,18 +46,18 @@ TEST_F(Exchange, RoundTripsEveryTable) {
       {"XML", "<plist><dict><!-- n --><key>a</key><string>&#1;&amp;</string></dict></plist>"},
       {"comment", "/* -- \\U0001 \x01 */\na = b;"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [name, table] : rows) {
     for (const char* const format : kFormats) {
-      SCOPED_TRACE(row.name + " as "s + format);
+      SCOPED_TRACE(name + " as "s + format);
       fs::remove_all(folder_ / "fr.lproj");
-      if (!row.table.empty()) {
-        write(kFile, row.table);
+      if (!table.empty()) {
+        write(kFile, table);
       }
       const std::string before = dumped();
       run("${OV%% *} --bundle . export --language fr --output x --format "s + format);
       EXPECT_EQ(status_, 0) << err_;
       import("x");
-      EXPECT_EQ(contents(kFile), row.table) << "byte for byte: " << out_ << err_;
+      EXPECT_EQ(contents(kFile), table) << "byte for byte: " << out_ << err_;
       write(kFile, "");
       import("x");
       run("$OV dump "s + kFile + " | sort");
@@ -114,11 +111,7 @@ TEST_F(Exchange, RefusesInOneLineAndWritesNothing) {
   for (int level = 0; level < 300'000; ++level) {
     deep += "<trans-unit><target>";
   }
-  const struct {
-    const char* name;
-    std::string file;
-    const char* message;
-  } rows[] = {
+  const std::tuple<const char*, std::string, const char*> rows[] = {
       {"truncated PO", entry + "msgctxt \"b\"\nmsgid \"B\"\nmsgs", "x is no PO file: 6: "},
       {"truncated string", entry + "msgctxt \"b", "x is no PO file: 4: "},
       {"no PO", "a = b;\n", "x is no PO file: 1: "},
@@ -144,14 +137,14 @@ TEST_F(Exchange, RefusesInOneLineAndWritesNothing) {
        "two texts under the key a"},
   };
   write(kFile, "a = b;");
-  for (const auto& row : rows) {
-    write("x", row.file);
+  for (const auto& [name, file, message] : rows) {
+    write("x", file);
     import("x");
-    EXPECT_EQ(status_, 1) << row.name;
-    EXPECT_EQ(out_, "") << row.name;
-    EXPECT_THAT(err_, HasSubstr(row.message)) << row.name;
-    EXPECT_EQ(std::count(err_.begin(), err_.end(), '\n'), 1) << row.name << ": " << err_;
-    EXPECT_EQ(contents(kFile), "a = b;") << row.name;
+    EXPECT_EQ(status_, 1) << name;
+    EXPECT_EQ(out_, "") << name;
+    EXPECT_THAT(err_, HasSubstr(message)) << name;
+    EXPECT_EQ(std::count(err_.begin(), err_.end(), '\n'), 1) << name << ": " << err_;
+    EXPECT_EQ(contents(kFile), "a = b;") << name;
   }
   write("x", entry);
   write(kFile, "<dict/>");

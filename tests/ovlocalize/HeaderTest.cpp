@@ -13,11 +13,7 @@ class Header : public Command {
 };
 
 TEST_F(Header, NamesConstantsAndFunctionsForKeys) {
-  const struct {
-    const char* name;
-    const char* table;
-    const char* line;
-  } rows[] = {
+  const std::tuple<const char*, const char*, const char*> rows[] = {
       {"dots", "a.b = x;", "\n/// \"x\"\ninline constexpr std::string_view a_b = \"a.b\";\n"},
       {"runs and ends", "\" Is it..? \" = x;", " Is_it = \" Is it..\\? \";"},
       {"a digit", "\"404\" = x;", " key_404 = "},
@@ -35,9 +31,9 @@ TEST_F(Header, NamesConstantsAndFunctionsForKeys) {
        " m(const orvanta::TextArgument& key_class_)"},
       {"positions", "m = \"{10}{9}\";", "& key_9_, const orvanta::MessageValue& key_10_)"},
   };
-  for (const auto& row : rows) {
-    runWith(row.table);
-    EXPECT_THAT(out_, testing::HasSubstr(row.line)) << row.name << err_;
+  for (const auto& [name, table, line] : rows) {
+    runWith(table);
+    EXPECT_THAT(out_, testing::HasSubstr(line)) << name << err_;
   }
 }
 

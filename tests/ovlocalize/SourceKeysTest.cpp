@@ -20,12 +20,7 @@ std::vector<std::string> keysOf(std::string_view source) {
 }
 
 TEST(SourceKeys, AreTheLiteralsHandedToTheLibrary) {
-  struct Row {
-    const char* name;
-    const char* source;
-    std::vector<std::string> keys;
-  };
-  const Row rows[] = {
+  const std::tuple<const char*, const char*, std::vector<std::string>> rows[] = {
       {"plain", "\n l.localizedStringForKey(\"a.b\");", {"a.b@2"}},
       {"suffix", "localizedStringForKey(\"a\"_s)", {"a@1"}},
       {"wrapped", "localizedStringForKey(QStringLiteral(\"a\"))", {"a@1"}},
@@ -50,8 +45,8 @@ TEST(SourceKeys, AreTheLiteralsHandedToTheLibrary) {
       {"digit separator", "f(1'000); setKey(\"a\")", {"a@1"}},
       {"not closed", "setKey(\"a\n setKey(\"b\")", {"b@2"}},
   };
-  for (const Row& row : rows) {
-    EXPECT_THAT(keysOf(row.source), ElementsAreArray(row.keys)) << row.name;
+  for (const auto& [name, source, keys] : rows) {
+    EXPECT_THAT(keysOf(source), ElementsAreArray(keys)) << name;
   }
 }
 

@@ -55,11 +55,7 @@ class PlatformTest : public QObject {
   }
 
   void writesNumbersAsTheLanguageDoes() {
-    const struct {
-      const char* locale;
-      const char* plain;
-      const char* written;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"en", "-1234567.50", "-1,234,567.50"},
         {"fr", "1234.5", "1\u202F234,5"},
         {"de-AT", "0.25", "0,25"},
@@ -67,10 +63,9 @@ class PlatformTest : public QObject {
         {"en", "100000000000000000000000", "100000000000000000000000"},
         {"xx", "1234.50", "1234.50"},
     };
-    for (const auto& row : rows) {
-      QCOMPARE(QString::fromStdString(
-                   Platform::current().locales->localizedNumber(row.plain, row.locale)),
-               QString::fromUtf8(row.written));
+    for (const auto& [locale, plain, written] : rows) {
+      QCOMPARE(QString::fromStdString(Platform::current().locales->localizedNumber(plain, locale)),
+               QString::fromUtf8(written));
     }
   }
 

@@ -40,14 +40,7 @@ class StockLabel : public QLabel {
   }
 };
 
-struct Row {
-  const char* source;
-  int n;
-  const char16_t* dutch;
-  const char16_t* english;
-};
-
-constexpr Row kRows[] = {
+constexpr std::tuple<const char*, int, const char16_t*, const char16_t*> kRows[] = {
     {"Save &as…", -1, u"Opslaan &als…", u"next"}, {"{braces}", -1, u"'{}'", u"next"},
     {"%n file(s)", 1, u"1 bestand", u"next"},     {"%n file(s)", 2, u"2 bestanden van 2", u"next"},
     {"no plural", 3, u"drie", u"next"},           {"order.item.tea", -1, u"Tea", u"Tea"},
@@ -90,10 +83,10 @@ class TranslatorTest : public QObject {
     QCoreApplication::installTranslator(&translator);
     for (const bool dutch : {true, false}) {
       QVERIFY(speak(dutch ? u"nl"_s : u"en"_s));
-      for (const Row& row : kRows) {
-        const QString text = QCoreApplication::translate("Menu", row.source, "as a verb", row.n);
-        QVERIFY2(text == QStringView(dutch ? row.dutch : row.english),
-                 qPrintable(QString::fromUtf8(row.source) + u": "_s + text));
+      for (const auto& [source, n, dutch, english] : kRows) {
+        const QString text = QCoreApplication::translate("Menu", source, "as a verb", n);
+        QVERIFY2(text == QStringView(dutch ? dutch : english),
+                 qPrintable(QString::fromUtf8(source) + u": "_s + text));
       }
     }
   }

@@ -232,11 +232,8 @@ TEST_F(StandardBundles, FindResourcesBelowThemselvesAlone) {
   for (const char* file : {"outside.txt", "in/a b\u00E9.txt", "in/plain", "in/fr.lproj/deep.txt"}) {
     write(file, "");
   }
-  const struct {
-    String name;
-    String type;
-    const char* found;  // Null for absent.
-  } kRows[] = {
+  const std::tuple<String, String, const char*> kRows[] = {
+      // Name, type; null: not found.
       {"a b\u00E9", "txt", "in/a b\u00E9.txt"},
       {"plain", {}, "in/plain"},
       {"plain", "", "in/plain"},
@@ -253,10 +250,10 @@ TEST_F(StandardBundles, FindResourcesBelowThemselvesAlone) {
       {"plain", "txt", nullptr},
   };
   const auto bundle = registryFor()->bundleWithPath(path("in"));
-  for (const auto& row : kRows) {
-    EXPECT_EQ(bundle->pathForResource(row.name, row.type),
-              row.found == nullptr ? String() : String(path(row.found)))
-        << row.name << " . " << row.type;
+  for (const auto& [name, type, found] : kRows) {
+    EXPECT_EQ(bundle->pathForResource(name, type),
+              found == nullptr ? String() : String(path(found)))
+        << name << " . " << type;
   }
 }
 

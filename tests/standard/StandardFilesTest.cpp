@@ -58,12 +58,7 @@ TEST_F(StandardFiles, TellItemKinds) {
   fs::create_symlink("folder", at("folderLink"));
   fs::create_symlink("nowhere", at("dangling"));
   ASSERT_EQ(::mkfifo(at("fifo").c_str(), 0600), 0);
-  const struct {
-    const char* name;
-    platform::ItemKind kind;
-    bool exists;
-    bool hasStamp;
-  } kRows[] = {
+  const std::tuple<const char*, platform::ItemKind, bool, bool> kRows[] = {
       {"file \u00E9", platform::ItemKind::file, true, true},
       {"folder", platform::ItemKind::directory, true, false},
       {"link", platform::ItemKind::symbolicLink, true, true},
@@ -74,12 +69,12 @@ TEST_F(StandardFiles, TellItemKinds) {
       {"none", platform::ItemKind::missing, false, false},
       {"file \u00E9/none", platform::ItemKind::missing, false, false},
   };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(files_->itemKindAtPath(path(row.name)), row.kind);
-    EXPECT_EQ(files_->fileExistsAtPath(path(row.name)), row.exists);
-    EXPECT_EQ(files_->stampOfFileAtPath(path(row.name)).has_value(), row.hasStamp);
-    EXPECT_EQ(files_->openFileForReading(path(row.name)) != nullptr, row.hasStamp);
+  for (const auto& [name, kind, exists, hasStamp] : kRows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(files_->itemKindAtPath(path(name)), kind);
+    EXPECT_EQ(files_->fileExistsAtPath(path(name)), exists);
+    EXPECT_EQ(files_->stampOfFileAtPath(path(name)).has_value(), hasStamp);
+    EXPECT_EQ(files_->openFileForReading(path(name)) != nullptr, hasStamp);
   }
   EXPECT_EQ(files_->stampOfFileAtPath(path("link")),
             files_->stampOfFileAtPath(path("file \u00E9")));
@@ -137,11 +132,7 @@ TEST_F(StandardFiles, FailWithTheSystemsError) {
   fs::create_symlink("nowhere", at("dangling"));
   fs::create_directory_symlink("folder", at("link"));
   const auto folder = open("");
-  const struct {
-    const char* name;
-    Status status;
-    int code;
-  } kRows[] = {
+  const std::tuple<const char*, Status, int> kRows[] = {
       {"a folder over a file", folder->createFolder("file"), EEXIST},
       {"a folder over a folder", folder->createFolder("folder"), EEXIST},
       {"a folder over a link", folder->createFolder("dangling"), EEXIST},
@@ -160,9 +151,9 @@ TEST_F(StandardFiles, FailWithTheSystemsError) {
       {"an unlocked folder", folder->removeFileUnlessLocked("folder"), kAny},
       {"an unlocked link", folder->removeFileUnlessLocked("link"), kAny},
   };
-  for (const auto& row : kRows) {
-    const int code = codeOf(row.status);
-    EXPECT_TRUE(row.code == kAny ? code != 0 : code == row.code) << row.name << ": " << code;
+  for (const auto& [name, status, expected] : kRows) {
+    const int code = codeOf(status);
+    EXPECT_TRUE(expected == kAny ? code != 0 : code == expected) << name << ": " << code;
   }
   EXPECT_EQ(files_->removeItemAtURL(url("none")).localizedDescription(),
             String(at("none").native() + ": No such file or directory"));

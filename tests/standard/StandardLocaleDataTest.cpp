@@ -50,14 +50,7 @@ TEST(DeviceLanguages, AreWhatTheEnvironmentSays) {
   }
 }
 
-struct RankingRow {
-  const char* name;
-  StringList shipped;
-  StringList device;
-  StringList ranked;
-};
-
-const RankingRow kRankingRows[] = {
+const std::tuple<const char*, StringList, StringList, StringList> kRankingRows[] = {
     {"in the device's order", {"de", "en", "fr"}, {"fr", "en"}, {"fr", "en"}},
     {"the exact name before its language", {"fr", "fr-CA"}, {"fr-CA"}, {"fr-CA"}},
     {"the language of a region", {"en", "fr"}, {"fr-CA"}, {"fr"}},
@@ -87,16 +80,13 @@ const RankingRow kRankingRows[] = {
 };
 
 TEST(LocalizationRanking, FollowsTheDevice) {
-  for (const RankingRow& row : kRankingRows) {
-    EXPECT_EQ(rankLocalizations(row.shipped, row.device), row.ranked) << row.name;
+  for (const auto& [name, shipped, device, ranked] : kRankingRows) {
+    EXPECT_EQ(rankLocalizations(shipped, device), ranked) << name;
   }
 }
 
 TEST(StandardLocales, KnowTheDirectionOfLanguages) {
-  const struct {
-    platform::LanguageDirection direction;
-    std::initializer_list<const char*> languages;
-  } kRows[] = {
+  const std::pair<platform::LanguageDirection, std::vector<const char*>> kRows[] = {
       {platform::LanguageDirection::rightToLeft,
        {"ar", "he", "ur", "fa", "ps", "sd", "ug", "yi", "dv", "ckb", "iw", "ara", "zdj", "ae"}},
       {platform::LanguageDirection::leftToRight,
@@ -105,19 +95,16 @@ TEST(StandardLocales, KnowTheDirectionOfLanguages) {
        {"ar-EG", "AR", "", "a", "arabic", "a1", "ar ", "\xD8\xB9", "ar_"}},
   };
   const auto locales = makeLocaleData({});
-  for (const auto& row : kRows) {
-    for (const char* language : row.languages) {
-      EXPECT_EQ(locales->characterDirectionForLanguage(language), row.direction) << language;
+  for (const auto& [direction, languages] : kRows) {
+    for (const char* language : languages) {
+      EXPECT_EQ(locales->characterDirectionForLanguage(language), direction) << language;
     }
   }
   EXPECT_EQ(locales->characterDirectionForLanguage({}), platform::LanguageDirection::unknown);
 }
 
 TEST(StandardLocales, LowerCaseWhateverTheLocale) {
-  const struct {
-    const char* text;
-    const char* lower;
-  } kRows[] = {
+  const std::pair<const char*, const char*> kRows[] = {
       {"EN-gb", "en-gb"},
       {"", ""},
       {"\u00C9T\u00C9 \u00DF \u1E9E", "\u00E9t\u00E9 \u00DF \u00DF"},
@@ -127,8 +114,8 @@ TEST(StandardLocales, LowerCaseWhateverTheLocale) {
       {"\xC3(A\xFF\xE2\x82", "\xC3(a\xFF\xE2\x82"},
   };
   const auto locales = makeLocaleData({"fr-CA"});
-  for (const auto& row : kRows) {
-    EXPECT_EQ(locales->lowercaseString(row.text), row.lower);
+  for (const auto& [text, lower] : kRows) {
+    EXPECT_EQ(locales->lowercaseString(text), lower);
   }
   EXPECT_TRUE(locales->lowercaseString({}).isAbsent());
   const String lower("already");

@@ -93,12 +93,7 @@ TEST(Deferral, IsForLabelsAndButtonsLoadedFromALayout) {
 }
 
 TEST(Placeholder, IsLocalizedAtTheLoad) {
-  const struct {
-    const char* name;
-    String text;
-    String placeholder;
-    String shown;
-  } rows[] = {
+  const std::tuple<const char*, String, String, String> rows[] = {
       {"a marker without text", "", "email.p", "courriel"},
       {"a marker with a key", "title", "email.p", "courriel"},
       {"a marker with plain text", "plain", "password.p", "mot de passe"},
@@ -110,17 +105,16 @@ TEST(Placeholder, IsLocalizedAtTheLoad) {
       {"empty", "title", "", ""},
       {"absent", "title", {}, {}},
   };
-  for (const auto& row : rows) {
+  for (const auto& [name, text, placeholder, shown] : rows) {
     const LocalizedApplication app(test::languagesToSpeak(), {"fr"}, withSystem({9, 0, 0}));
-    test::DesignedTextField control({row.text, {}, {}});
-    control.watched->setPlaceholder(row.placeholder);
+    test::DesignedTextField control({text, {}, {}});
+    control.watched->setPlaceholder(placeholder);
     control.localized->awakeFromNib();
-    EXPECT_EQ(control.watched->placeholder(), row.shown) << row.name;
-    const bool keyed = row.text == "title";
-    EXPECT_EQ(control.localized->originalPlaceholder(), keyed ? row.placeholder : String())
-        << row.name;
+    EXPECT_EQ(control.watched->placeholder(), shown) << name;
+    const bool keyed = text == "title";
+    EXPECT_EQ(control.localized->originalPlaceholder(), keyed ? placeholder : String()) << name;
     app.speak({"de"});
-    EXPECT_EQ(control.watched->placeholder(), row.shown) << row.name << ", later";
+    EXPECT_EQ(control.watched->placeholder(), shown) << name << ", later";
   }
 }
 

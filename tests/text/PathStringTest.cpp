@@ -5,14 +5,7 @@
 namespace orvanta {
 namespace {
 
-struct PathRow {
-  const char* text;
-  const char* last;
-  const char* parent;
-  const char* withoutExtension;
-};
-
-const PathRow kPathRows[] = {
+const std::tuple<const char*, const char*, const char*, const char*> kPathRows[] = {
     {"/a/fr-CA.lproj", "fr-CA.lproj", "/a", "/a/fr-CA"},
     {"/a/zh-Hant.lproj/", "zh-Hant.lproj", "/a", "/a/zh-Hant"},
     {"/a/b.d/plain", "plain", "/a/b.d", "/a/b.d/plain"},
@@ -36,11 +29,11 @@ const PathRow kPathRows[] = {
 };
 
 TEST(PathString, TakesTextsApart) {
-  for (const PathRow& row : kPathRows) {
-    SCOPED_TRACE(row.text);
-    EXPECT_EQ(path::lastPathComponent(row.text), row.last);
-    EXPECT_EQ(path::stringByDeletingLastPathComponent(row.text), row.parent);
-    EXPECT_EQ(path::stringByDeletingPathExtension(row.text), row.withoutExtension);
+  for (const auto& [text, last, parent, withoutExtension] : kPathRows) {
+    SCOPED_TRACE(text);
+    EXPECT_EQ(path::lastPathComponent(text), last);
+    EXPECT_EQ(path::stringByDeletingLastPathComponent(text), parent);
+    EXPECT_EQ(path::stringByDeletingPathExtension(text), withoutExtension);
   }
   const String plain = "/a/plain";
   EXPECT_TRUE(path::stringByDeletingPathExtension(plain).isSameObject(plain));

@@ -53,28 +53,23 @@ TEST(URL, GivesThePathOfAFile) {
 }
 
 TEST(URL, IsMadeOfAPathAndComponents) {
-  const struct {
-    const char* path;
-    const char* file;
-    const char* folder;
-    const char* child;        // With the component "x y", a file.
-    const char* childFolder;  // With the component "z/", a folder.
-  } rows[] = {
+  // The path as a file and as a folder, with the file "x y" and with the folder "z/".
+  const std::tuple<const char*, const char*, const char*, const char*, const char*> rows[] = {
       {"/a b", "file:///a%20b", "file:///a%20b/", "file:///a%20b/x%20y", "file:///a%20b/z/"},
       {"/a/", "file:///a/", "file:///a/", "file:///a/x%20y", "file:///a/z/"},
       {"/", "file:///", "file:///", "file:///x%20y", "file:///z/"},
       {"/\u00E9%?#", "file:///%C3%A9%25%3F%23", "file:///%C3%A9%25%3F%23/",
        "file:///%C3%A9%25%3F%23/x%20y", "file:///%C3%A9%25%3F%23/z/"},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.path);
-    const URL file = URL::fileURLWithPath(row.path, false);
-    EXPECT_EQ(file.absoluteString(), row.file);
-    EXPECT_EQ(URL::fileURLWithPath(row.path, true).absoluteString(), row.folder);
-    EXPECT_EQ(file.URLByAppendingPathComponent("x y", false).absoluteString(), row.child);
-    EXPECT_EQ(file.URLByAppendingPathComponent("z", true).absoluteString(), row.childFolder);
-    EXPECT_EQ(file.URLByAppendingPathComponent("z/", true).absoluteString(), row.childFolder);
-    EXPECT_EQ(file == URL::fileURLWithPath(row.path, true), file.absoluteString() == row.folder);
+  for (const auto& [path, asFile, asFolder, child, childFolder] : rows) {
+    SCOPED_TRACE(path);
+    const URL file = URL::fileURLWithPath(path, false);
+    EXPECT_EQ(file.absoluteString(), asFile);
+    EXPECT_EQ(URL::fileURLWithPath(path, true).absoluteString(), asFolder);
+    EXPECT_EQ(file.URLByAppendingPathComponent("x y", false).absoluteString(), child);
+    EXPECT_EQ(file.URLByAppendingPathComponent("z", true).absoluteString(), childFolder);
+    EXPECT_EQ(file.URLByAppendingPathComponent("z/", true).absoluteString(), childFolder);
+    EXPECT_EQ(file == URL::fileURLWithPath(path, true), file.absoluteString() == asFolder);
   }
   EXPECT_TRUE(URL::fileURLWithPath({}, true).isAbsent());
   EXPECT_TRUE(URL().URLByAppendingPathComponent("x", false).isAbsent());

@@ -83,21 +83,17 @@ TEST(Utf8, EncodesEveryCharacterAndReplacesOthers) {
 }
 
 TEST(Utf8, CountsCutSequencesAsOneCharacter) {
-  const struct {
-    const char* text;
-    bool isValid;
-    std::size_t units;
-  } rows[] = {{"", true, 0},
-              {"a\u00E9\u20AC", true, 3},
-              {"\uFFFF\U00010000", true, 3},
-              {"\U0010FFFF\U0001F600", true, 4},
-              {"\xF0\x9F\x98", false, 1},
-              {"\xF0\x9F\x98z", false, 2},
-              {"\xC0\xAF", false, 2},
-              {"z\xE2\x82\xE2\x82\xAC", false, 3}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(isValid(row.text), row.isValid) << testing::PrintToString(row.text);
-    EXPECT_EQ(String(row.text).utf16Length(), row.units) << testing::PrintToString(row.text);
+  const std::tuple<const char*, bool, std::size_t> rows[] = {{"", true, 0},
+                                                             {"a\u00E9\u20AC", true, 3},
+                                                             {"\uFFFF\U00010000", true, 3},
+                                                             {"\U0010FFFF\U0001F600", true, 4},
+                                                             {"\xF0\x9F\x98", false, 1},
+                                                             {"\xF0\x9F\x98z", false, 2},
+                                                             {"\xC0\xAF", false, 2},
+                                                             {"z\xE2\x82\xE2\x82\xAC", false, 3}};
+  for (const auto& [text, valid, units] : rows) {
+    EXPECT_EQ(isValid(text), valid) << testing::PrintToString(text);
+    EXPECT_EQ(String(text).utf16Length(), units) << testing::PrintToString(text);
   }
   EXPECT_EQ(String().utf16Length(), 0U);
 }

@@ -18,11 +18,7 @@ std::string withNewText(const std::string& bytes, const std::string& text = "new
 }
 
 TEST(StringsDocument, ReplacesATextAndNothingElse) {
-  const struct {
-    const char* name;
-    std::string before;
-    std::string after;
-  } rows[] = {
+  const std::tuple<const char*, std::string, std::string> rows[] = {
       {"form", "\xEF\xBB\xBF// h\r\n\r\n 'a'=b ;\r\n k = 'o' ; // x",
        "\xEF\xBB\xBF// h\r\n\r\n 'a'=b ;\r\n k = 'new' ; // x"},
       {"unquoted", "k = old;", "k = \"new\";"},
@@ -47,10 +43,10 @@ TEST(StringsDocument, ReplacesATextAndNothingElse) {
       {"XML without an end", "<dict/>", "refused"},
       {"no table", "<html>", "no table"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(withNewText(row.before), row.after) << row.name;
-    const auto document = StringsDocument::read(row.before);
-    EXPECT_TRUE(!document || document->withTexts(document->entries()) == row.before) << row.name;
+  for (const auto& [name, before, after] : rows) {
+    EXPECT_EQ(withNewText(before), after) << name;
+    const auto document = StringsDocument::read(before);
+    EXPECT_TRUE(!document || document->withTexts(document->entries()) == before) << name;
   }
 }
 

@@ -25,13 +25,7 @@ void checkInTime(const std::string& bytes) {
   EXPECT_EQ(reading.table->textForKey(HashedKey("good")), "G");
 }
 
-struct Row {
-  const char* name;
-  std::string head;
-  std::string unit;
-  std::string tail;
-};
-const Row kRows[] = {
+const std::tuple<const char*, std::string, std::string, std::string> kRows[] = {
     {"opening quotes", "", "\"", ""},
     {"open strings", "", "k = \"x\n", ""},
     {"open strings of both kinds", "", "k = \"x\nk = 'x\n", ""},
@@ -83,10 +77,10 @@ const Row kRows[] = {
 
 // Each text is a good statement, the head, the repeated unit, and the tail.
 TEST(HostileTable, TakesLinearTimeWhateverComes) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.name);
-    const std::string good = row.head.starts_with(kXml) ? "" : "good = G;\n";
-    checkInTime(good + row.head + filled(row.unit) + row.tail);
+  for (const auto& [name, head, unit, tail] : kRows) {
+    SCOPED_TRACE(name);
+    const std::string good = head.starts_with(kXml) ? "" : "good = G;\n";
+    checkInTime(good + head + filled(unit) + tail);
   }
 }
 
