@@ -1,14 +1,11 @@
-#include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <numeric>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <tests/support/BinaryList.h>
 
 #include "TableInvariants.h"
+#include "Target.h"
 
 namespace {
 
@@ -27,8 +24,6 @@ std::string framed(std::string_view objects) {
 
 // Takes the input as a whole file or as objects without a frame, because hardly any mutation keeps
 // a frame valid.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view input(reinterpret_cast<const char*>(data), size);
-  orvanta::fuzz::checkTable(input.starts_with(kMagic) ? std::string(input) : framed(input));
-  return 0;
+void orvanta::fuzz::feed(std::string_view input) {
+  checkTable(input.starts_with(kMagic) ? std::string(input) : framed(input));
 }

@@ -1,7 +1,5 @@
 #include "TableInvariants.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <memory>
 #include <string>
@@ -10,6 +8,8 @@
 #include <orvanta/strings/document/StringsDocument.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 #include <orvanta/text/Utf8.h>
+
+#include "Target.h"
 
 namespace orvanta::fuzz {
 
@@ -27,13 +27,6 @@ constexpr std::size_t kAlwaysGranted = std::size_t{1} << 20;
 // from some ten thousand bytes on.
 constexpr double kMostSecondsPerByte = 40e-6;
 constexpr double kSecondsAlwaysGranted = 0.2;
-
-void require(bool holds, const char* promise) {
-  if (!holds) {
-    std::fprintf(stderr, "broken promise: %s\n", promise);
-    std::abort();
-  }
-}
 
 struct Reading {
   std::shared_ptr<const StringTable> table;

@@ -1,6 +1,7 @@
 #include "ReferenceReader.h"
 
-#include <cstdint>
+#include <algorithm>
+#include <span>
 
 #include <orvanta/text/Utf8.h>
 
@@ -58,14 +59,8 @@ class Reader {
     }
   }
 
-  template <std::size_t kCount>
-  bool acceptAny(const std::string_view (&tokens)[kCount]) {
-    for (const std::string_view token : tokens) {
-      if (accept(token)) {
-        return true;
-      }
-    }
-    return false;
+  bool acceptAny(std::span<const std::string_view> tokens) {
+    return std::any_of(tokens.begin(), tokens.end(), [this](auto token) { return accept(token); });
   }
 
   void skip() {
@@ -97,15 +92,12 @@ class Reader {
     statement.isQuoted = rest().starts_with('"') || rest().starts_with('\'');
     statement.key = readText();
     statement.value = statement.key;
-    statement.keyEnd = statement.valueBegin = statement.valueEnd = at_;
+    statement.keyEnd = at_;
     skip();
     if (accept("=")) {
       skip();
-      statement.valueBegin = at_;
-      statement.isText =
-          at_ < text_.size() && std::string_view("<({").find(text_[at_]) == std::string_view::npos;
-      statement.value = statement.isText ? readText() : readOther();
-      statement.valueEnd = at_;
+      statement.isText = !isAtOther();
+      statement.value = readValue();
       skip();
     }
     expect(";");
@@ -164,6 +156,13 @@ class Reader {
     return number;
   }
 
+  // At data, an array or a dictionary.
+  [[nodiscard]] bool isAtOther() const {
+    return !rest().empty() && std::string_view("<({").find(text_[at_]) != std::string_view::npos;
+  }
+
+  std::string readValue() { return isAtOther() ? readOther() : readText(); }
+
   std::string readOther() {
     if (accept("<")) {
       while (!accept(">")) {
@@ -174,7 +173,7 @@ class Reader {
       }
     } else if (accept("(")) {
       for (skip(); !accept(")"); skip()) {
-        readElement();
+        static_cast<void>(readValue());
         skip();
         if (!rest().starts_with(')')) {
           expect(",");
@@ -187,14 +186,6 @@ class Reader {
       }
     }
     return {};
-  }
-
-  void readElement() {
-    if (at_ < text_.size() && std::string_view("<({").find(text_[at_]) != std::string_view::npos) {
-      static_cast<void>(readOther());
-    } else {
-      static_cast<void>(readText());
-    }
   }
 
   std::string_view text_;

@@ -12,8 +12,6 @@ struct Statement {
   std::size_t begin = 0;  ///< Of the key.
   std::size_t end = 0;    ///< Behind the semicolon.
   std::size_t keyEnd = 0;
-  std::size_t valueBegin = 0;  ///< Equals `valueEnd` where the key is its own value.
-  std::size_t valueEnd = 0;
   std::string key;
   std::string value;
   bool isQuoted = true;  ///< The key.

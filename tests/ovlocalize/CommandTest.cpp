@@ -132,11 +132,11 @@ TEST_F(Command, MakesPseudoLanguages) {
        R"(<say> \"<no>\"\n\\ \U0007)"},
       {"a@b.example", "a@b.example", "a@b.example"},
   };
-  for (const auto& [source, accented, turned] : rows) {
+  for (const auto& [source, accented, marked] : rows) {
     fs::remove_all(folder_ / "OrvantaLocalizations");
     write("b/en.lproj/Localizable.strings", std::string("\"\\\"k\" = \"") + source + "\";");
     std::string turned =
-        std::regex_replace(turned, std::regex("<([a-z]{2,}|[sxa])>"), "\u200F\u202E$1\u202C\u200F");
+        std::regex_replace(marked, std::regex("<([a-z]{2,}|[sxa])>"), "\u200F\u202E$1\u202C\u200F");
     for (const auto& [to, text] : {std::pair{"en-XA", accented}, {"ar-XB", turned.c_str()}}) {
       const std::string ov = "${OV%% *} --bundle b --cache $PWD ";
       run(ov + "pseudo --to " + to + " && " + ov + "check && " + ov + "dump --language " + to);

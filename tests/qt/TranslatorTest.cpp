@@ -81,11 +81,11 @@ class TranslatorTest : public QObject {
     QCoreApplication::installTranslator(&next);
     orvanta::qt::Translator translator;
     QCoreApplication::installTranslator(&translator);
-    for (const bool dutch : {true, false}) {
-      QVERIFY(speak(dutch ? u"nl"_s : u"en"_s));
+    for (const bool isDutch : {true, false}) {
+      QVERIFY(speak(isDutch ? u"nl"_s : u"en"_s));
       for (const auto& [source, n, dutch, english] : kRows) {
         const QString text = QCoreApplication::translate("Menu", source, "as a verb", n);
-        QVERIFY2(text == QStringView(dutch ? dutch : english),
+        QVERIFY2(text == QStringView(isDutch ? dutch : english),
                  qPrintable(QString::fromUtf8(source) + u": "_s + text));
       }
     }
