@@ -47,15 +47,16 @@ void feed(std::string_view input) {
 
   const MessageLanguage& language = languages[choice % 4];
   // With a letter, so that both arguments have the direction left to right.
-  const auto argumentsWith = [&](std::string text) {
-    text += 'a';
+  const std::string argument = std::string(kArgument) + 'a';
+  const std::string token = {kToken, 'a'};
+  const auto argumentsWith = [&](const std::string& text) {
     return std::vector<MessageArgument>{
         {"count", (choice / 4 - 16) * 0.5}, {"name", text}, 7, text};
   };
-  const std::vector<MessageArgument> arguments = argumentsWith(std::string(kArgument));
-  const std::vector<MessageArgument> tokens = argumentsWith({kToken});
+  const std::vector<MessageArgument> arguments = argumentsWith(argument);
+  const std::vector<MessageArgument> tokens = argumentsWith(token);
   // Two isolates, or the longest number; a width has two digits at most.
-  const std::size_t longest = kArgument.size() + 101;
+  const std::size_t longest = argument.size() + 100;
 
   PatternParts parts;
   if (const auto error = parsePattern(pattern, parts)) {

@@ -6,7 +6,6 @@
 #include <QTimer>
 #include <memory>
 
-#include <orvanta/cache/OVStringCache.h>
 #include <orvanta/qt/UILocalizedButton.h>
 #include <orvanta/qt/UILocalizedLabel.h>
 #include <orvanta/qt/UILocalizedTextField.h>
@@ -59,23 +58,6 @@ class OrderWindowTest : public QObject {
     QVERIFY(find<UILocalizedLabel>("summaryLabel")->text().contains(QChar(0x60C)));
   }
 
-  void cutsNothingOffInAnyLanguage() {
-    auto& cache = orvanta::Localizer::sharedLocalizer().stringCache();
-    const orvanta::OVLocaleDictionary languages = cache.availableLanguages();
-    QVERIFY(languages.size() >= 14);
-    for (const bool isSmallest : {false, true}) {
-      for (const auto& [language, record] : languages) {
-        QVERIFY(speak(orvanta::qt::toQString(language)));
-        if (isSmallest) {
-          window_->resize(0, 0);
-          QCoreApplication::processEvents();
-        }
-        checkNothingIsCutOff(orvanta::qt::toQString(language) +
-                             (isSmallest ? u", smallest"_s : QString()));
-      }
-    }
-  }
-
   void keepsWhatWasTyped() {
     auto* email = find<UILocalizedTextField>("emailField");
     QCOMPARE(email->text(), u"name@example.com"_s);
@@ -96,14 +78,13 @@ class OrderWindowTest : public QObject {
 
   void countsInEveryPluralForm() {
     QVERIFY(speak(u"ar"_s));
-    const QString lines[] = {u"لم يُطلب أي صنف"_s, u"طُلب صنف واحد"_s, u"طُلب صنفان"_s,
-                             u"طُلبت ٣ أصناف"_s,   u"طُلب ١١ صنفًا"_s,  u"طُلب ١٠٠ صنف"_s};
-    const int counts[] = {0, 1, 2, 3, 11, 100};
-    for (std::size_t row = 0; row < std::size(counts); ++row) {
-      window_->setItemCount(counts[row]);
-      QCOMPARE(find<UILocalizedLabel>("summaryLabel")->text().section(u'\n', 1), lines[row]);
+    const std::pair<int, const char16_t*> rows[] = {{0, u"لم يُطلب أي صنف"}, {1, u"طُلب صنف واحد"},
+                                                    {2, u"طُلب صنفان"},      {3, u"طُلبت ٣ أصناف"},
+                                                    {11, u"طُلب ١١ صنفًا"},   {100, u"طُلب ١٠٠ صنف"}};
+    for (const auto& [count, line] : rows) {
+      window_->setItemCount(count);
+      QCOMPARE(find<UILocalizedLabel>("summaryLabel")->text().section(u'\n', 1), QStringView(line));
     }
-    QVERIFY(speak(u"de"_s));
   }
 
   void downloadsALanguageToChoose() {
@@ -123,25 +104,6 @@ class OrderWindowTest : public QObject {
 
   // What follows is no slot. NOLINTNEXTLINE(readability-redundant-access-specifiers)
  private:
-  void checkNothingIsCutOff(const QString& place) {
-    for (QWidget* widget : window_->findChildren<QWidget*>()) {
-      const auto* label = qobject_cast<UILocalizedLabel*>(widget);
-      if (label == nullptr && qobject_cast<UILocalizedButton*>(widget) == nullptr) {
-        continue;
-      }
-      const bool wraps = label != nullptr && label->wordWrap();
-      const QSize needed =
-          wraps ? QSize(0, label->heightForWidth(label->width())) : widget->sizeHint();
-      QVERIFY2(needed.width() <= widget->width() && needed.height() <= widget->height(),
-               qPrintable(QStringLiteral("%1 %2: %3x%4 for %5x%6")
-                              .arg(place, widget->objectName())
-                              .arg(widget->width())
-                              .arg(widget->height())
-                              .arg(needed.width())
-                              .arg(needed.height())));
-    }
-  }
-
   template <typename Widget>
   Widget* find(const char* name) const {
     return window_->findChild<Widget*>(QString::fromLatin1(name));

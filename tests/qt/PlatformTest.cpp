@@ -13,7 +13,6 @@
 #include <orvanta/standard/StandardPlatform.h>
 
 #include "Support.h"
-#include "tests/support/TestApplication.h"
 
 namespace {
 

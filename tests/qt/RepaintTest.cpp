@@ -33,8 +33,6 @@ class Painted : public QObject {
   }
 };
 
-using Arrange = void (*)(QWidget& window, const QList<QLabel*>& labels);
-
 void atPlaces(QWidget& /*window*/, const QList<QLabel*>& labels) {
   for (int at = 0; at < kLabels; ++at) {
     labels[at]->setGeometry(at % 8 * 90, at / 8 * 30, 80, 20);
@@ -57,7 +55,52 @@ void scrolled(QWidget& window, const QList<QLabel*>& labels) {
   (new QGridLayout(&window))->addWidget(area);
 }
 
-using Design = void (*)(QLabel& label);
+const std::pair<const char*, void (*)(QLabel&)> kDesigns[] = {
+    {"plain", [](QLabel&) {}},
+    {"several lines", [](QLabel& label) { label.setText("one\ntwo two\n"); }},
+    {"tabs", [](QLabel& label) { label.setText("one\ttwo"); }},
+    {"Arabic", [](QLabel& label) { label.setText(u8"تسجيل الدخول"); }},
+    {"wider than any", [](QLabel& label) { label.setText(QStringLiteral("long ").repeated(900)); }},
+    {"empty", [](QLabel& label) { label.setText({}); }},
+    {"a picture", [](QLabel& label) { label.setPixmap(QPixmap(30, 40)); }},
+    {"wrapped",
+     [](QLabel& label) {
+       label.setText(QStringLiteral("many words ").repeated(30));
+       label.setWordWrap(true);
+     }},
+    {"rich",
+     [](QLabel& label) {
+       label.setText("<b>one</b><br>two");
+       label.setTextFormat(Qt::RichText);
+     }},
+    {"margin", [](QLabel& label) { label.setMargin(7); }},
+    {"contents margins", [](QLabel& label) { label.setContentsMargins(1, 2, 3, 4); }},
+    {"frame",
+     [](QLabel& label) {
+       label.setFrameStyle(QFrame::Box | QFrame::Raised);
+       label.setLineWidth(3);
+     }},
+    {"frame, centred",
+     [](QLabel& label) {
+       label.setFrameStyle(QFrame::Panel);
+       label.setAlignment(Qt::AlignCenter);
+     }},
+    {"indented, at the bottom right",
+     [](QLabel& label) {
+       label.setIndent(9);
+       label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+     }},
+    {"justified", [](QLabel& label) { label.setAlignment(Qt::AlignJustify | Qt::AlignTop); }},
+    {"at least so large", [](QLabel& label) { label.setMinimumSize(300, 5); }},
+    {"style sheet",
+     [](QLabel& label) {
+       label.setStyleSheet("border: 3px solid; padding: 5px 8px; font-weight: bold");
+     }},
+};
+
+const std::pair<const char*, void (*)(QWidget& window, const QList<QLabel*>& labels)>
+    kArrangements[] = {
+        {"at places", atPlaces}, {"in a layout", inGrid}, {"in a scroll area", scrolled}};
 
 }  // namespace
 
@@ -66,113 +109,68 @@ class RepaintTest : public QObject {
 
  private slots:
   static void init() { QVERIFY(speak(QStringLiteral("en"))); }
-  static void aBatchPaintsEveryLabelOnce_data();
-  static void aBatchPaintsEveryLabelOnce();
-  static void measuresPlainTextAsQtDoes_data();
-  static void measuresPlainTextAsQtDoes();
+
+  static void aBatchPaintsEveryLabelOnce() {
+    for (const auto& [name, arrange] : kArrangements) {
+      QWidget window;
+      window.resize(720, 150);
+      const RepaintBatch batch(window);
+      QList<QLabel*> labels;
+      for (int at = 0; at < kLabels; ++at) {
+        labels << UILocalizedLabel::initLocalizedWithFrame({}, &window,
+                                                           QStringLiteral("signin.title"));
+      }
+      arrange(window, labels);
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      // The first change may enlarge the window, which causes another repaint.
+      QVERIFY(speak(QStringLiteral("de")));
+      QVERIFY(speak(QStringLiteral("en")));
+
+      Painted painted;
+      for (QLabel* label : std::as_const(labels)) {
+        label->installEventFilter(&painted);
+      }
+      const qsizetype children = window.children().size();
+      QVERIFY(speak(QStringLiteral("de")));
+      for (QLabel* label : std::as_const(labels)) {
+        const bool inSight = !label->visibleRegion().isEmpty();
+        QVERIFY2(painted.times.value(label) == (inSight ? 1 : 0), name);
+        QCOMPARE(painted.texts.value(label), inSight ? QStringLiteral("Anmelden") : QString());
+      }
+      QVERIFY2(!painted.times.isEmpty(), name);
+      QCOMPARE(window.children().size(), children);
+      QVERIFY(speak(QStringLiteral("en")));
+    }
+  }
+
+  static void measuresPlainTextAsQtDoes() {
+    for (const auto& [name, design] : kDesigns) {
+      UILocalizedLabel ours;
+      QLabel theirs;
+      QLabel* const both[] = {&ours, &theirs};
+      for (QLabel* label : both) {
+        label->setTextFormat(Qt::PlainText);
+        label->setText(QStringLiteral("Sign in"));
+        design(*label);
+        label->ensurePolished();
+      }
+      const auto areAlike = [&] {
+        return ours.sizeHint() == theirs.sizeHint() &&
+               ours.minimumSizeHint() == theirs.minimumSizeHint();
+      };
+      QVERIFY2(areAlike(), name);
+      for (QLabel* label : both) {
+        label->setFont(QFont(QStringLiteral("DejaVu Sans"), 20));
+      }
+      QVERIFY2(areAlike(), name);
+      for (QLabel* label : both) {
+        label->setText(label->text() + QStringLiteral(" now"));
+      }
+      QVERIFY2(areAlike(), name);
+    }
+  }
 };
-
-void RepaintTest::aBatchPaintsEveryLabelOnce_data() {
-  QTest::addColumn<Arrange>("arrange");
-  QTest::newRow("at places") << Arrange(atPlaces);
-  QTest::newRow("in a layout") << Arrange(inGrid);
-  QTest::newRow("in a scroll area") << Arrange(scrolled);
-}
-
-void RepaintTest::aBatchPaintsEveryLabelOnce() {
-  QFETCH(const Arrange, arrange);
-  QWidget window;
-  window.resize(720, 150);
-  const RepaintBatch batch(window);
-  QList<QLabel*> labels;
-  for (int at = 0; at < kLabels; ++at) {
-    labels << UILocalizedLabel::initLocalizedWithFrame({}, &window, QStringLiteral("signin.title"));
-  }
-  arrange(window, labels);
-  window.show();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
-  // The first change may enlarge the window, which causes another repaint.
-  QVERIFY(speak(QStringLiteral("de")));
-  QVERIFY(speak(QStringLiteral("en")));
-
-  Painted painted;
-  for (QLabel* label : std::as_const(labels)) {
-    label->installEventFilter(&painted);
-  }
-  const qsizetype children = window.children().size();
-  QVERIFY(speak(QStringLiteral("de")));
-  for (QLabel* label : std::as_const(labels)) {
-    const bool inSight = !label->visibleRegion().isEmpty();
-    QCOMPARE(painted.times.value(label), inSight ? 1 : 0);
-    QCOMPARE(painted.texts.value(label), inSight ? QStringLiteral("Anmelden") : QString());
-  }
-  QVERIFY(!painted.times.isEmpty());
-  QCOMPARE(window.children().size(), children);
-}
-
-void RepaintTest::measuresPlainTextAsQtDoes_data() {
-  QTest::addColumn<Design>("design");
-  QTest::newRow("plain") << Design([](QLabel&) {});
-  QTest::newRow("several lines") << Design([](QLabel& label) { label.setText("one\ntwo two\n"); });
-  QTest::newRow("tabs") << Design([](QLabel& label) { label.setText("one\ttwo"); });
-  QTest::newRow("Arabic") << Design([](QLabel& label) { label.setText(u8"تسجيل الدخول"); });
-  QTest::newRow("wider than any") << Design(
-      [](QLabel& label) { label.setText(QStringLiteral("long ").repeated(900)); });
-  QTest::newRow("empty") << Design([](QLabel& label) { label.setText({}); });
-  QTest::newRow("a picture") << Design([](QLabel& label) { label.setPixmap(QPixmap(30, 40)); });
-  QTest::newRow("wrapped") << Design([](QLabel& label) {
-    label.setText(QStringLiteral("many words ").repeated(30));
-    label.setWordWrap(true);
-  });
-  QTest::newRow("rich") << Design([](QLabel& label) {
-    label.setText("<b>one</b><br>two");
-    label.setTextFormat(Qt::RichText);
-  });
-  QTest::newRow("margin") << Design([](QLabel& label) { label.setMargin(7); });
-  QTest::newRow("contents margins")
-      << Design([](QLabel& label) { label.setContentsMargins(1, 2, 3, 4); });
-  QTest::newRow("frame") << Design([](QLabel& label) {
-    label.setFrameStyle(QFrame::Box | QFrame::Raised);
-    label.setLineWidth(3);
-  });
-  QTest::newRow("frame, centred") << Design([](QLabel& label) {
-    label.setFrameStyle(QFrame::Panel);
-    label.setAlignment(Qt::AlignCenter);
-  });
-  QTest::newRow("indented, at the bottom right") << Design([](QLabel& label) {
-    label.setIndent(9);
-    label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
-  });
-  QTest::newRow("justified") << Design(
-      [](QLabel& label) { label.setAlignment(Qt::AlignJustify | Qt::AlignTop); });
-  QTest::newRow("at least so large") << Design([](QLabel& label) { label.setMinimumSize(300, 5); });
-  QTest::newRow("style sheet") << Design([](QLabel& label) {
-    label.setStyleSheet("border: 3px solid; padding: 5px 8px; font-weight: bold");
-  });
-}
-
-void RepaintTest::measuresPlainTextAsQtDoes() {
-  QFETCH(const Design, design);
-  UILocalizedLabel ours;
-  QLabel theirs;
-  for (QLabel* label : {static_cast<QLabel*>(&ours), &theirs}) {
-    label->setTextFormat(Qt::PlainText);
-    label->setText(QStringLiteral("Sign in"));
-    design(*label);
-    label->ensurePolished();
-  }
-  QCOMPARE(ours.sizeHint(), theirs.sizeHint());
-  QCOMPARE(ours.minimumSizeHint(), theirs.minimumSizeHint());
-  for (QLabel* label : {static_cast<QLabel*>(&ours), &theirs}) {
-    label->setFont(QFont(QStringLiteral("DejaVu Sans"), 20));
-  }
-  QCOMPARE(ours.sizeHint(), theirs.sizeHint());
-  for (QLabel* label : {static_cast<QLabel*>(&ours), &theirs}) {
-    label->setText(label->text() + QStringLiteral(" now"));
-  }
-  QCOMPARE(ours.sizeHint(), theirs.sizeHint());
-  QCOMPARE(ours.minimumSizeHint(), theirs.minimumSizeHint());
-}
 
 static const orvanta::test::Registration<RepaintTest> registration;
 

@@ -12,8 +12,24 @@
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/LanguageChangeObserver.h>
 #include <orvanta/qt/Text.h>
+#include <orvanta/qt/platform/QtPlatform.h>
+
+#include "tests/support/TestApplication.h"
 
 namespace orvanta::test {
+
+/// Installs a platform that speaks English from the demo's bundle. Its caches end with the object.
+class DemoPlatform {
+ public:
+  DemoPlatform() {
+    platform::Platform::install(qt::makeQtPlatform({.mainBundlePath = DEMO_BUNDLE,
+                                                    .cachesPath = caches_.path(),
+                                                    .deviceLanguages = {{"en"}}}));
+  }
+
+ private:
+  ScratchFolder caches_;
+};
 
 /// The test classes of this program; each registers itself with a static `Registration`.
 inline std::vector<std::function<std::unique_ptr<QObject>()>>& testClasses() {

@@ -8,9 +8,9 @@
 #include <orvanta/qt/LocaleFollower.h>
 #include <orvanta/qt/QtTextsTranslator.h>
 #include <orvanta/qt/Translator.h>
-#include <orvanta/text/StringsPayload.h>
 
 #include "Support.h"
+#include "tests/support/UpdateFixture.h"
 
 using namespace Qt::StringLiterals;
 using orvanta::test::speak;
@@ -48,20 +48,14 @@ constexpr std::tuple<const char*, int, const char16_t*, const char16_t*> kRows[]
 };
 
 void downloadDutch() {
-  orvanta::StringsPayload texts;
-  for (const auto& [key, text] :
-       {std::pair{"Save &as…", "Opslaan &als…"},
-        {"{braces}", "'{}'"},
-        {"no plural", "drie"},
-        {"%n file(s)", "{n, plural, one {# bestand} other {# bestanden van %n}}"}}) {
-    texts.add(key, orvanta::String(text));
-  }
-  for (const char* around : {"zantorData", "main", "test", "nl"}) {
-    orvanta::StringsPayload folder;
-    folder.add(around, texts);
-    texts = folder;
-  }
-  orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(texts, "main", "test", {});
+  orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(
+      orvanta::test::payloadOf(
+          {{"nl",
+            {{"Save &as…", "Opslaan &als…"},
+             {"{braces}", "'{}'"},
+             {"no plural", "drie"},
+             {"%n file(s)", "{n, plural, one {# bestand} other {# bestanden van %n}}"}}}}),
+      "main", "app");
 }
 
 }  // namespace

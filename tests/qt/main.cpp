@@ -7,20 +7,10 @@
 #include <orvanta/platform/Platform.h>
 #include <orvanta/qt/UILocalizedLabel.h>
 #include <orvanta/qt/platform/QtFonts.h>
-#include <orvanta/qt/platform/QtPlatform.h>
 
 #include "Support.h"
-#include "tests/support/TestApplication.h"
 
 namespace {
-
-void installPlatform(const orvanta::test::ScratchFolder& caches) {
-  orvanta::standard::StandardOptions options;
-  options.mainBundlePath = DEMO_BUNDLE;
-  options.cachesPath = caches.path();
-  options.deviceLanguages = {{"en"}};
-  orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
-}
 
 // Whether a new application object has the Arabic face. Destroys the application object.
 bool applicationHasArabicFace(int& argc, char** argv) {
@@ -49,8 +39,7 @@ int main(int argc, char** argv) {
   if (task == "--no-platform") {
     return warnsOnce(argc, argv) ? 0 : 1;
   }
-  const orvanta::test::ScratchFolder caches;
-  installPlatform(caches);
+  const orvanta::test::DemoPlatform platform;
   if (task == "--two-applications") {
     return applicationHasArabicFace(argc, argv) && applicationHasArabicFace(argc, argv) ? 0 : 1;
   }

@@ -6,11 +6,9 @@
 #include <QTest>
 
 #include <orvanta/qt/platform/QtFonts.h>
-#include <orvanta/qt/platform/QtPlatform.h>
-#include <orvanta/text/StringsPayload.h>
 
 #include "tests/qt/Support.h"
-#include "tests/support/TestApplication.h"
+#include "tests/support/UpdateFixture.h"
 
 using namespace Qt::StringLiterals;
 using orvanta::test::speak;
@@ -152,14 +150,8 @@ class QuickTest : public QObject {
     QObject* const orvanta =
         engine_.singletonInstance<QObject*>(qmlTypeId("Orvanta", 1, 0, "Orvanta"));
     QVERIFY(root()->property("languages").toString().contains(u"de:Deutsch,"_s));
-    orvanta::StringsPayload texts;
-    texts.add("signin.title", orvanta::String("Aanmelden"));
-    for (const char* around : {"zantorData", "main", "test", "nl"}) {
-      orvanta::StringsPayload folder;
-      folder.add(around, texts);
-      texts = folder;
-    }
-    orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(texts, "main", "test", {});
+    orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(
+        orvanta::test::payloadOf({{"nl", {{"signin.title", "Aanmelden"}}}}), "main", "app");
     QMetaObject::invokeMethod(orvanta, "refreshLanguages");
     QVERIFY(root()->property("languages").toString().contains(u"nl:Nederlands!,"_s));
     QMetaObject::invokeMethod(orvanta, "setLanguage", Q_ARG(QString, u"nl"_s));
@@ -170,12 +162,7 @@ class QuickTest : public QObject {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
-  const orvanta::test::ScratchFolder caches;
-  orvanta::standard::StandardOptions options;
-  options.mainBundlePath = DEMO_BUNDLE;
-  options.cachesPath = caches.path();
-  options.deviceLanguages = {{"en"}};
-  orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
+  const orvanta::test::DemoPlatform platform;
   const QGuiApplication application(argc, argv);
   QGuiApplication::setFont(QFont(u"DejaVu Sans"_s, 11));
   QuickTest test;

@@ -1,6 +1,4 @@
-#include <atomic>
 #include <cstdlib>
-#include <functional>
 #include <future>
 #include <stdexcept>
 #include <thread>
@@ -13,63 +11,42 @@
 namespace orvanta::standard {
 namespace {
 
-// Both ways in which the main thread can run queued steps.
-class RunLoopTurns : public testing::TestWithParam<bool> {
- protected:
-  void turnUntil(const std::function<bool()>& isDone) {
-    while (!isDone()) {
-      if (GetParam()) {
-        loop_->dispatchAsync([&] { loop_->quit(); });
-        loop_->run();
-      } else {
-        loop_->runPending();
-      }
-    }
-  }
-  std::shared_ptr<RunLoop> loop_ = RunLoop::make();
-};
-
-INSTANTIATE_TEST_SUITE_P(BothWays, RunLoopTurns, testing::Bool());
-
-TEST_P(RunLoopTurns, RunsStepsLaterAndInOrder) {
+TEST(RunLoop, RunsStepsLaterAndInOrderUnlessTheMainThreadWaits) {
+  const auto loop = RunLoop::make();
   std::string order;
-  loop_->dispatchAsync([&] {
-    order += "1";
-    loop_->dispatchAsync([&] { order += "3"; });
+  loop->dispatchAsync([&] {
     order += "2";
+    loop->dispatchAsync([&] { order += "4"; });
+    order += "3";
   });
-  EXPECT_EQ(order, "") << "never inside the call";
-  turnUntil([&] { return order.size() >= 3; });
-  EXPECT_EQ(order, "123");
+  loop->performOnMainThreadAndWait([&] { order += "1"; });
+  EXPECT_EQ(order, "1") << "never inside the call that hands over";
+  while (loop->runPending() > 0) {
+  }
+  EXPECT_EQ(order, "1234");
 }
 
-TEST_P(RunLoopTurns, WaitsOnTheMainThreadByRunningAtOnce) {
-  std::string order;
-  loop_->dispatchAsync([&] { order += "2"; });
-  loop_->performOnMainThreadAndWait([&] { order += "1"; });
-  EXPECT_EQ(order, "1");
-  turnUntil([&] { return order.size() >= 2; });
-  EXPECT_EQ(order, "12");
-}
-
-TEST_P(RunLoopTurns, RunsTheStepsOfOtherThreadsOnTheMainOne) {
-  std::atomic<int> ended = 0;
+TEST(RunLoop, RunsTheStepsOfOtherThreadsOnTheMainOne) {
+  const auto loop = RunLoop::make();
   std::vector<int> seen;  // By steps on the main thread alone.
   std::vector<std::thread> threads;
-  threads.reserve(4);
   for (int number = 0; number < 4; ++number) {
     threads.emplace_back([&, number] {
       bool ran = false;
-      loop_->performOnMainThreadAndWait([&] {
-        ran = loop_->isMainThread();
+      loop->performOnMainThreadAndWait([&] {
+        ran = loop->isMainThread();
         seen.push_back(number);
       });
       EXPECT_TRUE(ran) << "waits until the step has run";
-      loop_->dispatchAsync([&, number] { seen.push_back(number); });
-      ++ended;
+      loop->dispatchAsync([&, number] {
+        seen.push_back(number);
+        if (seen.size() == 8) {
+          loop->quit();
+        }
+      });
     });
   }
-  turnUntil([&] { return ended == 4 && seen.size() >= 8; });
+  loop->run();
   for (std::thread& thread : threads) {
     thread.join();
   }

@@ -132,23 +132,21 @@ TEST(TextEncoding, TranscodesLikeOneCharacterAtATime) {
 
 TEST(TextEncoding, JudgesUtf8LikeOneCharacterAtATime) {
   std::mt19937 random(11);
-  const std::string pieces[] = {
-      "a",
-      "\u00E9",
-      "\u20AC",
-      "\u0905",
-      "\uD7A3",
-      "\U0001F600",
-      "\xC0\x80",
-      "\xE0\x9F\x80",
-      "\xED\xA0\x80",
-      "\xF4\x90\x80\x80",
-      "\xF0\x8F\x80\x80",
-      "\xF5\x80\x80\x80",
-      "\x80",
-      "\xC3",
-      "\xE2\x82",
-  };
+  const std::string pieces[] = {"a",
+                                "\u00E9",
+                                "\u20AC",
+                                "\u0905",
+                                "\uD7A3",
+                                "\U0001F600",
+                                "\xC0\x80",
+                                "\xE0\x9F\x80",
+                                "\xED\xA0\x80",
+                                "\xF4\x90\x80\x80",
+                                "\xF0\x8F\x80\x80",
+                                "\xF5\x80\x80\x80",
+                                "\x80",
+                                "\xC3",
+                                "\xE2\x82"};
   int valid = 0;
   for (int round = 0; round < 20000; ++round) {
     std::string text(random() % 70, 'a');
