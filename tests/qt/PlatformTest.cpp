@@ -10,6 +10,7 @@
 #include <orvanta/fonts/localizationUtilities.h>
 #include <orvanta/platform/Platform.h>
 #include <orvanta/qt/platform/QtFonts.h>
+#include <orvanta/qt/platform/QtPlatform.h>
 #include <orvanta/standard/StandardPlatform.h>
 
 #include "Support.h"
@@ -123,6 +124,49 @@ class PlatformTest : public QObject {
   }
   void warnsOnceWhereNoQtPlatformIsMade() {
     QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {u"--no-platform"_s}), 0);
+  }
+
+  void readsBundlesInResources() {
+    orvanta::standard::StandardOptions options;
+    options.mainBundlePath = ":/app/";
+    const Platform platform = orvanta::qt::makeQtPlatform(options);
+    const orvanta::StringList languages = platform.bundles->mainBundle()->localizations();
+    QVERIFY(languages == Platform::current().bundles->mainBundle()->localizations());
+    for (const orvanta::String& language : languages) {
+      const std::string folder = "/" + language.str() + ".lproj";
+      const auto shipped = platform.bundles->bundleWithPath("/:/app" + folder);
+      const auto onDisk = Platform::current().bundles->bundleWithPath(DEMO_BUNDLE + folder);
+      QVERIFY(shipped->laterTexts());
+      QCOMPARE(shipped->localizedStringForKey("order.item.tea").str(),
+               onDisk->localizedStringForKey("order.item.tea").str());
+    }
+    QVERIFY(platform.bundles->bundleWithPath("/:/app/xx.lproj") == nullptr);
+
+    FileManager& files = *platform.files;
+    const std::string table = "/:/app/fr.lproj/Localizable.strings";
+    for (const auto& [path, kind] : {std::pair("/:/app/./fr.lproj//", ItemKind::directory),
+                                     {"/:", ItemKind::directory},
+                                     {table.c_str(), ItemKind::file},
+                                     {"/:/app/../../etc/passwd", ItemKind::missing},
+                                     {"/:/\xFF", ItemKind::missing},
+                                     {"/:etc", ItemKind::missing},
+                                     {"/etc/passwd", ItemKind::file}}) {
+      QVERIFY2(files.itemKindAtPath(path) == kind, path);
+      QCOMPARE(files.fileExistsAtPath(path), kind != ItemKind::missing);
+      QCOMPARE(files.stampOfFileAtPath(path).has_value(), kind == ItemKind::file);
+      QCOMPARE(files.openFileForReading(path) != nullptr, kind == ItemKind::file);
+    }
+    int visited = 0;
+    QVERIFY(files
+                .enumerateDirectoryAtURL(orvanta::URL::fileURLWithPath("/:/app", true),
+                                         [&](const orvanta::URL&, bool) { ++visited; })
+                .ok());
+    QCOMPARE(visited, static_cast<int>(2 * languages.size()));
+    QVERIFY(files.openFolder("/:/app").status.is(std::errc::read_only_file_system));
+    QVERIFY(files.removeItemAtURL(orvanta::URL::fileURLWithPath(table, false))
+                .is(std::errc::read_only_file_system));
+    QVERIFY(files.contentsOfDirectoryAtURL(orvanta::URL::fileURLWithPath("/:/no", true))
+                .status.is(std::errc::no_such_file_or_directory));
   }
 
   void knowsFontsByExactNameAlone() {

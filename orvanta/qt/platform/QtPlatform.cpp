@@ -11,6 +11,7 @@
 #include <orvanta/qt/platform/QtMainQueue.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 #include <orvanta/qt/platform/QtPlatformCheck.h>
+#include <orvanta/qt/platform/ResourceFiles.h>
 
 namespace orvanta::qt {
 
@@ -54,6 +55,12 @@ platform::Platform makeQtPlatform(standard::StandardOptions options,
   }
   if (replacements.mainQueue == nullptr) {
     replacements.mainQueue = makeQtMainQueue();
+  }
+  if (const std::string path = pathOfResource(options.mainBundlePath);
+      path != options.mainBundlePath && replacements.files == nullptr) {
+    options.mainBundlePath = path;
+    replacements.files =
+        makeResourceFiles(standard::makeStandardPlatform(options, replacements).files);
   }
   const bool areLocalesReplaced = replacements.locales != nullptr;
   platform::Platform platform = standard::makeStandardPlatform(options, std::move(replacements));
