@@ -9,14 +9,18 @@ namespace {
 using testing::ElementsAreArray;
 
 // "key@line"; a computed key is "@line".
-std::vector<std::string> keysOf(std::string_view source) {
-  std::vector<KeyUse> uses;
-  collectSourceKeys(source, "file", libraryKeyFunctions(), uses);
+std::vector<std::string> written(const std::vector<KeyUse>& uses) {
   std::vector<std::string> keys;
   for (const KeyUse& use : uses) {
     keys.emplace_back(use.key + '@' + std::to_string(use.line));
   }
   return keys;
+}
+
+std::vector<std::string> keysOf(std::string_view source) {
+  std::vector<KeyUse> uses;
+  collectSourceKeys(source, "file", libraryKeyFunctions(), uses);
+  return written(uses);
 }
 
 TEST(SourceKeys, AreTheLiteralsHandedToTheLibrary) {
@@ -59,11 +63,7 @@ TEST(SourceKeys, OfAFormAreTextsOfLocalizedWidgetsAndDynamicProperties) {
 <property name="ovItems" stdset="0"><stringlist><string>one</string><string>two</string></stringlist></property>
 <property name="overflow"><string>no key</string></property></widget></widget></ui>)",
                   "form", uses);
-  std::vector<std::string> keys;
-  for (const KeyUse& use : uses) {
-    keys.emplace_back(use.key + '@' + std::to_string(use.line));
-  }
-  EXPECT_THAT(keys, ElementsAreArray({"title@2", "a & b@3", "one@5", "two@5"}));
+  EXPECT_THAT(written(uses), ElementsAreArray({"title@2", "a & b@3", "one@5", "two@5"}));
   EXPECT_ANY_THROW(collectFormKeys("<ui><widget>", "broken", uses));
 }
 

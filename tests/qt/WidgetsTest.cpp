@@ -112,85 +112,64 @@ class WidgetsTest : public QObject {
     QVERIFY(speak(u"en"_s));
   }
 
-  void drawsTextOnTheDesignedSide_data() {
-    QTest::addColumn<Qt::Alignment>("designed");
-    QTest::addColumn<QString>("inEnglish");
-    QTest::addColumn<QString>("inArabic");
-    const auto row = [](const char* name, Qt::Alignment designed, const char* inEnglish,
-                        const char* inArabic) {
-      QTest::newRow(name) << (designed | Qt::AlignVCenter) << QString(inEnglish)
-                          << QString(inArabic);
-    };
-    row("no side is natural", {}, "left", "right");
-    row("leading is natural", Qt::AlignLeft, "left", "right");
-    row("trailing is right", Qt::AlignRight, "right", "left");
-    row("a side that is left", Qt::AlignLeft | Qt::AlignAbsolute, "left", "right");
-    row("a side that is right", Qt::AlignRight | Qt::AlignAbsolute, "right", "left");
-    row("the middle", Qt::AlignHCenter, "middle", "middle");
-  }
-
   void drawsTextOnTheDesignedSide() {
-    QFETCH(Qt::Alignment, designed);
-    QFETCH(QString, inEnglish);
-    QFETCH(QString, inArabic);
+    const std::tuple<const char*, Qt::Alignment, const char*, const char*> rows[] = {
+        {"no side is natural", {}, "left", "right"},
+        {"leading is natural", Qt::AlignLeft, "left", "right"},
+        {"trailing is right", Qt::AlignRight, "right", "left"},
+        {"a side that is left", Qt::AlignLeft | Qt::AlignAbsolute, "left", "right"},
+        {"a side that is right", Qt::AlignRight | Qt::AlignAbsolute, "right", "left"},
+        {"the middle", Qt::AlignHCenter, "middle", "middle"},
+    };
     const orvanta::qt::LayoutDirectionFollower direction;
-    // The text's own direction changes nothing.
-    for (const QString& text : {u"latin"_s, u"שלום"_s}) {
-      for (const auto& [language, side] : {std::pair(u"en"_s, inEnglish), {u"ar"_s, inArabic}}) {
-        QCOMPARE(sideOf<UILocalizedLabel>(text, designed, language), side);
-        QCOMPARE(sideOf<UILocalizedTextField>(text, designed, language), side);
-        QCOMPARE(sideOf<UILocalizedButton>(text, designed, language), side);
+    for (const auto& [name, side, inEnglish, inArabic] : rows) {
+      const Qt::Alignment designed = side | Qt::AlignVCenter;
+      // The text's own direction changes nothing.
+      for (const QString& text : {u"latin"_s, u"שלום"_s}) {
+        for (const auto& [language, drawn] : {std::pair(u"en"_s, inEnglish), {u"ar"_s, inArabic}}) {
+          const QLatin1String expected(drawn);
+          QVERIFY2(sideOf<UILocalizedLabel>(text, designed, language) == expected, name);
+          QVERIFY2(sideOf<UILocalizedTextField>(text, designed, language) == expected, name);
+          QVERIFY2(sideOf<UILocalizedButton>(text, designed, language) == expected, name);
+        }
       }
     }
   }
 
-  void naturalFollowsLanguageAndWidget_data() {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<Qt::LayoutDirection>("application");
-    QTest::addColumn<Qt::LayoutDirection>("window");
-    QTest::addColumn<QString>("side");
-    constexpr auto kUnset = Qt::LayoutDirectionAuto;
-    QTest::newRow("English") << u"en"_s << Qt::LeftToRight << kUnset << u"left"_s;
-    QTest::newRow("English, application right to left")
-        << u"en"_s << Qt::RightToLeft << kUnset << u"left"_s;
-    QTest::newRow("English, window right to left")
-        << u"en"_s << Qt::LeftToRight << Qt::RightToLeft << u"right"_s;
-    QTest::newRow("Arabic") << u"ar"_s << Qt::LeftToRight << kUnset << u"right"_s;
-    QTest::newRow("Arabic, window left to right")
-        << u"ar"_s << Qt::RightToLeft << Qt::LeftToRight << u"left"_s;
-  }
-
   void naturalFollowsLanguageAndWidget() {
-    QFETCH(QString, language);
-    QFETCH(Qt::LayoutDirection, application);
-    QFETCH(Qt::LayoutDirection, window);
-    QFETCH(QString, side);
-    QGuiApplication::setLayoutDirection(application);
-    const auto direct = [&](QWidget& widget) {
-      if (window != Qt::LayoutDirectionAuto) {
-        widget.setLayoutDirection(window);
-      }
+    constexpr auto kUnset = Qt::LayoutDirectionAuto;
+    // The language, the directions of the application and of the window, and the side.
+    const std::tuple<const char*, Qt::LayoutDirection, Qt::LayoutDirection, const char*> rows[] = {
+        {"en", Qt::LeftToRight, kUnset, "left"},           {"en", Qt::RightToLeft, kUnset, "left"},
+        {"en", Qt::LeftToRight, Qt::RightToLeft, "right"}, {"ar", Qt::LeftToRight, kUnset, "right"},
+        {"ar", Qt::RightToLeft, Qt::LeftToRight, "left"},
     };
-    QWidget directed;
-    direct(directed);
-    QWidget other;
     // The direction is set before awakening, after it, and by a new parent.
-    for (int order = 0; order < 3; ++order) {
+    for (int at = 0; at < 15; ++at) {
+      const auto& [language, application, window, side] = rows[at / 3];
+      const int order = at % 3;
+      QGuiApplication::setLayoutDirection(application);
+      QWidget directed;
+      QWidget other;
       UILocalizedLabel label(order == 0 ? &directed : &other);
       UILocalizedTextField field(order == 0 ? &directed : &other);
       UILocalizedButton button(order == 0 ? &directed : &other);
+      QWidget* const widgets[] = {&label, &field, &button};
       awaken(label, u"latin"_s, Qt::AlignLeft | Qt::AlignVCenter);
       awaken(field, u"latin"_s, Qt::AlignLeft | Qt::AlignVCenter);
       awaken(button, u"latin"_s, Qt::AlignLeft | Qt::AlignVCenter);
-      QVERIFY(speak(language));
-      for (QWidget* widget : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&field),
-                              static_cast<QWidget*>(&button)}) {
-        if (order == 1) {
-          direct(*widget);
+      if (window != kUnset) {
+        directed.setLayoutDirection(window);
+      }
+      QVERIFY(speak(QLatin1String(language)));
+      for (QWidget* widget : widgets) {
+        if (order == 1 && window != kUnset) {
+          widget->setLayoutDirection(window);
         } else if (order == 2) {
           widget->setParent(&directed);
         }
-        QVERIFY2(inkSide(*widget) == side, widget->metaObject()->className());
+        const QString what = QLatin1String(widget->metaObject()->className()) + QString::number(at);
+        QVERIFY2(inkSide(*widget) == QLatin1String(side), qPrintable(what));
       }
     }
   }
