@@ -70,6 +70,8 @@ configure_package_config_file(
 write_basic_package_version_file(
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
+  ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerBundles.cmake
+  ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerCopyBundle.cmake
   ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerKeys.cmake
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfig.cmake
   ${PROJECT_BINARY_DIR}/OrvantaLocalizerConfigVersion.cmake

@@ -8,7 +8,9 @@
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
-  orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform());
+  orvanta::standard::StandardOptions options;
+  options.mainBundlePath = ":/app";  // the tables are inside the program
+  orvanta::platform::Platform::install(orvanta::qt::makeQtPlatform(options));
   orvanta::qt::Translator translator;
   QCoreApplication::installTranslator(&translator);
 

@@ -1,4 +1,5 @@
-# The programs of examples/ against the installed tree, as they are seen and spoken in two languages.
+# The programs of examples/ against the installed tree, as they are seen and spoken in two languages,
+# and how their bundles are built.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 set(examples designer tr)
 if(WITH_QUICK)
@@ -14,3 +15,22 @@ foreach(example IN LISTS examples)
   string(STRIP "${answer}" answer)
   must_answer(${build}/${example} "${answer}")
 endforeach()
+
+# An edited table is copied again, a language that has gone goes, and an error fails the build.
+set(source ${WORK_DIR}/examples/hello-source)
+set(build ${WORK_DIR}/examples/hello)
+file(REMOVE_RECURSE ${source} ${build})
+file(COPY ${SOURCE_DIR}/examples/hello/ DESTINATION ${source})
+configure_and_build(${source} ${build} -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
+file(APPEND ${source}/en.lproj/Localizable.strings "\"count\" = \"%d\";\n")
+file(REMOVE_RECURSE ${source}/fr.lproj)
+must_run(${CMAKE_COMMAND} --build ${build})
+file(READ ${build}/en.lproj/Localizable.strings table)
+if(NOT table MATCHES "%d" OR EXISTS ${build}/fr.lproj)
+  message(FATAL_ERROR "the bundle beside the program is not what it is made from")
+endif()
+file(WRITE ${source}/fr.lproj/Localizable.strings "\"count\" = \"%s\";\n")
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${build} RESULT_VARIABLE status OUTPUT_VARIABLE output)
+if(status EQUAL 0 OR NOT output MATCHES "placeholders")
+  message(FATAL_ERROR "a wrong placeholder does not fail the build:\n${output}")
+endif()
