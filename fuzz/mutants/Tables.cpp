@@ -43,11 +43,9 @@ const std::vector<Layout>& layoutsOf(Group group) {
       {"sign on the next line", "", "/* The title. */\nK\n= V;\n\n", ""},
       {"sign on the next line, indented", "", "K\n  = V;\n", ""},
   };
-  static const std::vector<Layout> kOneLine = {
-      {"one line", "", "K=V;", ""},
-      {"one line with blanks", "", "K = V; ", "\n"},
-      {"one line in braces", "{ ", "K = V; ", "}\n"},
-  };
+  static const std::vector<Layout> kOneLine = {{"one line", "", "K=V;", ""},
+                                               {"one line with blanks", "", "K = V; ", "\n"},
+                                               {"one line in braces", "{ ", "K = V; ", "}\n"}};
   switch (group) {
     case Group::kSignOnNextLine:
       return kSignOnNextLine;

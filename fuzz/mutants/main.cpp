@@ -32,12 +32,10 @@ struct GroupRow {
   std::size_t mostLeaked;  // Entries from inside a lost collection.
 };
 
-constexpr GroupRow kGroups[] = {
-    {Group::kOrdinary, "ordinary layouts", 60'000, 150, 0},
-    {Group::kSignOnNextLine, "sign on the next line", 10'000, 100, 0},
-    {Group::kOneLine, "one line", 15'000, 600, 0},
-    {Group::kCollections, "collections", 10'000, 50, 300},
-};
+constexpr GroupRow kGroups[] = {{Group::kOrdinary, "ordinary layouts", 60'000, 150, 0},
+                                {Group::kSignOnNextLine, "sign on the next line", 10'000, 100, 0},
+                                {Group::kOneLine, "one line", 15'000, 600, 0},
+                                {Group::kCollections, "collections", 10'000, 50, 300}};
 constexpr std::size_t kMostMixed = 80;
 
 struct Figures {

@@ -76,14 +76,12 @@ TEST(FaultWalk, LeavesTheWholeOldTableOrTheWholeNewOne) {
     Fault fault;
     int leastOld;
     int mostOld = 20;
-  } rows[] = {
-      {"disk full", Fault::fail(ENOSPC), 5},
-      {"cut short at once", Fault::cutShort(1, EIO), 5},
-      {"cut short late", Fault::cutShort(60, EIO), 5},
-      // Missing items are tried once more, except for the caches directory.
-      {"removed by another process", Fault::fail(ENOENT), 0, 1},
-      {"locked by another process", Fault::fail(EAGAIN), 4},
-  };
+  } rows[] = {{"disk full", Fault::fail(ENOSPC), 5},
+              {"cut short at once", Fault::cutShort(1, EIO), 5},
+              {"cut short late", Fault::cutShort(60, EIO), 5},
+              // Missing items are tried once more, except for the caches directory.
+              {"removed by another process", Fault::fail(ENOENT), 0, 1},
+              {"locked by another process", Fault::fail(EAGAIN), 4}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     Walk walked = walk(row.fault);

@@ -82,12 +82,10 @@ TEST(LanguageCatalogue, StaysWhenTheDiskCannotBeReadForAWhile) {
     int code;
     std::vector<std::string> atFirst;  // What is found when nothing was listed before.
     bool isTriedAgain;
-  } rows[] = {
-      {"enumerateDirectoryAtURL", EMFILE, {"en"}, true},
-      {"enumerateDirectoryAtURL", ENOMEM, {"en"}, true},
-      {"enumerateDirectoryAtURL", EACCES, {"en"}, false},
-      {"contentsOfDirectoryAtURL", ENFILE, {"fr"}, true},
-  };
+  } rows[] = {{"enumerateDirectoryAtURL", EMFILE, {"en"}, true},
+              {"enumerateDirectoryAtURL", ENOMEM, {"en"}, true},
+              {"enumerateDirectoryAtURL", EACCES, {"en"}, false},
+              {"contentsOfDirectoryAtURL", ENFILE, {"fr"}, true}};
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::Message() << row.operation << ' ' << row.code);
     test::WatchedApplication app(test::Languages{{"en", {}}});

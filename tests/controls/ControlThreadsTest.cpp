@@ -99,13 +99,11 @@ TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
   const struct {
     const char* name;
     std::function<void()> work;
-  } rows[] = {
-      {"a notification", [] { LocalizedApplication::post(); }},
-      {"a label's refresh", [this] { label_.refreshFor("ar"); }},
-      {"a field's refresh", [this] { field_.refreshFor("ar"); }},
-      {"a button's refresh", [this] { button_.refreshFor("ar"); }},
-      {"a field's placeholder", [this] { field_.localized->initializePlaceholder(); }},
-  };
+  } rows[] = {{"a notification", [] { LocalizedApplication::post(); }},
+              {"a label's refresh", [this] { label_.refreshFor("ar"); }},
+              {"a field's refresh", [this] { field_.refreshFor("ar"); }},
+              {"a button's refresh", [this] { button_.refreshFor("ar"); }},
+              {"a field's placeholder", [this] { field_.localized->initializePlaceholder(); }}};
   for (const auto& row : rows) {
     label_ = test::DesignedLabel(kDesign);
     field_ = test::DesignedTextField(kDesign);

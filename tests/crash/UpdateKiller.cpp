@@ -23,30 +23,21 @@ using namespace orvanta;
 constexpr int kEntries = 2000;
 constexpr int kGenerations = 2;
 
-std::string keyOf(int entry) {
-  return "some.dotted.key." + std::to_string(entry);
-}
-
-std::string valueOf(int entry, int generation) {
-  return "The text of entry " + std::to_string(entry) + " in generation " +
-         std::to_string(generation);
-}
-
-StringsPayload generation(int number) {
+test::Pairs generation(int number) {
   test::Pairs pairs;
   for (int entry = 0; entry < kEntries; ++entry) {
-    pairs.emplace_back(keyOf(entry), valueOf(entry, number));
+    pairs.emplace_back(
+        "some.dotted.key." + std::to_string(entry),
+        "The text of entry " + std::to_string(entry) + " in generation " + std::to_string(number));
   }
-  return test::payloadOf({{"fr", pairs}});
+  return pairs;
 }
 
 bool isWhole(OVStringCache& cache, int number) {
-  for (int entry = 0; entry < kEntries; ++entry) {
-    if (cache.localizedStringForKey(keyOf(entry), "fr") != valueOf(entry, number).c_str()) {
-      return false;
-    }
-  }
-  return true;
+  const test::Pairs pairs = generation(number);
+  return std::all_of(pairs.begin(), pairs.end(), [&](const auto& pair) {
+    return cache.localizedStringForKey(pair.first, "fr") == pair.second.c_str();
+  });
 }
 
 [[noreturn]] void writeForEver(const StringsPayload* generations) {
@@ -61,7 +52,8 @@ bool isWhole(OVStringCache& cache, int number) {
 int main(int argc, char** argv) {
   const int kills = argc > 1 ? std::atoi(argv[1]) : 8;
   test::TestApplication app;
-  const StringsPayload generations[kGenerations] = {generation(0), generation(1)};
+  const StringsPayload generations[kGenerations] = {test::payloadOf({{"fr", generation(0)}}),
+                                                    test::payloadOf({{"fr", generation(1)}})};
   OVStringCache().updateStrings(generations[0], "main", "app");
 
   std::mt19937 random(std::random_device{}());

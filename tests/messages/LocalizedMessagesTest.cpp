@@ -156,15 +156,13 @@ TEST(TextChain, AsksShippedTextsBeforeEnglishWhereTheyStandIn) {
     expectExplained(localizer, row);
   }
   localizer.setShippedTextsStandIn(true);
-  const ChainRow rows[] = {
-      {"a", "new a", TextSource::current, "fr", true},
-      {"b", "shipped b", TextSource::standIn, "fr", false},
-      {"c", "", TextSource::standIn, "fr", false},
-      {"d", "shipped d", TextSource::standIn, "fr", false},
-      {"e", "new E", TextSource::english, "en", true},
-      {"f", "F", TextSource::english, "en", false},
-      {"x", "x", TextSource::key, nullptr, false},
-  };
+  const ChainRow rows[] = {{"a", "new a", TextSource::current, "fr", true},
+                           {"b", "shipped b", TextSource::standIn, "fr", false},
+                           {"c", "", TextSource::standIn, "fr", false},
+                           {"d", "shipped d", TextSource::standIn, "fr", false},
+                           {"e", "new E", TextSource::english, "en", true},
+                           {"f", "F", TextSource::english, "en", false},
+                           {"x", "x", TextSource::key, nullptr, false}};
   for (const ChainRow& row : rows) {
     expectExplained(localizer, row);
   }

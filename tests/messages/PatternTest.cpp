@@ -43,14 +43,12 @@ TEST(PluralKeyword, IsTheBranchThatAMessageTakes) {
     MessageValue number;
     PluralType type;
     const char* keyword;
-  } rows[] = {
-      {"en", 1, PluralType::cardinal, "one"},
-      {"en", Decimal{1, 1}, PluralType::cardinal, "other"},
-      {"en", 23, PluralType::ordinal, "few"},
-      {"ar-EG", 11U, PluralType::cardinal, "many"},
-      {"xx", 1, PluralType::cardinal, "other"},
-      {"en", "1", PluralType::cardinal, "other"},
-  };
+  } rows[] = {{"en", 1, PluralType::cardinal, "one"},
+              {"en", Decimal{1, 1}, PluralType::cardinal, "other"},
+              {"en", 23, PluralType::ordinal, "few"},
+              {"ar-EG", 11U, PluralType::cardinal, "many"},
+              {"xx", 1, PluralType::cardinal, "other"},
+              {"en", "1", PluralType::cardinal, "other"}};
   for (const auto& row : rows) {
     EXPECT_EQ(pluralKeyword(row.locale, row.number, row.type), row.keyword) << row.locale;
   }
@@ -118,23 +116,21 @@ TEST(MessageFormat, IsolatesTextsOfAnotherDirectionOnly) {
 }
 
 TEST(MessagePattern, TellsWhereItIsWrong) {
-  const std::pair<const char*, std::size_t> rows[] = {
-      {"Hello {", 7},
-      {"Hello {name", 11},
-      {"Hello {}", 7},
-      {"{01}", 1},
-      {"{a b}", 3},
-      {"{d, date}", 4},
-      {"{d, number, integer}", 4},
-      {"{n, plural}", 10},
-      {"{n, plural, one {x}}", 19},
-      {"{n, plural, other {x} offset:1}", 28},
-      {"{n, plural, offset: other {x}}", 20},
-      {"{n, plural, =x other {x}}", 13},
-      {"{n, plural, other x}", 18},
-      {"{n, plural, {x} other {x}}", 12},
-      {"{n, plural, other {x}", 21},
-  };
+  const std::pair<const char*, std::size_t> rows[] = {{"Hello {", 7},
+                                                      {"Hello {name", 11},
+                                                      {"Hello {}", 7},
+                                                      {"{01}", 1},
+                                                      {"{a b}", 3},
+                                                      {"{d, date}", 4},
+                                                      {"{d, number, integer}", 4},
+                                                      {"{n, plural}", 10},
+                                                      {"{n, plural, one {x}}", 19},
+                                                      {"{n, plural, other {x} offset:1}", 28},
+                                                      {"{n, plural, offset: other {x}}", 20},
+                                                      {"{n, plural, =x other {x}}", 13},
+                                                      {"{n, plural, other x}", 18},
+                                                      {"{n, plural, {x} other {x}}", 12},
+                                                      {"{n, plural, other {x}", 21}};
   for (const auto& [pattern, position] : rows) {
     EXPECT_EQ(formatted("en", pattern, {}), "error at " + std::to_string(position)) << pattern;
   }

@@ -46,12 +46,10 @@ TEST(TextEncoding, IsDetectedWithAndWithoutAMark) {
       checkTables({{row.name, encode(encoding, row.bytes), row.pairs}});
     }
   }
-  checkTables({
-      {"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s},
-      {"three zero bytes of UTF-8", "\"\0\0\0\" = \"1\";"s, "\0\0\0=1"s},
-      {"three zero bytes in front of UTF-8", "\0\0\0\"a\" = \"1\";"s, "a=1", "1:1"},
-      {"UTF-32 of one character", "k\0\0\0"s, kNoTable, "1:2"},
-  });
+  checkTables({{"a zero byte of UTF-8", "\"\0\" = \"\u2022 \u2022\";"s, "\0=\u2022 \u2022"s},
+               {"three zero bytes of UTF-8", "\"\0\0\0\" = \"1\";"s, "\0\0\0=1"s},
+               {"three zero bytes in front of UTF-8", "\0\0\0\"a\" = \"1\";"s, "a=1", "1:1"},
+               {"UTF-32 of one character", "k\0\0\0"s, kNoTable, "1:2"}});
 }
 
 TEST(TextEncoding, ReplacesWhatIsNoCharacter) {

@@ -92,29 +92,27 @@ TEST(BinaryTable, RefusesABrokenFrame) {
   const auto row = [](const char* name, const std::string& file) {
     return TableRow{name, file, kNoTable, "0:0"};
   };
-  checkTables({
-      {"sound", sound, "good=G"},
-      row("one byte too many", sound + '\0'),
-      row("offsets of no bytes", withTrailer(6, bigEndian(0, 1))),
-      row("offsets of 9 bytes", listOfSizes(2, 9).bytes()),
-      row("references of no bytes", withTrailer(7, bigEndian(0, 1))),
-      row("references of 9 bytes", listOfSizes(9, 3).bytes()),
-      row("no objects", withTrailer(8, bigEndian(0, 8))),
-      row("too many objects", withTrailer(8, bigEndian(4, 8))),
-      row("very many objects", withTrailer(8, huge)),
-      row("top object out of range", withTrailer(16, bigEndian(3, 8))),
-      row("top object far out of range", withTrailer(16, huge)),
-      row("text on top", withTrailer(16, bigEndian(0, 8))),
-      row("offsets in the magic", withTrailer(24, bigEndian(7, 8))),
-      row("offsets in the trailer", withTrailer(24, bigEndian(sound.size() - 31, 8))),
-      row("offsets out of range", withTrailer(24, huge)),
-      row("no key is a text", BinaryList().pair("\x10\x01", asciiObject("a")).bytes()),
-      row("array on top", list.bytes("\xA1"s + bigEndian(0, 2))),
-      row("dictionary that is cut off", list.bytes("\xD2"s + bigEndian(0, 6))),
-      row("dictionary without count", list.bytes("\xDF"s)),
-      row("dictionary of almost endless size",
-          list.bytes(longMarker(0xD, ~std::uint64_t{0} / 2, 3))),
-  });
+  checkTables({{"sound", sound, "good=G"},
+               row("one byte too many", sound + '\0'),
+               row("offsets of no bytes", withTrailer(6, bigEndian(0, 1))),
+               row("offsets of 9 bytes", listOfSizes(2, 9).bytes()),
+               row("references of no bytes", withTrailer(7, bigEndian(0, 1))),
+               row("references of 9 bytes", listOfSizes(9, 3).bytes()),
+               row("no objects", withTrailer(8, bigEndian(0, 8))),
+               row("too many objects", withTrailer(8, bigEndian(4, 8))),
+               row("very many objects", withTrailer(8, huge)),
+               row("top object out of range", withTrailer(16, bigEndian(3, 8))),
+               row("top object far out of range", withTrailer(16, huge)),
+               row("text on top", withTrailer(16, bigEndian(0, 8))),
+               row("offsets in the magic", withTrailer(24, bigEndian(7, 8))),
+               row("offsets in the trailer", withTrailer(24, bigEndian(sound.size() - 31, 8))),
+               row("offsets out of range", withTrailer(24, huge)),
+               row("no key is a text", BinaryList().pair("\x10\x01", asciiObject("a")).bytes()),
+               row("array on top", list.bytes("\xA1"s + bigEndian(0, 2))),
+               row("dictionary that is cut off", list.bytes("\xD2"s + bigEndian(0, 6))),
+               row("dictionary without count", list.bytes("\xDF"s)),
+               row("dictionary of almost endless size",
+                   list.bytes(longMarker(0xD, ~std::uint64_t{0} / 2, 3)))});
   EXPECT_EQ(readTable(std::string(sound).replace(6, 2, "15")).pairs, kNoTable) << "other version";
   for (std::size_t size = 1; size < sound.size(); ++size) {
     EXPECT_EQ(readTable(std::string_view(sound).substr(0, size)).pairs, kNoTable) << size;

@@ -75,30 +75,28 @@ TEST(TextRecovery, EndsAnOpenStringWithItsLine) {
 
 TEST(TextRecovery, LosesNoMoreThanTheStatement) {
   const std::string one = "b=2";
-  checkTables({
-      {"no sign", "\"a\" \"1\";\nb = 2;", one, "1:5"},
-      {"no sign, within a line", "\"a\" \"1\"; b = 2;", one, "1:5"},
-      {"no value", "a = ;\nb = 2;", one, "1:5"},
-      {"no key", "= \"1\";b = 2;", one, "1:1"},
-      {"two signs", "a = = 1;\nb = 2;", one, "1:5"},
-      {"key not opened", "a\" = \"1\";\nb = 2;", one, "1:2"},
-      {"key not closed", "\"a = \"1\";\n\"b\" = \"2\";", one, "1:7"},
-      {"key not closed, nothing behind", "b = 2;\n\"a = 1;\n", one, "2:1"},
-      {"value not opened", "\"a\" = 1 x\";\n\"b\" = \"2\";", one, "1:8"},
-      {"several words", "a = 1 x;\nb = 2;", one, "1:6"},
-      {"a word behind the value", "a = \"1\" x;\nb = 2;", one, "1:8"},
-      {"colon for a sign", "\"a\": \"1\",\n\"b\" = \"2\";", one, "1:4"},
-      {"curly quotes", "\u201Ca\u201D = \u201C1\u201D;\n\"b\" = \"2\";", one, "1:1"},
-      {"two in a row", "\"a\" \"1\";\n\"c\" \"1\";\n\"b\" = \"2\";", one, "1:5 2:1"},
-      {"cut off", "b = 2;\na = ", one, "2:4"},
-      {"no value before the next line", "\"a\" =\n\"b\" = \"2\";", one, "1:6"},
-      {"no value, signs on the next line", "\"a\"\n=\n\"b\"\n= \"2\";", one, "2:2"},
-      {"no sign, signs on the next line", "\"a\"\n\"1\";\n\"b\"\n= \"2\";", one, "2:1"},
-      {"a stray sign of markup", "<a\" = \"1\";\nb = 2;", one, "1:1"},
-      {"a key that begins as a list does", "<plist\" = \"1\";\nb = 2;", one, "1:1"},
-      {"a large one at the beginning", "\"a\" = " + std::string(1000, '?') + ";\nb = 2;", one,
-       "1:7"},
-  });
+  checkTables({{"no sign", "\"a\" \"1\";\nb = 2;", one, "1:5"},
+               {"no sign, within a line", "\"a\" \"1\"; b = 2;", one, "1:5"},
+               {"no value", "a = ;\nb = 2;", one, "1:5"},
+               {"no key", "= \"1\";b = 2;", one, "1:1"},
+               {"two signs", "a = = 1;\nb = 2;", one, "1:5"},
+               {"key not opened", "a\" = \"1\";\nb = 2;", one, "1:2"},
+               {"key not closed", "\"a = \"1\";\n\"b\" = \"2\";", one, "1:7"},
+               {"key not closed, nothing behind", "b = 2;\n\"a = 1;\n", one, "2:1"},
+               {"value not opened", "\"a\" = 1 x\";\n\"b\" = \"2\";", one, "1:8"},
+               {"several words", "a = 1 x;\nb = 2;", one, "1:6"},
+               {"a word behind the value", "a = \"1\" x;\nb = 2;", one, "1:8"},
+               {"colon for a sign", "\"a\": \"1\",\n\"b\" = \"2\";", one, "1:4"},
+               {"curly quotes", "\u201Ca\u201D = \u201C1\u201D;\n\"b\" = \"2\";", one, "1:1"},
+               {"two in a row", "\"a\" \"1\";\n\"c\" \"1\";\n\"b\" = \"2\";", one, "1:5 2:1"},
+               {"cut off", "b = 2;\na = ", one, "2:4"},
+               {"no value before the next line", "\"a\" =\n\"b\" = \"2\";", one, "1:6"},
+               {"no value, signs on the next line", "\"a\"\n=\n\"b\"\n= \"2\";", one, "2:2"},
+               {"no sign, signs on the next line", "\"a\"\n\"1\";\n\"b\"\n= \"2\";", one, "2:1"},
+               {"a stray sign of markup", "<a\" = \"1\";\nb = 2;", one, "1:1"},
+               {"a key that begins as a list does", "<plist\" = \"1\";\nb = 2;", one, "1:1"},
+               {"a large one at the beginning", "\"a\" = " + std::string(1000, '?') + ";\nb = 2;",
+                one, "1:7"}});
 }
 
 TEST(TextRecovery, LosesNoMoreThanTheStatementWithinALine) {

@@ -46,16 +46,14 @@ TEST(XmlTable, DecodesWhatTheDocumentDeclares) {
     return TableRow{name, "<?xml version='1.0' encoding=" + encoding + "?>" + list, text};
   };
   const std::string utf8 = document("<key>a</key><string>\u00E9</string>");
-  checkTables({
-      row("Latin-1", "'ISO-8859-1'", "a=\u0080\u00E9"),
-      row("Latin-1 in lower case", "\"iso-8859-1\"", "a=\u0080\u00E9"),
-      row("windows-1252", "'windows-1252'", "a=\u20AC\u00E9"),
-      {"Unicode", "<?xml encoding='UTF-16'?>" + utf8, "a=\u00E9"},
-      {"a mark", "\xEF\xBB\xBF<?xml encoding='ISO-8859-1'?>" + utf8, "a=\u00E9"},
-      {"no name", "<?xml encoding=?>" + utf8, "a=\u00E9"},
-      {"another one", "<?xml encoding = 'Shift_JIS'?>" + utf8, kNoTable, "1:19"},
-      {"UTF-7", "<?xml encoding='utf-7'?>" + utf8, kNoTable, "1:17"},
-  });
+  checkTables({row("Latin-1", "'ISO-8859-1'", "a=\u0080\u00E9"),
+               row("Latin-1 in lower case", "\"iso-8859-1\"", "a=\u0080\u00E9"),
+               row("windows-1252", "'windows-1252'", "a=\u20AC\u00E9"),
+               {"Unicode", "<?xml encoding='UTF-16'?>" + utf8, "a=\u00E9"},
+               {"a mark", "\xEF\xBB\xBF<?xml encoding='ISO-8859-1'?>" + utf8, "a=\u00E9"},
+               {"no name", "<?xml encoding=?>" + utf8, "a=\u00E9"},
+               {"another one", "<?xml encoding = 'Shift_JIS'?>" + utf8, kNoTable, "1:19"},
+               {"UTF-7", "<?xml encoding='utf-7'?>" + utf8, kNoTable, "1:17"}});
 }
 
 TEST(XmlTable, ReadsTexts) {
