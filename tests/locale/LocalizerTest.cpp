@@ -15,8 +15,7 @@ namespace {
 using Heard = std::vector<std::pair<StringList, StringList>>;
 
 // An application with a localizer, which records the notifications that it posts.
-class SpeakingApplication : public test::TestApplication {
- public:
+struct SpeakingApplication : test::TestApplication {
   explicit SpeakingApplication(const test::Languages& shipped,
                                std::vector<std::string> deviceLanguages = {"en"})
       : TestApplication(shipped, std::move(deviceLanguages)) {
@@ -25,22 +24,19 @@ class SpeakingApplication : public test::TestApplication {
         [this](const platform::Notification& notification) {
           EXPECT_EQ(notification.object, nullptr);
           EXPECT_EQ(notification.userInfo.size(), 2U);
-          heard_.emplace_back(*notification.userInfo.find(OVPreferredLocaleKey),
-                              *notification.userInfo.find(OVRawLocaleKey));
+          heard.emplace_back(*notification.userInfo.find(OVPreferredLocaleKey),
+                             *notification.userInfo.find(OVRawLocaleKey));
         });
   }
 
   // The notifications since the last call. None may be delivered before the main queue runs.
   Heard hear() {
-    EXPECT_TRUE(heard_.empty());
+    EXPECT_TRUE(heard.empty());
     loop->runPending();
-    return std::exchange(heard_, {});
+    return std::exchange(heard, {});
   }
 
- private:
-  Heard heard_;
-
- public:
+  Heard heard;
   Localizer localizer;
 };
 
