@@ -148,11 +148,8 @@ void expectUpdate(const String& language, bool isWritten, const char* reason) {
 }
 
 TEST(CacheUpdate, RefusesNamesThatLeadOutOfTheirFolder) {
-  const struct {
-    bool isWritten;
-    const char* reason;  // A part of it; null: none.
-    std::vector<String> languages;
-  } rows[] = {
+  // Whether it is written, a part of the reason (null: none), and the names.
+  const std::tuple<bool, const char*, std::vector<String>> rows[] = {
       {true, nullptr, {"pt-BR", "a/b", "a/../b", "/abs", repeated("a/", 15) + "b"}},
       {true, "begins with", {".x", "a/.x/b", ""}},
       {false, "", {"../x", "%2e%2e/x", "..%2Fx", "a/../../x", "../OrvantaLocalizations2/x"}},

@@ -94,13 +94,7 @@ TEST_F(Fonts, AlignmentIsSwappedWhereThePlatformWritesFromTheRight) {
 }
 
 TEST_F(Fonts, MakersFollowTheFirstCurrentLocale) {
-  struct Row {
-    const char* name;
-    std::function<FontHandle()> make;
-    std::string inEnglish;
-    std::string inArabic;
-  };
-  const Row kRows[] = {
+  const std::tuple<const char*, FontHandle (*)(), std::string, std::string> kRows[] = {
       {"system", [] { return ovSystemFontOfSize(15); }, "System 15", "CorbetSansKufiArabic 15"},
       {"bold", [] { return ovBoldSystemFontOfSize(15); }, "System 15 bold",
        "CorbetSansKufiArabic-Bold 15 bold"},
@@ -116,14 +110,14 @@ TEST_F(Fonts, MakersFollowTheFirstCurrentLocale) {
       {"unknown", [] { return ovFontWithName("Nobody", 9); }, "absent", "absent"},
       {"no name", [] { return ovFontWithName(nullptr, 9); }, "absent", "absent"},
   };
-  for (const Row& row : kRows) {
+  for (const auto& [name, make, inEnglish, inArabic] : kRows) {
     for (const StringList& locales :
          {StringList{"en", "ar"}, StringList::emptyList(), StringList()}) {
       Localizer::sharedLocalizer().setPreferredLocales(locales);
-      EXPECT_EQ(described(row.make()), row.inEnglish) << row.name << " in " << locales;
+      EXPECT_EQ(described(make()), inEnglish) << name << " in " << locales;
     }
     Localizer::sharedLocalizer().setPreferredLocales({"ar-EG", "en"});
-    EXPECT_EQ(described(row.make()), row.inArabic) << row.name << " in Arabic";
+    EXPECT_EQ(described(make()), inArabic) << name << " in Arabic";
   }
 }
 

@@ -111,14 +111,11 @@ TEST(Localizer, FallsBackToEnglishThenToTheKey) {
   SpeakingApplication app({{"en", {{"both", "both"}, {"english", "yes"}, {"emptyInEnglish", ""}}},
                            {"fr", {{"both", "les deux"}, {"emptyInFrench", ""}}}},
                           {"fr"});
-  const struct {
-    String key;
-    const char* text;
-  } rows[] = {{"both", "les deux"},
-              {"english", "yes"},
-              {"emptyInFrench", ""},  // Found is found.
-              {"emptyInEnglish", "emptyInEnglish"},
-              {"nowhere", "nowhere"}};
+  const std::pair<String, const char*> rows[] = {{"both", "les deux"},
+                                                 {"english", "yes"},
+                                                 {"emptyInFrench", ""},  // Found is found.
+                                                 {"emptyInEnglish", "emptyInEnglish"},
+                                                 {"nowhere", "nowhere"}};
   for (const auto& [key, text] : rows) {
     const String found = app.localizer.localizedStringForKey(key);
     EXPECT_EQ(found, text);

@@ -38,19 +38,16 @@ std::string filled(std::string_view text, const MessageArguments& arguments) {
 }
 
 TEST(PluralKeyword, IsTheBranchThatAMessageTakes) {
-  const struct {
-    const char* locale;
-    MessageValue number;
-    PluralType type;
-    const char* keyword;
-  } rows[] = {{"en", 1, PluralType::cardinal, "one"},
-              {"en", Decimal{1, 1}, PluralType::cardinal, "other"},
-              {"en", 23, PluralType::ordinal, "few"},
-              {"ar-EG", 11U, PluralType::cardinal, "many"},
-              {"xx", 1, PluralType::cardinal, "other"},
-              {"en", "1", PluralType::cardinal, "other"}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(pluralKeyword(row.locale, row.number, row.type), row.keyword) << row.locale;
+  const std::tuple<const char*, MessageValue, PluralType, const char*> rows[] = {
+      {"en", 1, PluralType::cardinal, "one"},
+      {"en", Decimal{1, 1}, PluralType::cardinal, "other"},
+      {"en", 23, PluralType::ordinal, "few"},
+      {"ar-EG", 11U, PluralType::cardinal, "many"},
+      {"xx", 1, PluralType::cardinal, "other"},
+      {"en", "1", PluralType::cardinal, "other"},
+  };
+  for (const auto& [locale, number, type, keyword] : rows) {
+    EXPECT_EQ(pluralKeyword(locale, number, type), keyword) << locale;
   }
 }
 

@@ -46,29 +46,23 @@ ApplicationWindow {
 }
 )";
 
-struct Row {
-  const char* object;
-  const char* property;
-  const char16_t* english;
-  const char16_t* german;
-  const char16_t* arabic;
-};
-
-constexpr Row kRows[] = {
-    {"label", "text", u"Sign in", u"Anmelden", u"تسجيل الدخول"},
-    {"label", "spoken", u"Your cart", u"Ihr Warenkorb", u"سلتك"},
-    {"label", "effectiveHorizontalAlignment", u"AlignLeft", u"AlignLeft", u"AlignRight"},
-    {"right", "effectiveHorizontalAlignment", u"AlignRight", u"AlignRight", u"AlignLeft"},
-    {"keyed", "text", u"no.such.key", u"no.such.key", u"no.such.key"},
-    {"keyed", "spoken", u"no.such.key", u"no.such.key", u"no.such.key"},
-    {"field", "text", u"name@example.com", u"name@beispiel.de", u"name@example.com"},
-    {"field", "effectiveHorizontalAlignment", u"AlignLeft", u"AlignLeft", u"AlignRight"},
-    {"button", "text", u"Sign in", u"Anmelden", u"دخول"},
-    {"ampersand", "text", u"a && b", u"a && b", u"a && b"},
-    {"mnemonic", "text", u"a &b", u"a &b", u"a &b"},
-    {"text", "text", u"Language/en", u"Sprache/de", u"اللغة/ar"},
-    {"message", "text", u"1 item ordered", u"1 Artikel bestellt", u"طُلب صنف واحد"},
-    {"list", "text", u"1-2", u"1-2", u"1-2"},
+// Objects and their properties, in English, German and Arabic.
+constexpr std::tuple<const char*, const char*, const char16_t*, const char16_t*, const char16_t*>
+    kRows[] = {
+        {"label", "text", u"Sign in", u"Anmelden", u"تسجيل الدخول"},
+        {"label", "spoken", u"Your cart", u"Ihr Warenkorb", u"سلتك"},
+        {"label", "effectiveHorizontalAlignment", u"AlignLeft", u"AlignLeft", u"AlignRight"},
+        {"right", "effectiveHorizontalAlignment", u"AlignRight", u"AlignRight", u"AlignLeft"},
+        {"keyed", "text", u"no.such.key", u"no.such.key", u"no.such.key"},
+        {"keyed", "spoken", u"no.such.key", u"no.such.key", u"no.such.key"},
+        {"field", "text", u"name@example.com", u"name@beispiel.de", u"name@example.com"},
+        {"field", "effectiveHorizontalAlignment", u"AlignLeft", u"AlignLeft", u"AlignRight"},
+        {"button", "text", u"Sign in", u"Anmelden", u"دخول"},
+        {"ampersand", "text", u"a && b", u"a && b", u"a && b"},
+        {"mnemonic", "text", u"a &b", u"a &b", u"a &b"},
+        {"text", "text", u"Language/en", u"Sprache/de", u"اللغة/ar"},
+        {"message", "text", u"1 item ordered", u"1 Artikel bestellt", u"طُلب صنف واحد"},
+        {"list", "text", u"1-2", u"1-2", u"1-2"},
 };
 
 }  // namespace
@@ -98,13 +92,10 @@ class QuickTest : public QObject {
     for (const char16_t* language : {u"en", u"ar", u"de", u"ar", u"en"}) {
       const QString spoken = QString::fromUtf16(language);
       QVERIFY(speak(spoken));
-      for (const Row& row : kRows) {
-        const QString text = find(row.object)->property(row.property).toString();
-        const char16_t* expected = spoken == u"en"   ? row.english
-                                   : spoken == u"ar" ? row.arabic
-                                                     : row.german;
-        const QString name =
-            spoken + u' ' + QLatin1String(row.object) + u'.' + QLatin1String(row.property);
+      for (const auto& [object, property, english, german, arabic] : kRows) {
+        const QString text = find(object)->property(property).toString();
+        const char16_t* expected = spoken == u"en" ? english : spoken == u"ar" ? arabic : german;
+        const QString name = spoken + u' ' + QLatin1String(object) + u'.' + QLatin1String(property);
         QVERIFY2(text == QStringView(expected), qPrintable(name + u": "_s + text));
       }
     }

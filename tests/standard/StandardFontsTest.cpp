@@ -77,13 +77,7 @@ std::span<const std::byte> bytesOf(const std::string& text) {
   return std::as_bytes(std::span(text));
 }
 
-struct FaceRow {
-  const char* name;
-  FontFile file;
-  std::optional<TrueTypeFace> face;
-};
-
-const FaceRow kFaceRows[] = {
+const std::tuple<const char*, FontFile, std::optional<TrueTypeFace>> kFaceRows[] = {
     {"plain", {}, {{"Test-Face", 0}}},
     {"outlines of the other kind", {.signature = "OTTO"}, {{"Test-Face", 0}}},
     {"italic", {.fsSelection = 0x01}, {{"Test-Face", platform::kItalicTrait}}},
@@ -114,8 +108,8 @@ const FaceRow kFaceRows[] = {
 };
 
 TEST(TrueTypeFace, IsReadOrRefused) {
-  for (const FaceRow& row : kFaceRows) {
-    EXPECT_EQ(readTrueTypeFace(bytesOf(row.file.bytes())), row.face) << row.name;
+  for (const auto& [name, file, face] : kFaceRows) {
+    EXPECT_EQ(readTrueTypeFace(bytesOf(file.bytes())), face) << name;
   }
 }
 

@@ -6,10 +6,7 @@ namespace orvanta {
 namespace {
 
 TEST(StringList, IsSplitAndJoined) {
-  const struct {
-    String text;
-    StringList pieces;
-  } rows[] = {
+  const std::pair<String, StringList> rows[] = {
       {"a,b", {"a", "b"}},      {"a", {"a"}}, {"", {""}}, {",", {"", ""}}, {",a,", {"", "a", ""}},
       {"a,,b", {"a", "", "b"}}, {{}, {}}};
   for (const auto& [text, pieces] : rows) {

@@ -24,24 +24,22 @@ TEST(URL, AcceptsTheCharactersThatAURLMayHold) {
 }
 
 TEST(URL, GivesThePathOfAFile) {
-  const struct {
-    const char* text;
-    const char* path;  // Null: absent.
-  } rows[] = {{"file:///a/b", "/a/b"},
-              {"file:///a%20b/%C3%a9%2F", "/a b/\u00E9"},
-              {"file:///a/b///", "/a/b"},
-              {"file:///", "/"},
-              {"file:////", "/"},
-              {"file://localhost/a", "/a"},
-              {"file://localhost", ""},
-              {"file:/a", "/a"},
-              {"file:a", "a"},
-              {"file:///a?b/c", "/a"},
-              {"file:///a#b/c", "/a"},
-              {"file:///a/../b", "/a/../b"},
-              {"file:///a%00b", nullptr},
-              {"https://host/a", nullptr},
-              {"/a", nullptr}};
+  const std::pair<const char*, const char*> rows[] = {// Null: no path.
+                                                      {"file:///a/b", "/a/b"},
+                                                      {"file:///a%20b/%C3%a9%2F", "/a b/\u00E9"},
+                                                      {"file:///a/b///", "/a/b"},
+                                                      {"file:///", "/"},
+                                                      {"file:////", "/"},
+                                                      {"file://localhost/a", "/a"},
+                                                      {"file://localhost", ""},
+                                                      {"file:/a", "/a"},
+                                                      {"file:a", "a"},
+                                                      {"file:///a?b/c", "/a"},
+                                                      {"file:///a#b/c", "/a"},
+                                                      {"file:///a/../b", "/a/../b"},
+                                                      {"file:///a%00b", nullptr},
+                                                      {"https://host/a", nullptr},
+                                                      {"/a", nullptr}};
   for (const auto& [text, path] : rows) {
     const URL url = URL::URLWithString(text);
     ASSERT_TRUE(url.isPresent()) << text;
