@@ -12,25 +12,26 @@
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/RepaintBatch.h>
+#include <orvanta/qt/Translator.h>
 #include <orvanta/qt/UILocalizedLabel.h>
 #include <orvanta/qt/platform/QtPlatform.h>
 
 #include "contenders/Application.h"
 #include "contenders/LabelWindow.h"
 #include "contenders/QtTranslations.h"
-#include "data/Random.h"
 #include "data/TableForms.h"
 #include "harness/Check.h"
+#include "rows/LabelLanguages.h"
+#include "rows/QuickRow.h"
 #include "rows/Rows.h"
 
 namespace orvanta::bench {
 
 namespace {
 
-constexpr std::size_t kStrings = 10'000;
-constexpr std::size_t kLabels = 1'000;
-
 using qt::Arrangement;
+
+constexpr std::size_t kLabels = LabelLanguages::kLabels;
 
 struct Scene {
   const char* name;
@@ -39,24 +40,7 @@ struct Scene {
   std::optional<double> goal;
   std::size_t passes;
   int samples;
-};
-
-// Both languages and the key of each label.
-struct Languages {
-  Languages() {
-    Random random("labels");
-    for (std::size_t label = 0; label < kLabels; ++label) {
-      asked.push_back(random.below(kStrings));
-    }
-  }
-  [[nodiscard]] const std::string& key(std::size_t label) const {
-    return english[asked[label]].key;
-  }
-
-  const std::vector<std::string> keys = makeKeys(kStrings);
-  const Table french = makeTable(languageNamed("fr"), keys);
-  const Table english = makeTable(languageNamed("en"), keys);
-  std::vector<std::size_t> asked;
+  bool hasStockLabels = false;  // Ours too: what differs is the translator.
 };
 
 // A window of labels in the current language.
@@ -96,30 +80,6 @@ class Side {
   std::vector<QLabel*> labels_;
 };
 
-class OurSide final : public Side {
- public:
-  OurSide(const Languages& languages, const Scene& scene) : Side(scene) {
-    if (isShown()) {
-      batch_.emplace(window());
-    }
-    for (std::size_t label = 0; label < kLabels; ++label) {
-      add(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame(
-          {}, &window(), QString::fromStdString(languages.key(label))));
-    }
-    open();
-  }
-
- private:
-  void beginChange(bool toFrench) override {
-    Localizer::sharedLocalizer().changeOrvantaLanguageToPreferredLocales(toFrench ? french_
-                                                                                  : english_);
-  }
-
-  const StringList french_ = {"fr"_s};
-  const StringList english_ = {"en"_s};
-  std::optional<orvanta::qt::RepaintBatch> batch_;
-};
-
 // A label that translates itself as Qt's documentation recommends. Plain text, like ours.
 class QtLabel final : public QLabel {
  public:
@@ -142,14 +102,29 @@ class QtLabel final : public QLabel {
   const char* identifier_;
 };
 
-class FloorSide final : public Side {
- public:
-  FloorSide(const std::filesystem::path& folder, const Languages& languages, const Scene& scene)
-      : Side(scene), french_(qt::open(folder / "fr.qm")), english_(qt::open(folder / "en.qm")) {
+// A window of labels of Qt's, which retranslate themselves.
+class StockSide : public Side {
+ protected:
+  using Side::Side;
+
+  // To be called once a translator is installed.
+  void fill(const LabelLanguages& languages) {
     for (std::size_t label = 0; label < kLabels; ++label) {
       add(new QtLabel(languages.key(label).c_str(), &window()));
     }
     open();
+  }
+};
+
+class FloorSide final : public StockSide {
+ public:
+  FloorSide(const std::filesystem::path& folder, const LabelLanguages& languages,
+            const Scene& scene)
+      : StockSide(scene),
+        french_(qt::open(folder / "fr.qm")),
+        english_(qt::open(folder / "en.qm")) {
+    QCoreApplication::installTranslator(english_.get());
+    fill(languages);
   }
 
  private:
@@ -160,6 +135,51 @@ class FloorSide final : public Side {
 
   std::unique_ptr<QTranslator> french_;
   std::unique_ptr<QTranslator> english_;
+};
+
+void changeOurLanguage(bool toFrench) {
+  static const StringList french = {"fr"_s};
+  static const StringList english = {"en"_s};
+  Localizer::sharedLocalizer().changeOrvantaLanguageToPreferredLocales(toFrench ? french : english);
+}
+
+// The same labels, and our translator in place of Qt's.
+class TranslatorSide final : public StockSide {
+ public:
+  TranslatorSide(const LabelLanguages& languages, const Scene& scene) : StockSide(scene) {
+    QCoreApplication::installTranslator(&translator_);
+    fill(languages);
+  }
+
+ private:
+  void beginChange(bool toFrench) override {
+    changeOurLanguage(toFrench);
+    // The event is posted to the application, and by that to its windows.
+    for (const QString before = labels().front()->text(); labels().front()->text() == before;) {
+      QCoreApplication::processEvents();
+    }
+  }
+
+  orvanta::qt::Translator translator_;
+};
+
+class OurSide final : public Side {
+ public:
+  OurSide(const LabelLanguages& languages, const Scene& scene) : Side(scene) {
+    if (isShown()) {
+      batch_.emplace(window());
+    }
+    for (std::size_t label = 0; label < kLabels; ++label) {
+      add(orvanta::qt::UILocalizedLabel::initLocalizedWithFrame(
+          {}, &window(), QString::fromStdString(languages.key(label))));
+    }
+    open();
+  }
+
+ private:
+  void beginChange(bool toFrench) override { changeOurLanguage(toFrench); }
+
+  std::optional<orvanta::qt::RepaintBatch> batch_;
 };
 
 // Keeps the window of one contender at a time: Qt notifies every window of a change of language,
@@ -190,20 +210,20 @@ class Stage {
   std::unique_ptr<Side> side_;
 };
 
-void checkLabels(Side& side, const Languages& languages) {
+void checkLabels(Side& side, const LabelLanguages& languages) {
   for (const bool toFrench : {true, false}) {
     const qt::PaintedTexts painted(side.labels());
     side.change(toFrench);
-    const Table& table = toFrench ? languages.french : languages.english;
     for (std::size_t label = 0; label < kLabels; ++label) {
-      const auto& [key, value] = table[languages.asked[label]];
+      const std::string& key = languages.key(label);
+      const std::string& value = languages.text(label, toFrench);
       expectText(side.labels()[label]->text().toStdString(), value, key);
       expectText(painted.text(label), side.isShown() ? value : "", key);
     }
   }
 }
 
-Contender switching(std::string_view name, const Languages& languages,
+Contender switching(std::string_view name, const LabelLanguages& languages,
                     const std::shared_ptr<Stage>& stage, const Stage::MakeSide& make) {
   const auto enter = [=]() -> Side& { return stage->enter(name, make); };
   const auto check = [enter, &languages] { checkLabels(enter(), languages); };
@@ -216,7 +236,7 @@ Contender switching(std::string_view name, const Languages& languages,
   return {std::string(name), check, round, prepare};
 }
 
-void installPlatform(const std::filesystem::path& folder, const Languages& languages) {
+void installPlatform(const std::filesystem::path& folder, const LabelLanguages& languages) {
   const Application application(folder);
   application.ship("fr", languages.french, textFormUtf8);
   application.ship("en", languages.english, textFormUtf8);
@@ -228,7 +248,7 @@ void installPlatform(const std::filesystem::path& folder, const Languages& langu
   platform::Platform::install(orvanta::qt::makeQtPlatform(options));
 }
 
-void switchRow(Bench& bench, const std::filesystem::path& folder, const Languages& languages,
+void switchRow(Bench& bench, const std::filesystem::path& folder, const LabelLanguages& languages,
                const Scene& scene) {
   Row row{.name = scene.name,
           .operations = 2,
@@ -241,8 +261,12 @@ void switchRow(Bench& bench, const std::filesystem::path& folder, const Language
   row.contenders = {
       switching(kFloor, languages, stage,
                 [&] { return std::make_unique<FloorSide>(folder, languages, scene); }),
-      switching(kOurs, languages, stage,
-                [&] { return std::make_unique<OurSide>(languages, scene); })};
+      switching(kOurs, languages, stage, [&]() -> std::unique_ptr<Side> {
+        if (scene.hasStockLabels) {
+          return std::make_unique<TranslatorSide>(languages, scene);
+        }
+        return std::make_unique<OurSide>(languages, scene);
+      })};
   bench.run(row);
 }
 
@@ -274,17 +298,19 @@ void switchQtRows(Bench& bench) {
 
   // One application for all rows, because widgets follow the shared localizer of the process.
   const ScratchFolder folder = bench.folder("switch-qt");
-  const Languages languages;
+  const LabelLanguages languages;
   installPlatform(folder.path(), languages);
   qt::makeTranslations(folder.path() / "fr.qm", languages.french);
   qt::makeTranslations(folder.path() / "en.qm", languages.english);
   for (const Scene& scene : {Scene{"switch-qt-hidden", false, Arrangement::layout, 0.8, 10, 41},
+                             Scene{"switch-qt-tr", false, Arrangement::layout, 0.9, 10, 41, true},
                              Scene{"switch-qt-shown", true, Arrangement::layout, 0.65, 1, 15},
                              Scene{"switch-qt-placed", true, Arrangement::places, {}, 1, 15}}) {
     if (bench.isWanted(scene.name)) {
       switchRow(bench, folder.path(), languages, scene);
     }
   }
+  switchQuickRow(bench, folder.path(), languages);
 }
 
 }  // namespace orvanta::bench
