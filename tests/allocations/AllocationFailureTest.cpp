@@ -62,25 +62,23 @@ class AllocationFailure : public testing::Test {
 };
 
 TEST_F(AllocationFailure, OfLookUpsLeavesBundlesUsable) {
-  struct Registry {
-    std::shared_ptr<platform::BundleRegistry> bundles;
-  };
+  using Registry = std::shared_ptr<platform::BundleRegistry>;
   const String path = (app_.bundle() / "fr.lproj").string();
   const std::array keys = {HashedKey("title")};
   refuseEach<Registry>(
       [&] {
-        return std::make_unique<Registry>(Registry{standard::makeBundleRegistry(
-            standard::makeFileManager({}), standard::makeLocaleData({"fr"}), path, {})});
+        return std::make_unique<Registry>(standard::makeBundleRegistry(
+            standard::makeFileManager({}), standard::makeLocaleData({"fr"}), path, {}));
       },
       [&](Registry& registry) {
-        const auto bundle = registry.bundles->bundleWithPath(path);
+        const auto bundle = registry->bundleWithPath(path);
         static_cast<void>(bundle->textsForKeys(keys));
         static_cast<void>(bundle->localizedStringForKey("title"_s));
-        static_cast<void>(registry.bundles->bundleWithPath(path));
-        registry.bundles->refreshTables();
+        static_cast<void>(registry->bundleWithPath(path));
+        registry->refreshTables();
       },
       [&](Registry& registry, std::size_t granted) {
-        const auto bundle = registry.bundles->bundleWithPath(path);
+        const auto bundle = registry->bundleWithPath(path);
         ASSERT_NE(bundle, nullptr) << granted;
         EXPECT_EQ(bundle->localizedStringForKey("title"), "titre") << granted;
         EXPECT_EQ(bundle->textsForKeys(keys).front(), "titre") << granted;
