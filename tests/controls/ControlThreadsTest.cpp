@@ -96,20 +96,19 @@ TEST_F(ControlThreads, AHandlerCalledOffMainWithoutALocaleDoesNothing) {
 }
 
 TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
-  const struct {
-    const char* name;
-    std::function<void()> work;
-  } rows[] = {{"a notification", [] { LocalizedApplication::post(); }},
-              {"a label's refresh", [this] { label_.refreshFor("ar"); }},
-              {"a field's refresh", [this] { field_.refreshFor("ar"); }},
-              {"a button's refresh", [this] { button_.refreshFor("ar"); }},
-              {"a field's placeholder", [this] { field_.localized->initializePlaceholder(); }}};
-  for (const auto& row : rows) {
+  const std::pair<const char*, std::function<void()>> rows[] = {
+      {"a notification", [] { LocalizedApplication::post(); }},
+      {"a label's refresh", [this] { label_.refreshFor("ar"); }},
+      {"a field's refresh", [this] { field_.refreshFor("ar"); }},
+      {"a button's refresh", [this] { button_.refreshFor("ar"); }},
+      {"a field's placeholder", [this] { field_.localized->initializePlaceholder(); }},
+  };
+  for (const auto& [name, work] : rows) {
     label_ = test::DesignedLabel(kDesign);
     field_ = test::DesignedTextField(kDesign);
     button_ = test::DesignedButton(kDesign);
     SetUp();
-    std::thread other = waitingForMain(row.work);
+    std::thread other = waitingForMain(work);
     const auto diaries = {label_.diary, field_.diary, button_.diary};
     for (const auto& diary : diaries) {
       diary->forget();
@@ -121,7 +120,7 @@ TEST_F(ControlThreads, AControlThatDiesMeanwhileIsNotTouched) {
     }
     other.join();
     for (const auto& diary : diaries) {
-      EXPECT_EQ(diary->take(), "") << row.name;
+      EXPECT_EQ(diary->take(), "") << name;
     }
   }
 }

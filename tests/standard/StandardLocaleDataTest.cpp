@@ -1,6 +1,5 @@
-#include <map>
-
 #include <gtest/gtest.h>
+#include <tests/support/TestApplication.h>
 
 #include <orvanta/standard/DeviceLanguages.h>
 #include <orvanta/standard/LocalizationRanking.h>
@@ -9,13 +8,7 @@
 namespace orvanta::standard {
 namespace {
 
-struct DeviceRow {
-  const char* name;
-  std::map<std::string, const char*> environment;
-  StringList languages;
-};
-
-const DeviceRow kDeviceRows[] = {
+const std::tuple<const char*, std::map<std::string, const char*>, StringList> kDeviceRows[] = {
     {"nothing is set", {}, StringList::emptyList()},
     {"a language alone", {{"LANG", "fr"}}, {"fr"}},
     {"set and modifier go", {{"LANG", "pt_BR.UTF-8@x"}}, {"pt-BR"}},
@@ -41,12 +34,8 @@ const DeviceRow kDeviceRows[] = {
 };
 
 TEST(DeviceLanguages, AreWhatTheEnvironmentSays) {
-  for (const DeviceRow& row : kDeviceRows) {
-    const Environment environment = [&](const char* name) {
-      const auto found = row.environment.find(name);
-      return found == row.environment.end() ? String() : String(found->second);
-    };
-    EXPECT_EQ(deviceLanguagesOf(environment), row.languages) << row.name;
+  for (const auto& [name, variables, languages] : kDeviceRows) {
+    EXPECT_EQ(deviceLanguagesOf(test::environmentOf(variables)), languages) << name;
   }
 }
 

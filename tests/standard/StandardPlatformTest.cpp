@@ -16,11 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(StandardPlatform, KeepsCachesWhereTheSystemWantsThem) {
-  const struct {
-    const char* name;
-    std::map<std::string, const char*> environment;
-    String path;
-  } kRows[] = {
+  const std::tuple<const char*, std::map<std::string, const char*>, String> kRows[] = {
       {"the one that is set", {{"XDG_CACHE_HOME", "/c"}, {"HOME", "/h"}}, "/c/app"},
       {"the usual one", {{"HOME", "/h"}}, "/h/.cache/app"},
       {"a relative one counts as none", {{"XDG_CACHE_HOME", "c"}, {"HOME", "/h"}}, "/h/.cache/app"},
@@ -28,13 +24,10 @@ TEST(StandardPlatform, KeepsCachesWhereTheSystemWantsThem) {
       {"no place", {}, {}},
       {"no place in a relative home", {{"HOME", "h"}}, {}},
   };
-  for (const auto& row : kRows) {
-    const Environment environment = [&](const char* name) {
-      const auto found = row.environment.find(name);
-      return found == row.environment.end() ? String() : String(found->second);
-    };
-    EXPECT_EQ(cachesPathOf("/usr/bin/app", environment), row.path) << row.name;
-    EXPECT_TRUE(cachesPathOf({}, environment).isAbsent()) << row.name;
+  for (const auto& [name, variables, path] : kRows) {
+    const Environment environment = test::environmentOf(variables);
+    EXPECT_EQ(cachesPathOf("/usr/bin/app", environment), path) << name;
+    EXPECT_TRUE(cachesPathOf({}, environment).isAbsent()) << name;
   }
 }
 

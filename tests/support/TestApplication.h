@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <orvanta/platform/Platform.h>
+#include <orvanta/standard/Environment.h>
 #include <orvanta/standard/RunLoop.h>
 #include <orvanta/standard/StandardPlatform.h>
 
@@ -57,6 +58,14 @@ inline void writeTable(const std::filesystem::path& folder, const Strings& strin
     text.append("\"").append(key).append("\" = \"").append(value).append("\";\n");
   }
   writeFile(folder / "Localizable.strings", text);
+}
+
+/// An environment of these variables alone.
+inline standard::Environment environmentOf(const std::map<std::string, const char*>& variables) {
+  return [variables](const char* name) {
+    const auto found = variables.find(name);
+    return found == variables.end() ? String() : String(found->second);
+  };
 }
 
 /// An application with its own bundle and caches. Installs a standard platform for itself.
