@@ -84,7 +84,7 @@ void printMan(std::ostream& out, const CLI::App& app, const std::string& purpose
   std::string title = app.get_name();
   std::transform(title.begin(), title.end(), title.begin(),
                  [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
-  out << ".TH " << title << " 1 \"\" \"" << app.version() << "\"\n"
+  out << ".TH " << title << R"( 1 "" ")" << app.version() << "\"\n"
       << ".SH NAME\n"
       << app.get_name() << " \\- " << roff(purpose) << "\n.SH SYNOPSIS\n";
   printSynopsis(out, "", app);
@@ -132,7 +132,7 @@ void printValues(std::ostream& out, const Options& options) {
 }
 
 void printCompletion(std::ostream& out, const CLI::App& app) {
-  const std::string name = app.get_name();
+  const std::string& name = app.get_name();
   const auto commands = commandsOf(app);
   std::string names;
   for (const CLI::App* command : commands) {
