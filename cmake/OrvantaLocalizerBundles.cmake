@@ -8,7 +8,7 @@
 #   orvanta_add_bundle(app DIRECTORY bundle EMBED)   # options.mainBundlePath = ":/app"
 #
 # PREFIX is another folder of the resources than "/app". Every build that follows a change copies or
-# embeds anew; a language that has gone goes there too. Before that the command `ovlocalize` checks the
+# embeds anew; a table or language that has gone goes there too. Before that the command `ovlocalize` checks the
 # tables, and the build fails with its message when it finds an error. Where the command is neither
 # installed nor built along, nor named by ORVANTA_OVLOCALIZE, configuring says that nothing is checked.
 
@@ -32,6 +32,7 @@ function(orvanta_add_bundle target)
   endif()
 
   set(check)
+  set(command)
   if(CMAKE_CROSSCOMPILING)
     find_program(ORVANTA_OVLOCALIZE ovlocalize)
   endif()
@@ -44,13 +45,14 @@ function(orvanta_add_bundle target)
   set(copy)
   if(NOT bundle_EMBED)
     set(copy COMMAND ${CMAKE_COMMAND} -DFROM=${bundle_DIRECTORY} -DTO=$<TARGET_FILE_DIR:${target}>
-        -DLIST=${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle.txt -P ${ORVANTA_COPY_BUNDLE})
+        -DLIST=${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle$<CONFIG>.txt -P ${ORVANTA_COPY_BUNDLE})
   endif()
-  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle.stamp)
-  # What the list of files was, so that one that has gone counts as a change.
-  file(CONFIGURE OUTPUT ${stamp}.files CONTENT "${files}" @ONLY)
+  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle$<CONFIG>.stamp)
+  # What the list was, so that an item that has gone counts as a change.
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle.list)
+  file(CONFIGURE OUTPUT ${list} CONTENT "${folders};${files}" @ONLY)
   add_custom_command(OUTPUT ${stamp} ${check} ${copy} COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-    DEPENDS ${files} ${stamp}.files ${command} COMMENT "Bundle of ${target}" VERBATIM)
+    DEPENDS ${files} ${list} ${command} COMMENT "Bundle of ${target}" VERBATIM)
   add_custom_target(${target}_bundle DEPENDS ${stamp})
   add_dependencies(${target} ${target}_bundle)
 

@@ -1,19 +1,24 @@
-# Copies the .lproj folders of FROM into TO, and removes those that the last call, by the LIST that it
-# wrote, copied there and FROM lacks now.
+# Copies the .lproj folders of FROM into TO, and removes what the last call, by the LIST that it wrote,
+# copied there and FROM lacks now.
 cmake_minimum_required(VERSION 3.25)
 
 file(GLOB folders LIST_DIRECTORIES TRUE RELATIVE ${FROM} ${FROM}/*.lproj)
+set(items ${folders})
+foreach(folder IN LISTS folders)
+  file(GLOB_RECURSE found LIST_DIRECTORIES TRUE RELATIVE ${FROM} ${FROM}/${folder}/*)
+  list(APPEND items ${found})
+endforeach()
 set(known)
 if(EXISTS ${LIST})
   file(STRINGS ${LIST} known)
 endif()
-foreach(folder IN LISTS known)
-  if(NOT folder IN_LIST folders)
-    file(REMOVE_RECURSE ${TO}/${folder})
+foreach(item IN LISTS known)
+  if(NOT item IN_LIST items)
+    file(REMOVE_RECURSE ${TO}/${item})
   endif()
 endforeach()
 foreach(folder IN LISTS folders)
   file(COPY ${FROM}/${folder} DESTINATION ${TO})
 endforeach()
-list(JOIN folders "\n" lines)
+list(JOIN items "\n" lines)
 file(WRITE ${LIST} "${lines}\n")

@@ -2,8 +2,10 @@
 #include <QPainterPath>
 #include <QProcess>
 #include <QRawFont>
+#include <QResource>
 #include <QTest>
 #include <atomic>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -167,6 +169,33 @@ class PlatformTest : public QObject {
                 .is(std::errc::read_only_file_system));
     QVERIFY(files.contentsOfDirectoryAtURL(orvanta::URL::fileURLWithPath("/:/no", true))
                 .status.is(std::errc::no_such_file_or_directory));
+  }
+
+  void readsResourcesThatComeAndGo() {
+    const Platform platform = orvanta::qt::makeQtPlatform({.mainBundlePath = ":/late"});
+    BundleRegistry& bundles = *platform.bundles;
+    const std::vector keys{orvanta::HashedKey("order.item.tea")};
+    std::shared_ptr<Bundle> german;
+    Bundle::TextsReader later;
+    for (const bool isThere : {true, false, true}) {
+      QVERIFY(isThere ? QResource::registerResource(LATE_RESOURCES)
+                      : QResource::unregisterResource(LATE_RESOURCES));
+      const auto damaged = bundles.bundleWithPath("/:/late/damaged.lproj");
+      const auto opened = bundles.bundleWithPath("/:/late/de.lproj");
+      QCOMPARE(damaged != nullptr && opened != nullptr, isThere);
+      bundles.refreshTables();
+      QCOMPARE(bundles.mainBundle()->localizations().size(), isThere ? 2U : 0U);
+      if (german == nullptr) {
+        german = opened;
+        later = german->laterTexts();
+      }
+      QCOMPARE(std::async(std::launch::async, later, keys).get().front().isPresent(), isThere);
+      QCOMPARE(german->localizedStringForKey("order.item.tea").str(),
+               isThere ? "Tee" : "order.item.tea");
+      QVERIFY(!damaged || damaged->localizedStringForKey("order.item.tea") == "order.item.tea");
+      const QResource table(u":/late/de.lproj/Localizable.strings"_s);
+      QCOMPARE(table.compressionAlgorithm() != QResource::NoCompression, isThere);
+    }
   }
 
   void knowsFontsByExactNameAlone() {
