@@ -41,8 +41,12 @@ if(TARGET orvanta_qt)
 endif()
 if(TARGET orvanta_quick)
   set(quick liborvanta-quick${PROJECT_VERSION_MAJOR})
+  # The package of the controls does not name the modules that they import.
+  set(modules qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
+              qml6-module-qtquick-window qml6-module-qtqml-workerscript)
+  list(JOIN modules ", " modules)
   orvanta_package(Quick ${quick} libs "Live localization: the Qt Quick module"
-                  "${qt} ${same_version}, qml6-module-qtquick-controls")
+                  "${qt} ${same_version}, ${modules}")
   orvanta_package(QuickDevelopment liborvanta-quick-dev libdevel
                   "Live localization: development files of the Qt Quick module"
                   "${quick} ${same_version}, liborvanta-qt-dev ${same_version}, qt6-declarative-dev")
