@@ -33,6 +33,7 @@ TEST(SourceKeys, AreTheLiteralsHandedToTheLibrary) {
       {"escapes", R"(localizedStringForKey("\"\x41\u00e9\101\n"))", {"\"A\u00e9A\n@1"}},
       {"raw", "localizedStringForKey(R\"x(a\")x\")", {"a\"@1"}},
       {"third argument", "localize(label, \"text\", \"k\", {{\"n\", 1}});", {"k@1"}},
+      {"behind a setter", "localize(label, \"n\", [](T t, U) { f(t); }, \"k\");", {"k@1"}},
       {"nested",
        "localizedMessageForKey(\"m\", {{\"x\", localizedStringForKey(\"i\")}})",
        {"m@1", "i@1"}},

@@ -106,7 +106,7 @@ std::vector<KeyFunction> libraryKeyFunctions() {
   return {{"localizedStringForKey", 0, 0, ""},
           {"localizedMessageForKey", 0, 1, ""},  // The first may be a localizer.
           {"localizedStringWithFormat", 0, 1, ""},
-          {"localize", 2, 2, ""},
+          {"localize", 2, 3, ""},  // The third may be a setter.
           {"setKey", 0, 0, ""},
           {"text", 0, 0, "Orvanta"},
           {"message", 0, 0, "Orvanta"}};
