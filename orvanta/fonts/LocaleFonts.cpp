@@ -1,4 +1,7 @@
+#include <string_view>
+
 #include <orvanta/fonts/localizationUtilities.h>
+#include <orvanta/locale/LanguagePart.h>
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/platform/Platform.h>
 
@@ -6,9 +9,16 @@ namespace orvanta::localizationUtilities {
 
 using platform::TextAlignment;
 
+namespace {
+
+bool hasCustomFont(std::string_view language) {
+  return language == arabicCode;
+}
+
+}  // namespace
+
 FontHandle ovFontForLocale(const String& locale, const FontHandle& baseFont) {
-  const String language = Localizer::languageOnlyFromString(locale);
-  if (baseFont == nullptr || !languageHasCustomFont(language)) {
+  if (baseFont == nullptr || !hasCustomFont(languagePart(locale.view()))) {
     return baseFont;
   }
   return ArabicFontWithSize(baseFont->pointSize(), ovFontIsBold(baseFont));
@@ -26,7 +36,7 @@ TextAlignment ovAlignmentForLocale(const String& locale, TextAlignment baseAlign
 }
 
 bool languageHasCustomFont(const String& language) {
-  return language == arabicCode;
+  return hasCustomFont(language.view());
 }
 
 bool languageAlignmentIsReversed(const String& language) {
