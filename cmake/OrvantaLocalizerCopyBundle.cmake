@@ -2,6 +2,13 @@
 # copied there and FROM lacks now.
 cmake_minimum_required(VERSION 3.25)
 
+# The sources of a program that is built among them are no copies to be removed some day.
+file(REAL_PATH ${FROM} from)
+file(REAL_PATH ${TO} to)
+if(from STREQUAL to)
+  return()
+endif()
+
 file(GLOB folders LIST_DIRECTORIES TRUE RELATIVE ${FROM} ${FROM}/*.lproj)
 set(items ${folders})
 foreach(folder IN LISTS folders)
