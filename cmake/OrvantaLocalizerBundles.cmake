@@ -8,9 +8,10 @@
 #   orvanta_add_bundle(app DIRECTORY bundle EMBED)   # options.mainBundlePath = ":/app"
 #
 # PREFIX is another folder of the resources than "/app". Every build that follows a change copies or
-# embeds anew; a table or language that has gone goes there too. Before that the command `ovlocalize` checks the
-# tables, and the build fails with its message when it finds an error. Where the command is neither
-# installed nor built along, nor named by ORVANTA_OVLOCALIZE, configuring says that nothing is checked.
+# embeds anew; a table or language that has gone goes there too. Before that the command `ovlocalize`
+# checks the tables, and the build fails with its message when it finds an error. Where the command is
+# neither installed nor a target of the project, nor named by ORVANTA_OVLOCALIZE, configuring says that
+# nothing is checked.
 
 set(ORVANTA_COPY_BUNDLE ${CMAKE_CURRENT_LIST_DIR}/OrvantaLocalizerCopyBundle.cmake
     CACHE INTERNAL "The script that copies a bundle")

@@ -36,3 +36,10 @@ execute_process(COMMAND ${CMAKE_COMMAND} --build ${build} RESULT_VARIABLE status
 if(status EQUAL 0 OR NOT output MATCHES "placeholders")
   message(FATAL_ERROR "a wrong placeholder does not fail the build:\n${output}")
 endif()
+
+# Where a program is built among its sources, its tables are no copies to be removed some day.
+must_run(${CMAKE_COMMAND} -DFROM=${source} -DTO=${source}/. -DLIST=${build}/list.txt
+         -P ${SOURCE_DIR}/cmake/OrvantaLocalizerCopyBundle.cmake)
+if(EXISTS ${build}/list.txt)
+  message(FATAL_ERROR "the sources count as copies")
+endif()
