@@ -40,7 +40,7 @@ endfunction()
 # project, the command is built when it is first needed.
 function(orvanta_find_command result)
   if(CMAKE_CROSSCOMPILING OR ORVANTA_OVLOCALIZE)
-    find_program(ORVANTA_OVLOCALIZE ovlocalize REQUIRED)
+    orvanta_find_host_command(REQUIRED)
     set(${result} ${ORVANTA_OVLOCALIZE} PARENT_SCOPE)
     return()
   endif()
@@ -54,3 +54,10 @@ function(orvanta_find_command result)
   endif()
   set(${result} OrvantaLocalizer::ovlocalize PARENT_SCOPE)
 endfunction()
+
+# Sets ORVANTA_OVLOCALIZE to a command that runs on this machine. The folders of packages are left out:
+# when cross-compiling, the command there is built for the target system.
+macro(orvanta_find_host_command)
+  find_program(ORVANTA_OVLOCALIZE ovlocalize NO_CMAKE_PATH NO_CMAKE_ENVIRONMENT_PATH
+               NO_CMAKE_INSTALL_PREFIX NO_CMAKE_FIND_ROOT_PATH ${ARGN})
+endmacro()

@@ -43,3 +43,11 @@ must_run(${CMAKE_COMMAND} -DFROM=${source} -DTO=${source}/. -DLIST=${build}/list
 if(EXISTS ${build}/list.txt)
   message(FATAL_ERROR "the sources count as copies")
 endif()
+
+# A build for another system does not run the command that was built for that system.
+must_run(${CMAKE_COMMAND} -S ${source} -B ${build}-cross -G ${GENERATOR} --fresh -DCMAKE_SYSTEM_NAME=Linux
+         -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
+file(STRINGS ${build}-cross/CMakeCache.txt foreign REGEX "^ORVANTA_OVLOCALIZE:.*/prefix/bin/")
+if(foreign)
+  message(FATAL_ERROR "a cross build runs the command of the target system: ${foreign}")
+endif()
