@@ -72,14 +72,14 @@ TEST(LanguageCatalogue, IsMemoizedAndCanBeSet) {
 
 TEST(LanguageCatalogue, StaysWhenTheDiskCannotBeReadForAWhile) {
   const struct {
-    const char* operation;  // Fails.
-    int code;
+    const char* operation;             // Fails.
     std::vector<std::string> atFirst;  // What is found when nothing was listed before.
+    int code;
     bool isTriedAgain;
-  } rows[] = {{"enumerateDirectoryAtURL", EMFILE, {"en"}, true},
-              {"enumerateDirectoryAtURL", ENOMEM, {"en"}, true},
-              {"enumerateDirectoryAtURL", EACCES, {"en"}, false},
-              {"contentsOfDirectoryAtURL", ENFILE, {"fr"}, true}};
+  } rows[] = {{"enumerateDirectoryAtURL", {"en"}, EMFILE, true},
+              {"enumerateDirectoryAtURL", {"en"}, ENOMEM, true},
+              {"enumerateDirectoryAtURL", {"en"}, EACCES, false},
+              {"contentsOfDirectoryAtURL", {"fr"}, ENFILE, true}};
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::Message() << row.operation << ' ' << row.code);
     test::WatchedApplication app(test::Languages{{"en", {}}});

@@ -138,8 +138,10 @@ TEST_F(Command, MakesPseudoLanguages) {
     std::string turned =
         std::regex_replace(marked, std::regex("<([a-z]{2,}|[sxa])>"), "\u200F\u202E$1\u202C\u200F");
     for (const auto& [to, text] : {std::pair{"en-XA", accented}, {"ar-XB", turned.c_str()}}) {
-      const std::string ov = "${OV%% *} --bundle b --cache $PWD ";
-      run(ov + "pseudo --to " + to + " && " + ov + "check && " + ov + "dump --language " + to);
+      run(
+          std::string("to=").append(to).append("; ov=\"${OV%% *} --bundle b --cache $PWD\"; $ov "
+                                               "pseudo --to $to && $ov check && $ov dump "
+                                               "--language $to"));
       EXPECT_THAT(out_, testing::EndsWith(std::string("\n\"\\\"k\" = \"") + text + "\"\n"))
           << source;
       EXPECT_EQ(status_, 0) << out_ << err_;
