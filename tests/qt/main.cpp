@@ -41,7 +41,8 @@ int main(int argc, char** argv) {
   }
   const orvanta::test::DemoPlatform platform;
   if (task == "--two-applications") {
-    return applicationHasArabicFace(argc, argv) && applicationHasArabicFace(argc, argv) ? 0 : 1;
+    const bool inTheFirst = applicationHasArabicFace(argc, argv);
+    return inTheFirst && applicationHasArabicFace(argc, argv) ? 0 : 1;
   }
   orvanta::platform::Platform::current().mainQueue->dispatchAsync(
       [] { orvanta::test::earlyStepRan = true; });

@@ -138,7 +138,7 @@ class QuickTest : public QObject {
   }
 
   void listsTheLanguages() {
-    QObject* const orvanta =
+    auto* const orvanta =
         engine_.singletonInstance<QObject*>(qmlTypeId("Orvanta", 1, 0, "Orvanta"));
     QVERIFY(root()->property("languages").toString().contains(u"de:Deutsch,"_s));
     orvanta::Localizer::sharedLocalizer().stringCache().updateStrings(

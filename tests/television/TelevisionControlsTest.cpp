@@ -85,7 +85,7 @@ TEST(Deferral, IsForLabelsAndButtonsLoadedFromALayout) {
   test::DesignedTextField field(kDesign);
   field.localized->awakeFromNib();
   EXPECT_EQ(field.shown().text, "titre") << "text fields never wait";
-  const auto label = std::make_shared<test::WatchedLabel>();
+  auto label = std::make_shared<test::WatchedLabel>();
   label->setText("title");
   const auto localized = UILocalizedLabel::initLocalizedWithFrame(
       {}, [&](const platform::Rect& /*frame*/) { return label; });

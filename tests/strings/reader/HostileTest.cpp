@@ -79,8 +79,8 @@ const std::tuple<const char*, std::string, std::string, std::string> kRows[] = {
 TEST(HostileTable, TakesLinearTimeWhateverComes) {
   for (const auto& [name, head, unit, tail] : kRows) {
     SCOPED_TRACE(name);
-    const std::string good = head.starts_with(kXml) ? "" : "good = G;\n";
-    checkInTime(good + head + filled(unit) + tail);
+    std::string table = head.starts_with(kXml) ? "" : "good = G;\n";
+    checkInTime(table.append(head).append(filled(unit)).append(tail));
   }
 }
 
