@@ -122,24 +122,30 @@ int run(const Request& request, int& argc, char** argv) {
   return report.findings.isEmpty() ? 0 : 1;
 }
 
-}  // namespace
-
-}  // namespace ovaudit
-
-int main(int argc, char** argv) {
+int parseAndRun(int& argc, char** argv) {
   CLI::App app("Shows a form in every language, without a display, and measures its texts.",
                "ovaudit");
-  ovaudit::Request request;
-  ovaudit::addOptions(app, request);
+  Request request;
+  addOptions(app, request);
   try {
     app.parse(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return ovaudit::run(request, argc, argv);
   } catch (const CLI::Success& answer) {
     return app.exit(answer);
   } catch (const CLI::ParseError& error) {
     std::cerr << "ovaudit: " << ovlocalize::escaped(error.what()) << " (see ovaudit --help)\n";
     return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return run(request, argc, argv);
+}
+
+}  // namespace
+
+}  // namespace ovaudit
+
+int main(int argc, char** argv) {
+  try {
+    return ovaudit::parseAndRun(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "ovaudit: " << ovlocalize::escaped(error.what()) << '\n';
     return 1;
