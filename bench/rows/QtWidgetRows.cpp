@@ -2,11 +2,13 @@
 // and our widgets. A round changes to French and back to English.
 #include <QApplication>
 #include <QEvent>
+#include <QLibrary>
 #include <QTranslator>
 #include <functional>
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 
 #include <malloc.h>
 
@@ -21,8 +23,8 @@
 #include "contenders/QtTranslations.h"
 #include "data/TableForms.h"
 #include "harness/Check.h"
+#include "quick/QuickRow.h"
 #include "rows/LabelLanguages.h"
-#include "rows/QuickRow.h"
 #include "rows/Rows.h"
 
 namespace orvanta::bench {
@@ -278,6 +280,18 @@ void useHeapOfWindows() {
   mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
 }
 
+#ifdef ORVANTA_BENCH_QUICK
+decltype(&orvantaBenchQuickRow) loadQuickRow() {
+  QLibrary module(QStringLiteral(ORVANTA_BENCH_QUICK));
+  const auto row =
+      reinterpret_cast<decltype(&orvantaBenchQuickRow)>(module.resolve("orvantaBenchQuickRow"));
+  if (row == nullptr) {
+    throw std::runtime_error(module.errorString().toStdString());
+  }
+  return row;
+}
+#endif
+
 // Qt's offscreen platform warns at every layout about operations that it does not support.
 void showProblems(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type == QtCriticalMsg || type == QtFatalMsg) {
@@ -310,7 +324,11 @@ void switchQtRows(Bench& bench) {
       switchRow(bench, folder.path(), languages, scene);
     }
   }
-  switchQuickRow(bench, folder.path(), languages);
+#ifdef ORVANTA_BENCH_QUICK
+  if (bench.isWanted("switch-quick")) {
+    loadQuickRow()(bench, folder.path(), languages);
+  }
+#endif
 }
 
 }  // namespace orvanta::bench

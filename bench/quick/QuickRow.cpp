@@ -1,6 +1,4 @@
-#include "rows/QuickRow.h"
-
-#ifdef ORVANTA_BENCH_HAS_QUICK
+#include "quick/QuickRow.h"
 
 #include <QCoreApplication>
 #include <QQmlComponent>
@@ -95,11 +93,8 @@ class FloorScene final : public Scene {
 
 }  // namespace
 
-void switchQuickRow(Bench& bench, const std::filesystem::path& folder,
-                    const LabelLanguages& languages) {
-  if (!bench.isWanted("switch-quick")) {
-    return;
-  }
+extern "C" __attribute__((visibility("default"))) void orvantaBenchQuickRow(
+    Bench& bench, const std::filesystem::path& folder, const LabelLanguages& languages) {
   Row row{
       .name = "switch-quick", .operations = 2, .samples = kSamples, .warmUp = true, .goal = kGoal};
   row.passes = kPasses;
@@ -120,14 +115,3 @@ void switchQuickRow(Bench& bench, const std::filesystem::path& folder,
 }
 
 }  // namespace orvanta::bench
-
-#else
-
-namespace orvanta::bench {
-
-void switchQuickRow(Bench& /*bench*/, const std::filesystem::path& /*folder*/,
-                    const LabelLanguages& /*languages*/) {}
-
-}  // namespace orvanta::bench
-
-#endif
