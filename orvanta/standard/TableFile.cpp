@@ -3,6 +3,7 @@
 
 #include <orvanta/standard/FileBytes.h>
 #include <orvanta/standard/TableFile.h>
+#include <orvanta/strings/reader/SoundTable.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 #include <orvanta/text/NoDestructor.h>
 #include <orvanta/text/TextHash.h>
@@ -24,6 +25,12 @@ std::optional<strings::ReadBuffer> contentOf(platform::FileManager& files, const
   return state.stamp ? readWholeFile(files, state.path, state.stamp->size) : std::nullopt;
 }
 
+std::shared_ptr<const strings::StringTable> soundTableIn(platform::FileManager& files,
+                                                         const FileState& state) {
+  const auto file = files.openFileForReading(state.path);
+  return file == nullptr ? nullptr : strings::readSoundTable(*file, state.stamp->size);
+}
+
 std::shared_ptr<const strings::StringTable> emptyTable() {
   static NoDestructor<const std::shared_ptr<const strings::StringTable>> empty(
       std::make_shared<const strings::StringTable>());
@@ -43,14 +50,19 @@ FileState FileState::of(platform::FileManager& files, String path) {
 
 std::shared_ptr<const strings::StringTable> TableFile::read(const String& path) {
   FileState state = FileState::of(*files_, path);
-  const std::optional<strings::ReadBuffer> bytes = contentOf(*files_, state);
-  auto table = bytes ? strings::readStringTable(bytes->view()) : nullptr;
+  // A racy file is hashed, so all of it has to be in memory.
+  auto table = state.stamp && !state.isRacy ? soundTableIn(*files_, state) : nullptr;
+  std::optional<strings::ReadBuffer> bytes;
+  if (table == nullptr) {
+    bytes = contentOf(*files_, state);
+    table = bytes ? strings::readStringTable(bytes->view()) : nullptr;
+    // A file that cannot be read now may become readable without a change of its stamp.
+    state.isRacy = state.isRacy || (state.stamp && !bytes);
+  }
   if (table == nullptr) {
     table = emptyTable();
   }
   probe_->releaseMemory();
-  // A file that cannot be read now may become readable without a change of its stamp.
-  state.isRacy = state.isRacy || (state.stamp && !bytes);
   reset();
   if (bytes && state.isRacy) {
     contentHash_ = textHash(bytes->view());

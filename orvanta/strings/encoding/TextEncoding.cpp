@@ -130,6 +130,14 @@ Transcoded singleBytesToUtf8(const char* in, const char* inEnd, char* out, const
 }  // namespace
 
 EncodedText detectEncoding(std::string_view bytes) noexcept {
+  EncodedText text = detectEncodingAtStart(bytes);
+  if (text.encoding == TextEncoding::kUtf8 && !isValidUtf8(text.bytes)) {
+    text.encoding = TextEncoding::kBrokenUtf8;
+  }
+  return text;
+}
+
+EncodedText detectEncodingAtStart(std::string_view bytes) noexcept {
   EncodedText text = {TextEncoding::kUtf8, bytes};
   const auto* const mark =
       std::find_if(std::begin(kMarks), std::end(kMarks),
@@ -139,10 +147,18 @@ EncodedText detectEncoding(std::string_view bytes) noexcept {
   } else {
     text.encoding = wideEncodingWithoutMark(bytes).value_or(TextEncoding::kUtf8);
   }
-  if (text.encoding == TextEncoding::kUtf8 && !isValidUtf8(text.bytes)) {
-    text.encoding = TextEncoding::kBrokenUtf8;
-  }
   return text;
+}
+
+std::size_t expectedUtf8Size(TextEncoding encoding, std::size_t bytes) noexcept {
+  switch (unitSize(encoding)) {
+    case 2:
+      return bytes / 4 * 3;
+    case 4:
+      return bytes / 2;
+    default:
+      return bytes;
+  }
 }
 
 Utf8Transcoder::Utf8Transcoder(EncodedText text) noexcept

@@ -32,6 +32,14 @@ struct EncodedText {
 /// here and nowhere else.
 [[nodiscard]] EncodedText detectEncoding(std::string_view bytes) noexcept;
 
+/// The same, without the check of UTF-8, from the beginning of a text: at least 64 bytes of it, or
+/// all.
+[[nodiscard]] EncodedText detectEncodingAtStart(std::string_view bytes) noexcept;
+
+/// An estimate, rarely too low, of the size in UTF-8 of a text in any script with much ASCII, as
+/// string tables are.
+[[nodiscard]] std::size_t expectedUtf8Size(TextEncoding encoding, std::size_t bytes) noexcept;
+
 /// Converts text to UTF-8, piece by piece. What is no character (invalid UTF-8, a lone surrogate, a
 /// byte that the encoding leaves undefined) becomes U+FFFD; a torn unit at the end is left out.
 class Utf8Transcoder {

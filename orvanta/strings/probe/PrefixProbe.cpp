@@ -25,6 +25,7 @@
 #include <new>
 #include <optional>
 
+#include <orvanta/strings/ReadFully.h>
 #include <orvanta/strings/StringTableBuilder.h>
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/probe/BinaryProbe.h>
@@ -85,22 +86,6 @@ std::unique_ptr<FileProbe> makeFileProbe(std::string_view head, const PrefixSear
   return makeTextProbe(text.encoding, markSize, searches);
 }
 
-// Reads as much as there is and fits. Absent when reading failed.
-std::optional<std::size_t> fill(ByteSource& file, std::span<char> buffer) {
-  std::size_t filled = 0;
-  while (filled < buffer.size()) {
-    const auto count = file.read(buffer.subspan(filled));
-    if (!count) {
-      return std::nullopt;
-    }
-    if (*count == 0) {
-      break;
-    }
-    filled += *count;
-  }
-  return filled;
-}
-
 }  // namespace
 
 std::string_view prefixToProbeFor(std::span<const HashedKey> keys) noexcept {
@@ -153,7 +138,7 @@ std::shared_ptr<const StringTable> PrefixProbe::entriesFromHead(ByteSource& file
   }
   char* const begin = window_.get();
   char* const seam = begin + kPiece;
-  const auto headSize = fill(file, {begin, kPiece});
+  const auto headSize = readFully(file, {begin, kPiece});
   if (!headSize) {
     return nullptr;
   }
@@ -165,7 +150,7 @@ std::shared_ptr<const StringTable> PrefixProbe::entriesFromHead(ByteSource& file
   file_->look(head);
   for (FilePiece piece = head; !piece.isLast;) {
     std::memmove(seam, piece.bytes.data() + piece.bytes.size() - kOverlap, kOverlap);
-    const auto more = fill(file, {seam + kOverlap, kPiece});
+    const auto more = readFully(file, {seam + kOverlap, kPiece});
     if (!more) {
       return nullptr;
     }

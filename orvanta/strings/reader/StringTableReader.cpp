@@ -9,24 +9,9 @@ namespace orvanta::strings {
 
 namespace {
 
-// An estimate that is rarely too low. Pages that are not used are never touched, and are given
-// back.
-std::size_t expectedArena(const EncodedText& text) noexcept {
-  switch (text.encoding) {
-    case TextEncoding::kUtf16Little:
-    case TextEncoding::kUtf16Big:
-      return text.bytes.size() / 4 * 3;
-    case TextEncoding::kUtf32Little:
-    case TextEncoding::kUtf32Big:
-      return text.bytes.size() / 2;
-    default:
-      return text.bytes.size();
-  }
-}
-
 std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems,
                                             const StatementCollector& statements) {
-  StringTableBuilder table(expectedArena(text));
+  StringTableBuilder table(expectedUtf8Size(text.encoding, text.bytes.size()));
   const bool isTable = looksLikeXmlTable(text) ? readXmlTable(text, table, problems, statements)
                                                : readTextTable(text, table, problems, statements);
   return isTable ? table.build() : nullptr;

@@ -20,17 +20,7 @@ constexpr std::size_t kLeastPartOfNoise = 16;
 
 constexpr const char* kNotATable = "this is no strings file";
 
-// How far reading got: offsets into the UTF-8 text of the current place and the statement before
-// it.
-struct Progress {
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-
-  std::size_t at = 0;
-  std::size_t previous = kNone;
-  bool isDone = false;  // All is read, and there is nothing to report.
-};
-
-// Reads a whole text, from `progress` on, with recovery.
+// Reads a whole text, with recovery.
 class WholeText {
  public:
   WholeText(const WholeUtf8& text, TextStatements& statements, const ProblemCollector& problems)
@@ -42,10 +32,9 @@ class WholeText {
     problems_.addDamage(text);
   }
 
-  bool read(Progress progress) {
-    const char* at = text_.data() + progress.at;
-    const char* previous =
-        progress.previous == Progress::kNone ? nullptr : text_.data() + progress.previous;
+  bool read() {
+    const char* at = text_.data();
+    const char* previous = nullptr;
     for (;;) {
       const std::size_t countBefore = statements_.count();
       at = statements_.read(scanner_, at);
@@ -99,32 +88,27 @@ class WholeText {
   bool beginsBadly_ = false;
 };
 
-// Reads sound statements through a moving window, up to the first damage or a statement that does
-// not fit into the window.
-Progress readThroughWindow(EncodedText text, TextStatements& statements) {
-  TextWindow window(text);
-  Progress progress;
-  for (;;) {
+}  // namespace
+
+bool readSoundText(TextWindow& window, StringTableBuilder& table) {
+  TextStatements statements(table);
+  while (window.isSound()) {
     const std::string_view lines = window.lines();
-    const std::size_t countBefore = statements.count();
     TextScanner scanner(lines);
-    const char* stop = statements.read(scanner, lines.data());
-    const auto consumed = static_cast<std::size_t>(stop - lines.data());
-    if (statements.count() != countBefore) {
-      progress.previous =
-          window.offset() + static_cast<std::size_t>(statements.last() - lines.data());
+    const char* const stop = statements.read(scanner, lines.data());
+    if (statements.full()) {
+      return false;
     }
-    progress.at = window.offset() + consumed;
-    const bool isAllRead = window.atEnd() && consumed == lines.size();
-    progress.isDone =
-        isAllRead && !window.isDamaged() && statements.braces() != TextStatements::Braces::kOpen;
-    if (window.atEnd() || statements.full() || !window.advance(consumed)) {
-      return progress;
+    const auto consumed = static_cast<std::size_t>(stop - lines.data());
+    if (window.atEnd()) {
+      return consumed == lines.size() && statements.braces() != TextStatements::Braces::kOpen;
+    }
+    if (!window.advance(consumed)) {
+      return false;
     }
   }
+  return false;
 }
-
-}  // namespace
 
 bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCollector& problems,
                    const StatementCollector& collector) {
@@ -137,23 +121,14 @@ bool readTextTable(EncodedText text, StringTableBuilder& table, const ProblemCol
     return isTable;
   }
   TextStatements statements(table);
-  Progress progress;
-  const bool isUtf8 =
-      text.encoding == TextEncoding::kUtf8 || text.encoding == TextEncoding::kBrokenUtf8;
-  if (!isUtf8) {
-    progress = readThroughWindow(text, statements);
-    if (statements.full() || progress.isDone) {
-      return true;
-    }
-  }
   const WholeUtf8 whole(text);
-  return WholeText(whole, statements, problems).read(progress);
+  return WholeText(whole, statements, problems).read();
 }
 
 bool readTextTable(const WholeUtf8& text, StringTableBuilder& table,
                    const ProblemCollector& problems, StatementPlaces& places) {
   TextStatements statements(table, &places);
-  const bool isTable = WholeText(text, statements, problems).read({});
+  const bool isTable = WholeText(text, statements, problems).read();
   const bool isInBraces = statements.braces() == TextStatements::Braces::kClosed;
   const std::string_view whole = text.view();
   places.setTableEnd(isInBraces ? statements.closingBrace() : whole.data() + whole.size());

@@ -7,8 +7,14 @@
 #include <orvanta/strings/encoding/TextEncoding.h>
 #include <orvanta/strings/reader/StringTableReader.h>
 #include <orvanta/strings/reader/text/StatementPlaces.h>
+#include <orvanta/strings/reader/text/TextWindow.h>
 
 namespace orvanta::strings {
+
+/// Adds the statements of a strings file in text form, as long as all of it is sound. False, with
+/// an unknown part of them added, at the first damage, at a statement or comment that is too long
+/// for the window, and for a table beyond 4 GiB: the file is to be read whole then.
+[[nodiscard]] bool readSoundText(TextWindow& window, StringTableBuilder& table);
 
 /// Adds the statements of a strings file in text form.
 ///

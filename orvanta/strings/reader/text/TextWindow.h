@@ -1,46 +1,54 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <string_view>
 
+#include <orvanta/strings/ByteSource.h>
 #include <orvanta/strings/encoding/TextEncoding.h>
 
 namespace orvanta::strings {
 
-/// A moving window of UTF-8 over a text in another encoding, small enough to stay in the
-/// processor's cache. The text is never converted as a whole.
+/// A moving window of UTF-8 over a text file in UTF-8 or UTF-16, small enough to stay in the
+/// processor's cache. The file is never in memory as a whole, which would need fresh pages for all
+/// of it (benchmark rows `load-*`).
 class TextWindow {
  public:
-  explicit TextWindow(EncodedText text);
+  /// Reads the beginning of the file, which must outlive the window. Throws `std::bad_alloc`.
+  explicit TextWindow(ByteSource& file);
 
-  /// The lines in the window; at the end of the text, all that is left. Valid until `advance`.
+  [[nodiscard]] TextEncoding encoding() const noexcept { return encoding_; }
+
+  /// The lines in the window; at the end of the file, all that is left. Valid until `advance`.
   [[nodiscard]] std::string_view lines() const noexcept { return {bytes_.get(), linesSize_}; }
 
-  /// The offset of `lines` in the whole text.
-  [[nodiscard]] std::size_t offset() const noexcept { return offset_; }
+  /// Whether `lines` reach to the end of the file.
+  [[nodiscard]] bool atEnd() const noexcept { return atEnd_; }
 
-  /// Whether `lines` reach to the end of the text.
-  [[nodiscard]] bool atEnd() const noexcept { return transcoder_.atEnd(); }
-
-  /// Whether any character so far was damaged, or the text ends within a character.
-  [[nodiscard]] bool isDamaged() const noexcept {
-    return transcoder_.replacements() > 0 || transcoder_.isTorn();
-  }
+  /// False when the file could not be read so far, a character of `lines` or before is damaged, or
+  /// the file is in another encoding.
+  [[nodiscard]] bool isSound() const noexcept { return isSound_; }
 
   /// Drops the first `consumed` bytes of `lines` and refills the window. False, with nothing done,
   /// when less than half of the window would be new: a statement or comment is too long for it.
-  [[nodiscard]] bool advance(std::size_t consumed) noexcept;
+  [[nodiscard]] bool advance(std::size_t consumed);
 
  private:
-  void fill() noexcept;
+  // Appends what the file has next to `size` bytes, up to `limit`.
+  void readOn(char* bytes, std::size_t& size, std::size_t limit);
+  void transcode() noexcept;
+  // The first `checked` bytes are known to be valid.
+  void endAtLineBreak(std::size_t checked) noexcept;
 
-  Utf8Transcoder transcoder_;
+  ByteSource& file_;
+  TextEncoding encoding_ = TextEncoding::kUtf8;
+  std::unique_ptr<char[]> encoded_;  // Of a file in UTF-16, what is not yet converted.
+  std::size_t encodedSize_ = 0;
   std::unique_ptr<char[]> bytes_;
   std::size_t size_ = 0;
   std::size_t linesSize_ = 0;
-  std::size_t offset_ = 0;
+  bool atEnd_ = false;
+  bool isSound_ = true;
 };
 
 }  // namespace orvanta::strings
