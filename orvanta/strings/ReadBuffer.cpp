@@ -22,10 +22,11 @@ void ReadBuffer::reserve(std::size_t capacity) {
   }
   // Grow by half at least, so that files of slowly growing sizes do not reallocate each time.
   capacity = std::max(capacity, capacity_ + capacity_ / 2);
-  Bytes larger(allocateBytes(capacity, Pages::atOnce));
+  Bytes larger(allocateBytes(capacity));
   if (larger == nullptr) {
     throw std::bad_alloc();
   }
+  providePages(larger.get(), capacity);
   std::copy_n(data_.get(), size_, larger.get());
   data_ = std::move(larger);
   capacity_ = capacity;

@@ -9,11 +9,20 @@
 
 namespace orvanta::strings {
 
+namespace {
+
+constexpr std::size_t kMostSlotsForEach = 3;
+
+}  // namespace
+
 StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
   // Reserves too much when entries are longer; pages that are not used are never touched.
   constexpr std::size_t kShortEntry = 64;
-  records_.reserve(expectedBytes / kShortEntry);
-  static_cast<void>(reserve(expectedBytes));
+  const std::size_t entries = expectedBytes / kShortEntry;
+  records_.reserve(entries);
+  if (reserve(expectedBytes + kMostSlotsForEach * sizeof(Slot) * entries)) {
+    providePages(arena_, expectedBytes);
+  }
 }
 
 StringTableBuilder::~StringTableBuilder() {
@@ -26,7 +35,7 @@ bool StringTableBuilder::reserve(std::size_t more) {
   }
   if (used_ + more > capacity_) {
     const std::size_t wanted = std::min(std::max(used_ + more, 2 * capacity_), kLargestArena);
-    char* larger = arena_ == nullptr ? allocateBytes(wanted, Pages::atOnce)
+    char* larger = arena_ == nullptr ? allocateBytes(wanted)
                                      : static_cast<char*>(std::realloc(arena_, wanted));
     if (larger == nullptr) {
       throw std::bad_alloc();
@@ -58,7 +67,7 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
     return table;
   }
   // A sparse index makes misses faster; a large one should rather fit into the caches.
-  const std::size_t slotsForEach = records < 50'000 ? 3 : 2;
+  const std::size_t slotsForEach = records < 50'000 ? kMostSlotsForEach : 2;
   const std::size_t count =
       std::min<std::size_t>(slotsForEach * records, std::numeric_limits<std::uint32_t>::max());
   const std::size_t start = (used_ + sizeof(Slot) - 1) / sizeof(Slot) * sizeof(Slot);
@@ -72,6 +81,7 @@ std::shared_ptr<const StringTable> StringTableBuilder::build() {
   arena_ = nullptr;
   used_ = 0;
   capacity_ = 0;
+  providePages(reinterpret_cast<char*>(index), count * sizeof(Slot));
   std::uninitialized_fill_n(index, count, StringTable::kFree);
   table->index_ = index;
   table->slotCount_ = static_cast<std::uint32_t>(count);

@@ -30,29 +30,14 @@ char* allocateAligned(std::size_t alignment, std::size_t size) noexcept {
              : nullptr;
 }
 
-// Advice only: where it is refused or unknown, the pages come when they are touched.
-void providePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size) noexcept {
-#ifdef MADV_POPULATE_WRITE
-  const auto begin = (reinterpret_cast<std::uintptr_t>(bytes) + kPage - 1) / kPage * kPage;
-  const auto end = (reinterpret_cast<std::uintptr_t>(bytes) + size) / kPage * kPage;
-  if (begin < end && end - begin >= kFewPages * kPage) {
-    static_cast<void>(madvise(reinterpret_cast<void*>(begin), end - begin, MADV_POPULATE_WRITE));
-  }
-#endif
-}
-
 }  // namespace
 
-char* allocateBytes(std::size_t size, Pages pages) noexcept {
+char* allocateBytes(std::size_t size) noexcept {
   if (size > static_cast<std::size_t>(PTRDIFF_MAX) - kHugePage) {
     return nullptr;
   }
   if (size < kHugePageThreshold) {
-    char* const bytes = allocateAligned(kCacheLine, size);
-    if (bytes != nullptr && pages == Pages::atOnce) {
-      providePages(bytes, size);
-    }
-    return bytes;
+    return allocateAligned(kCacheLine, size);
   }
   const std::size_t remainder = size % kHugePage;
   const std::size_t inHugePages =
@@ -65,6 +50,17 @@ char* allocateBytes(std::size_t size, Pages pages) noexcept {
   }
 #endif
   return bytes;
+}
+
+void providePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size) noexcept {
+#ifdef MADV_POPULATE_WRITE
+  const auto begin = (reinterpret_cast<std::uintptr_t>(bytes) + kPage - 1) / kPage * kPage;
+  const auto end = (reinterpret_cast<std::uintptr_t>(bytes) + size) / kPage * kPage;
+  if (size < kHugePageThreshold && begin < end && end - begin >= kFewPages * kPage) {
+    // Advice only: where it is refused or unknown, the pages come when they are touched.
+    static_cast<void>(madvise(reinterpret_cast<void*>(begin), end - begin, MADV_POPULATE_WRITE));
+  }
+#endif
 }
 
 }  // namespace orvanta

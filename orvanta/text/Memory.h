@@ -6,21 +6,18 @@
 
 namespace orvanta {
 
-/// When the system provides the pages of new memory.
-enum class Pages {
-  whenTouched,  ///< Each at the first access, as usual. For memory that may not be used whole.
-  atOnce,       ///< All in one call where the system can, which takes half the time for each page.
-                ///< For memory that is about to be filled; see the benchmark's rows `load-500` to
-                ///< `load-5k`.
-};
-
 /// `size` bytes of the C heap, not initialised, to be released with `std::free` or resized with
 /// `std::realloc`; null when memory is short. They begin at a cache line: systems copy files faster
 /// to such addresses. Thread-safe.
 ///
 /// For large sizes the system is asked for huge pages. New memory is cleared page by page as it is
 /// first touched, which with small pages took more time than all the rest of reading a table.
-[[nodiscard]] char* allocateBytes(std::size_t size, Pages pages = Pages::whenTouched) noexcept;
+[[nodiscard]] char* allocateBytes(std::size_t size) noexcept;
+
+/// Asks the system for the pages of memory that is about to be filled, all in one call where it can
+/// do that: page faults at the first accesses take twice as long (benchmark rows `load-500` to
+/// `load-5k`). Does nothing for sizes for which `allocateBytes` asks for huge pages. Thread-safe.
+void providePages(char* bytes, std::size_t size) noexcept;
 
 /// The deleter of `Bytes`.
 struct FreeBytes {

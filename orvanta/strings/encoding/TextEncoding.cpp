@@ -150,17 +150,6 @@ EncodedText detectEncodingAtStart(std::string_view bytes) noexcept {
   return text;
 }
 
-std::size_t expectedUtf8Size(TextEncoding encoding, std::size_t bytes) noexcept {
-  switch (unitSize(encoding)) {
-    case 2:
-      return bytes / 4 * 3;
-    case 4:
-      return bytes / 2;
-    default:
-      return bytes;
-  }
-}
-
 Utf8Transcoder::Utf8Transcoder(EncodedText text) noexcept
     : encoding_(text.encoding),
       at_(text.bytes.data()),

@@ -36,10 +36,6 @@ struct EncodedText {
 /// all.
 [[nodiscard]] EncodedText detectEncodingAtStart(std::string_view bytes) noexcept;
 
-/// An estimate, rarely too low, of the size in UTF-8 of a text in any script with much ASCII, as
-/// string tables are.
-[[nodiscard]] std::size_t expectedUtf8Size(TextEncoding encoding, std::size_t bytes) noexcept;
-
 /// Converts text to UTF-8, piece by piece. What is no character (invalid UTF-8, a lone surrogate, a
 /// byte that the encoding leaves undefined) becomes U+FFFD; a torn unit at the end is left out.
 class Utf8Transcoder {

@@ -16,8 +16,10 @@ std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_
   if (!window.isSound() || looksLikeBinaryTable(window.lines())) {
     return nullptr;
   }
+  // The rest of the file may be somewhat less like ASCII than its beginning.
+  constexpr double kMargin = 1.05;
   StringTableBuilder table(
-      expectedUtf8Size(window.encoding(), static_cast<std::size_t>(expectedSize)));
+      static_cast<std::size_t>(static_cast<double>(expectedSize) * window.growth() * kMargin));
   return readSoundText(window, table) ? table.build() : nullptr;
 }
 

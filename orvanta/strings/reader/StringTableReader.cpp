@@ -11,7 +11,7 @@ namespace {
 
 std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems,
                                             const StatementCollector& statements) {
-  StringTableBuilder table(expectedUtf8Size(text.encoding, text.bytes.size()));
+  StringTableBuilder table(text.bytes.size());
   const bool isTable = looksLikeXmlTable(text) ? readXmlTable(text, table, problems, statements)
                                                : readTextTable(text, table, problems, statements);
   return isTable ? table.build() : nullptr;

@@ -41,7 +41,9 @@ TextWindow::TextWindow(ByteSource& file)
     encoded_ = std::make_unique_for_overwrite<char[]>(kPiece);
     std::memcpy(encoded_.get(), first.bytes.data(), size_);
     encodedSize_ = std::exchange(size_, 0);
+    const std::size_t encodedSize = encodedSize_;
     transcode();
+    growth_ = static_cast<double>(size_) / static_cast<double>(encodedSize);
   } else {
     std::memmove(bytes_.get(), first.bytes.data(), size_);
     isSound_ = isSound_ && encoding_ == TextEncoding::kUtf8;

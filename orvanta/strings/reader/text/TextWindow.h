@@ -17,10 +17,11 @@ class TextWindow {
   /// Reads the beginning of the file, which must outlive the window. Throws `std::bad_alloc`.
   explicit TextWindow(ByteSource& file);
 
-  [[nodiscard]] TextEncoding encoding() const noexcept { return encoding_; }
-
   /// The lines in the window; at the end of the file, all that is left. Valid until `advance`.
   [[nodiscard]] std::string_view lines() const noexcept { return {bytes_.get(), linesSize_}; }
+
+  /// How many bytes of UTF-8 a byte of the beginning of the file became.
+  [[nodiscard]] double growth() const noexcept { return growth_; }
 
   /// Whether `lines` reach to the end of the file.
   [[nodiscard]] bool atEnd() const noexcept { return atEnd_; }
@@ -47,6 +48,7 @@ class TextWindow {
   std::unique_ptr<char[]> bytes_;
   std::size_t size_ = 0;
   std::size_t linesSize_ = 0;
+  double growth_ = 1;
   bool atEnd_ = false;
   bool isSound_ = true;
 };
