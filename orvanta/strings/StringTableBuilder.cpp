@@ -15,13 +15,11 @@ constexpr std::size_t kMostSlotsForEach = 3;
 
 }  // namespace
 
-StringTableBuilder::StringTableBuilder(std::size_t expectedBytes) {
-  // Reserves too much when entries are longer; pages that are not used are never touched.
-  constexpr std::size_t kShortEntry = 64;
-  const std::size_t entries = expectedBytes / kShortEntry;
-  records_.reserve(entries);
-  if (reserve(expectedBytes + kMostSlotsForEach * sizeof(Slot) * entries)) {
-    providePages(arena_, expectedBytes);
+StringTableBuilder::StringTableBuilder(const Expected& expected) {
+  records_.reserve(expected.entries);
+  // The index is going to stand behind the entries.
+  if (reserve(expected.bytes + kMostSlotsForEach * sizeof(Slot) * expected.entries)) {
+    providePages(arena_, expected.bytes);
   }
 }
 

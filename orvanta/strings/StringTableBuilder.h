@@ -18,9 +18,20 @@ namespace orvanta::strings {
 /// to any other entry with its key.
 class StringTableBuilder {
  public:
-  /// `expectedBytes` estimates the size of all keys and values together; when it is too small, the
-  /// arena is reallocated.
-  explicit StringTableBuilder(std::size_t expectedBytes = 0);
+  /// What is going to be added. Memory is reserved for so much; where it is too little, the arena
+  /// is reallocated.
+  struct Expected {
+    std::size_t entries = 0;
+    std::size_t bytes = 0;  ///< Of all keys and values together, and eight for each entry.
+
+    /// Rarely too little for a file of this size.
+    [[nodiscard]] static Expected inFile(std::size_t size) noexcept {
+      constexpr std::size_t kShortEntry = 64;
+      return {size / kShortEntry, size};
+    }
+  };
+
+  explicit StringTableBuilder(const Expected& expected = {0, 0});
   ~StringTableBuilder();
   StringTableBuilder(const StringTableBuilder&) = delete;
   StringTableBuilder& operator=(const StringTableBuilder&) = delete;

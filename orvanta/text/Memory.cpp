@@ -18,6 +18,7 @@ constexpr std::size_t kHugePageThreshold = std::size_t{1024} * 1024;
 constexpr std::uintptr_t kPage = 4096;
 // For fewer pages a call is not worth it.
 constexpr std::uintptr_t kFewPages = 4;
+constexpr std::size_t kMostProvided = std::size_t{16} * 1024 * 1024;
 // A remainder below this stands in small pages: clearing a huge page takes about as long as
 // clearing so many bytes page by page.
 constexpr std::size_t kRemainderWorthHugePage = std::size_t{256} * 1024;
@@ -55,8 +56,9 @@ char* allocateBytes(std::size_t size) noexcept {
 void providePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size) noexcept {
 #ifdef MADV_POPULATE_WRITE
   const auto begin = (reinterpret_cast<std::uintptr_t>(bytes) + kPage - 1) / kPage * kPage;
-  const auto end = (reinterpret_cast<std::uintptr_t>(bytes) + size) / kPage * kPage;
-  if (size < kHugePageThreshold && begin < end && end - begin >= kFewPages * kPage) {
+  const auto end =
+      (reinterpret_cast<std::uintptr_t>(bytes) + std::min(size, kMostProvided)) / kPage * kPage;
+  if (begin < end && end - begin >= kFewPages * kPage) {
     // Advice only: where it is refused or unknown, the pages come when they are touched.
     static_cast<void>(madvise(reinterpret_cast<void*>(begin), end - begin, MADV_POPULATE_WRITE));
   }

@@ -163,7 +163,7 @@ class ContentsMaker {
 };
 
 bool readBinary(DocumentContents& contents, const ProblemCollector& problems) {
-  StringTableBuilder builder(contents.bytes.size());
+  StringTableBuilder builder(StringTableBuilder::Expected::inFile(contents.bytes.size()));
   if (!readBinaryTable(contents.bytes, builder, problems, {})) {
     return false;
   }
@@ -193,7 +193,7 @@ bool readDocument(DocumentContents& contents, const ProblemCollector& problems) 
   }
   contents.style.isXml = isXml;
   const WholeUtf8 whole(encoded);
-  StringTableBuilder builder(whole.view().size());
+  StringTableBuilder builder(StringTableBuilder::Expected::inFile(whole.view().size()));
   StatementPlaces places;
   const bool isTable = isXml ? readXmlTable(whole, builder, problems, places)
                              : readTextTable(whole, builder, problems, places);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 
@@ -6,6 +7,21 @@
 #include <orvanta/strings/reader/text/TextTable.h>
 
 namespace orvanta::strings {
+
+namespace {
+
+// Estimated from the lines that the file begins with.
+StringTableBuilder::Expected expectedIn(const TextWindow& window, std::uint64_t fileSize) {
+  // The rest may have shorter entries, or be somewhat less like ASCII.
+  constexpr double kMargin = 1.05;
+  const std::string_view lines = window.lines();
+  const double bytes = static_cast<double>(fileSize) * window.growth() * kMargin;
+  const auto statements = static_cast<double>(std::count(lines.begin(), lines.end(), ';'));
+  const double entries = lines.empty() ? 0 : statements / static_cast<double>(lines.size()) * bytes;
+  return {static_cast<std::size_t>(entries), static_cast<std::size_t>(bytes)};
+}
+
+}  // namespace
 
 std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_t expectedSize) {
   if (expectedSize > std::numeric_limits<std::uint32_t>::max()) {
@@ -16,10 +32,7 @@ std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_
   if (!window.isSound() || looksLikeBinaryTable(window.lines())) {
     return nullptr;
   }
-  // The rest of the file may be somewhat less like ASCII than its beginning.
-  constexpr double kMargin = 1.05;
-  StringTableBuilder table(
-      static_cast<std::size_t>(static_cast<double>(expectedSize) * window.growth() * kMargin));
+  StringTableBuilder table(expectedIn(window, expectedSize));
   return readSoundText(window, table) ? table.build() : nullptr;
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemCollector& problems,
                                             const StatementCollector& statements) {
-  StringTableBuilder table(text.bytes.size());
+  StringTableBuilder table(StringTableBuilder::Expected::inFile(text.bytes.size()));
   const bool isTable = looksLikeXmlTable(text) ? readXmlTable(text, table, problems, statements)
                                                : readTextTable(text, table, problems, statements);
   return isTable ? table.build() : nullptr;
@@ -20,7 +20,7 @@ std::shared_ptr<const StringTable> readText(EncodedText text, const ProblemColle
 std::shared_ptr<const StringTable> readBinary(std::string_view bytes,
                                               const ProblemCollector& problems,
                                               const StatementCollector& statements) {
-  StringTableBuilder table(bytes.size());
+  StringTableBuilder table(StringTableBuilder::Expected::inFile(bytes.size()));
   return readBinaryTable(bytes, table, problems, statements) ? table.build() : nullptr;
 }
 
