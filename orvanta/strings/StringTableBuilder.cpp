@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <new>
@@ -18,7 +19,9 @@ constexpr std::size_t kMostSlotsForEach = 3;
 StringTableBuilder::StringTableBuilder(const Expected& expected) {
   records_.reserve(expected.entries);
   // The index is going to stand behind the entries.
-  if (reserve(expected.bytes + kMostSlotsForEach * sizeof(Slot) * expected.entries)) {
+  constexpr std::uint64_t kIndexForEach = kMostSlotsForEach * sizeof(Slot);
+  const std::uint64_t all = expected.bytes + kIndexForEach * expected.entries;
+  if (all <= kLargestArena && reserve(static_cast<std::size_t>(all))) {
     providePages(arena_, expected.bytes);
   }
 }

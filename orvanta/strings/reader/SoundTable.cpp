@@ -10,21 +10,26 @@ namespace orvanta::strings {
 
 namespace {
 
+constexpr double kLargestFile = std::numeric_limits<std::uint32_t>::max();
+
 // Estimated from the lines that the file begins with.
-StringTableBuilder::Expected expectedIn(const TextWindow& window, std::uint64_t fileSize) {
+StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSize) {
   // The rest may have shorter entries, or be somewhat less like ASCII.
   constexpr double kMargin = 1.05;
+  // The first lines may be full of semicolons.
+  constexpr double kShortEntry = 16;
   const std::string_view lines = window.lines();
-  const double bytes = static_cast<double>(fileSize) * window.growth() * kMargin;
+  const double bytes = std::min(fileSize * window.growth() * kMargin, kLargestFile);
   const auto statements = static_cast<double>(std::count(lines.begin(), lines.end(), ';'));
-  const double entries = lines.empty() ? 0 : statements / static_cast<double>(lines.size()) * bytes;
-  return {static_cast<std::size_t>(entries), static_cast<std::size_t>(bytes)};
+  const double each = std::max(static_cast<double>(lines.size()) / (statements + 1), kShortEntry);
+  return {static_cast<std::size_t>(bytes / each), static_cast<std::size_t>(bytes)};
 }
 
 }  // namespace
 
 std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_t expectedSize) {
-  if (expectedSize > std::numeric_limits<std::uint32_t>::max()) {
+  const auto size = static_cast<double>(expectedSize);
+  if (size > kLargestFile) {
     return nullptr;
   }
   TextWindow window(file);
@@ -32,7 +37,7 @@ std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_
   if (!window.isSound() || looksLikeBinaryTable(window.lines())) {
     return nullptr;
   }
-  StringTableBuilder table(expectedIn(window, expectedSize));
+  StringTableBuilder table(expectedIn(window, size));
   return readSoundText(window, table) ? table.build() : nullptr;
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <tests/support/MemorySource.h>
 
 #include <orvanta/strings/reader/StringTableReader.h>
 
@@ -32,6 +33,8 @@ inline TableReading readTable(std::string_view bytes) {
     EXPECT_FALSE(problem.message.empty());
     add(reading.places, problem.line, problem.column);
   });
+  const bool isSound = test::isSoundTable(bytes, reading.table.get());
+  EXPECT_FALSE(isSound && !reading.places.empty());
   if (reading.table == nullptr) {
     EXPECT_FALSE(reading.places.empty()) << "a refusal says why";
     reading.pairs = kNoTable;

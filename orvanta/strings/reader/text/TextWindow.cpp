@@ -19,14 +19,11 @@ bool isUtf16(TextEncoding encoding) noexcept {
   return encoding == TextEncoding::kUtf16Little || encoding == TextEncoding::kUtf16Big;
 }
 
-// Without half a unit, or half a pair of surrogates, at the end.
-std::string_view wholeCharacters(TextEncoding encoding, std::string_view bytes) noexcept {
-  bytes.remove_suffix(bytes.size() % 2);
-  if (!bytes.empty()) {
-    const char high = bytes[bytes.size() - (encoding == TextEncoding::kUtf16Little ? 1 : 2)];
-    bytes.remove_suffix((static_cast<unsigned char>(high) & 0xFC) == 0xD8 ? 2 : 0);
-  }
-  return bytes;
+// Without the first half of a pair of surrogates at the end. There must be some.
+std::string_view wholeCharacters(TextEncoding encoding, std::string_view units) noexcept {
+  const char high = units[units.size() - (encoding == TextEncoding::kUtf16Little ? 1 : 2)];
+  units.remove_suffix((static_cast<unsigned char>(high) & 0xFC) == 0xD8 ? 2 : 0);
+  return units;
 }
 
 }  // namespace
@@ -41,9 +38,10 @@ TextWindow::TextWindow(ByteSource& file)
     encoded_ = std::make_unique_for_overwrite<char[]>(kPiece);
     std::memcpy(encoded_.get(), first.bytes.data(), size_);
     encodedSize_ = std::exchange(size_, 0);
-    const std::size_t encodedSize = encodedSize_;
     transcode();
-    growth_ = static_cast<double>(size_) / static_cast<double>(encodedSize);
+    growth_ = first.bytes.empty()
+                  ? 1
+                  : static_cast<double>(size_) / static_cast<double>(first.bytes.size());
   } else {
     std::memmove(bytes_.get(), first.bytes.data(), size_);
     isSound_ = isSound_ && encoding_ == TextEncoding::kUtf8;
