@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include <orvanta/strings/encoding/Utf16ToUtf8.h>
+#include <orvanta/strings/encoding/avx2/Utf16ToUtf8.h>
 
 // Loading a downloaded table spends most of its time here (benchmark row load-utf16). Such tables
 // are mostly ASCII keys, and values in one other script. Each block of sixteen units takes one of
@@ -180,6 +181,17 @@ Transcoded transcode(const char* in, const char* inEnd, char* begin, const char*
   Transcoded at = {in, begin};
   const auto hasRoom = [&] { return outEnd - at.out >= static_cast<std::ptrdiff_t>(kUtf16Room); };
   while (hasRoom() && inEnd - at.in >= static_cast<std::ptrdiff_t>(2 * kBlock)) {
+#ifdef ORVANTA_HAS_AVX2
+    if (avx2::isAvailable()) {
+      const char* const before = at.in;
+      at = kOrder == std::endian::little
+               ? avx2::utf16LittleBlocksToUtf8(at.in, inEnd, at.out, outEnd)
+               : avx2::utf16BigBlocksToUtf8(at.in, inEnd, at.out, outEnd);
+      if (at.in != before) {
+        continue;
+      }
+    }
+#endif
     const std::uint64_t any = anyOfBlock(at.in);
     if ((any & fourTimes<kOrder>(0xFF80)) == 0) {
       narrowBlock<kOrder>(at.in, at.out);

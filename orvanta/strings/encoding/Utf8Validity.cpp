@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include <orvanta/strings/encoding/Utf8Validity.h>
-#include <orvanta/strings/encoding/Utf8Vectors.h>
+#include <orvanta/strings/encoding/avx2/Utf8Check.h>
 
 // Whether a byte is valid depends on it and on the three bytes before it alone. The check has no
 // branches, so that the compiler vectorizes it. A block of ASCII takes a faster path.
@@ -56,11 +56,13 @@ constexpr std::size_t kLookBack = 3;
   return isAscii(block) && !expectsContinuation(block) ? true : isValidBlock(block);
 }
 
-// The same for all blocks from `at` to `end`.
+// Whether the bytes from `at` to `end`, a multiple of a block, are valid. Which error of a
+// character that continues behind `end` is found only there differs: all blocks of a text are to be
+// judged here.
 bool areValidBlocks(const Byte* at, const Byte* end) noexcept {
-#ifdef ORVANTA_HAS_UTF8_VECTORS
-  if (hasWideVectors()) {
-    return areValidBlocksWide(at, end);
+#ifdef ORVANTA_HAS_AVX2
+  if (avx2::isAvailable()) {
+    return avx2::areValidUtf8Blocks(at, end);
   }
 #endif
   while (at != end && isSound(at)) {
@@ -72,28 +74,27 @@ bool areValidBlocks(const Byte* at, const Byte* end) noexcept {
 }  // namespace
 
 bool isValidUtf8(std::string_view text) noexcept {
-  const auto* at = reinterpret_cast<const Byte*>(text.data());
-  std::size_t left = text.size();
   // The first block has no bytes before it, and no character may continue behind the last one: both
-  // are copied between zeros and checked there.
-  std::array<Byte, kLookBack + kBlock + kBlock> edge = {};
-  if (left < kBlock) {
-    std::memcpy(edge.data() + kLookBack, at, left);
-    return isValidBlock(edge.data() + kLookBack);
+  // are copied between zeros.
+  std::array<Byte, kLookBack + kBlock> edge = {};
+  const auto isValidEdge = [&] {
+    const Byte* const block = edge.data() + kLookBack;
+    return areValidBlocks(block, block + kBlock);
+  };
+  const auto* const begin = reinterpret_cast<const Byte*>(text.data());
+  if (text.size() < kBlock) {
+    std::memcpy(edge.data() + kLookBack, begin, text.size());
+    return isValidEdge();
   }
-  std::memcpy(edge.data() + kLookBack, at, kBlock);
-  if (!isSound(edge.data() + kLookBack)) {
+  std::memcpy(edge.data() + kLookBack, begin, kBlock);
+  const std::size_t rest = text.size() % kBlock;
+  const Byte* const last = begin + text.size() - rest;
+  if (!isValidEdge() || !areValidBlocks(begin + kBlock, last)) {
     return false;
   }
-  const Byte* const end = at + left / kBlock * kBlock;
-  if (!areValidBlocks(at + kBlock, end)) {
-    return false;
-  }
-  at = end;
-  left %= kBlock;
   edge.fill(0);
-  std::memcpy(edge.data(), at - kLookBack, kLookBack + left);
-  return isSound(edge.data() + kLookBack);
+  std::memcpy(edge.data(), last - kLookBack, kLookBack + rest);
+  return isValidEdge();
 }
 
 }  // namespace orvanta::strings

@@ -18,7 +18,8 @@ StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSiz
   constexpr double kMargin = 1.05;
   // The first lines may be full of semicolons.
   constexpr double kShortEntry = 16;
-  const std::string_view lines = window.lines();
+  constexpr std::size_t kSample = 4096;
+  const std::string_view lines = window.lines().substr(0, kSample);
   const double bytes = std::min(fileSize * window.growth() * kMargin, kLargestFile);
   const auto statements = static_cast<double>(std::count(lines.begin(), lines.end(), ';'));
   const double each = std::max(static_cast<double>(lines.size()) / (statements + 1), kShortEntry);

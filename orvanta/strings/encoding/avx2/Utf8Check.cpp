@@ -1,17 +1,16 @@
-#include <orvanta/strings/encoding/Utf8Vectors.h>
+#include <orvanta/strings/encoding/avx2/Utf8Check.h>
 
-#ifdef ORVANTA_HAS_UTF8_VECTORS
+#ifdef ORVANTA_HAS_AVX2
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
-
-#include <immintrin.h>
 
 // Each error of two adjacent bytes shows in three half bytes. A shuffle of a vector looks each of
 // them up in a table of sixteen, for all bytes at once. The method is that of J. Keiser and
 // D. Lemire, "Validating UTF-8 In Less Than One Instruction Per Byte", 2021.
 
-namespace orvanta::strings {
+namespace orvanta::strings::avx2 {
 
 namespace {
 
@@ -42,10 +41,8 @@ constexpr std::array<Error, 8> kErrors = {{
 }};
 constexpr int kThirdOrFourth = 0x80;  // The bit of the last row.
 
-using Table = std::array<std::uint8_t, 16>;
-
-constexpr Table tableOf(unsigned Error::*halfByte) {
-  Table table = {};
+constexpr Shuffle tableOf(unsigned Error::*halfByte) {
+  Shuffle table = {};
   for (unsigned value = 0; value < table.size(); ++value) {
     for (unsigned row = 0; row < kErrors.size(); ++row) {
       table[value] |= static_cast<std::uint8_t>(((kErrors[row].*halfByte >> value) & 1U) << row);
@@ -54,35 +51,28 @@ constexpr Table tableOf(unsigned Error::*halfByte) {
   return table;
 }
 
-alignas(16) constexpr Table kUpperBefore = tableOf(&Error::upperBefore);
-alignas(16) constexpr Table kLowerBefore = tableOf(&Error::lowerBefore);
-alignas(16) constexpr Table kUpper = tableOf(&Error::upper);
+constexpr Shuffle kUpperBefore = tableOf(&Error::upperBefore);
+constexpr Shuffle kLowerBefore = tableOf(&Error::lowerBefore);
+constexpr Shuffle kUpper = tableOf(&Error::upper);
 
-#define ORVANTA_AVX2 [[gnu::target("avx2"), gnu::always_inline]] inline
-
-ORVANTA_AVX2 __m256i load(const unsigned char* at) noexcept {
-  return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(at));
+[[ORVANTA_AVX2_INLINE]] inline __m256i twice(const Shuffle& table) noexcept {
+  return _mm256_broadcastsi128_si256(loadHalf(table.data()));
 }
 
-ORVANTA_AVX2 __m256i twice(const Table& table) noexcept {
-  return _mm256_broadcastsi128_si256(
-      _mm_load_si128(reinterpret_cast<const __m128i*>(table.data())));
-}
-
-ORVANTA_AVX2 __m256i allBytes(int byte) noexcept {
+[[ORVANTA_AVX2_INLINE]] inline __m256i allBytes(int byte) noexcept {
   return _mm256_set1_epi8(static_cast<char>(byte));
 }
 
-ORVANTA_AVX2 __m256i lowerHalves(__m256i bytes) noexcept {
+[[ORVANTA_AVX2_INLINE]] inline __m256i lowerHalves(__m256i bytes) noexcept {
   return _mm256_and_si256(bytes, allBytes(0x0F));
 }
 
-ORVANTA_AVX2 __m256i upperHalves(__m256i bytes) noexcept {
+[[ORVANTA_AVX2_INLINE]] inline __m256i upperHalves(__m256i bytes) noexcept {
   return lowerHalves(_mm256_srli_epi16(bytes, 4));
 }
 
 // The errors of 32 bytes; zero in each that is valid.
-ORVANTA_AVX2 __m256i errorsAt(const unsigned char* at) noexcept {
+[[ORVANTA_AVX2_INLINE]] inline __m256i errorsAt(const unsigned char* at) noexcept {
   const __m256i before = load(at - 1);
   const __m256i pairs = _mm256_and_si256(
       _mm256_and_si256(_mm256_shuffle_epi8(twice(kUpperBefore), upperHalves(before)),
@@ -97,12 +87,8 @@ ORVANTA_AVX2 __m256i errorsAt(const unsigned char* at) noexcept {
 
 }  // namespace
 
-bool hasWideVectors() noexcept {
-  return __builtin_cpu_supports("avx2") != 0;
-}
-
-[[gnu::target("avx2")]] bool areValidBlocksWide(const unsigned char* at,
-                                                const unsigned char* end) noexcept {
+[[ORVANTA_AVX2]] bool areValidUtf8Blocks(const unsigned char* at,
+                                         const unsigned char* end) noexcept {
   constexpr std::ptrdiff_t kVector = 32;
   __m256i errors = _mm256_setzero_si256();
   for (; at != end; at += 2 * kVector) {
@@ -116,6 +102,6 @@ bool hasWideVectors() noexcept {
   return _mm256_testz_si256(errors, errors) != 0;
 }
 
-}  // namespace orvanta::strings
+}  // namespace orvanta::strings::avx2
 
 #endif

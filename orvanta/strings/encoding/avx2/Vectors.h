@@ -1,0 +1,48 @@
+#pragma once
+
+// Compilers that can build single functions for processors with AVX2, whether or not the rest of
+// the program is. Tables of half a megabyte take a third less time to load with these functions
+// (benchmark rows `load-*` and `update`); without them the portable code does the same.
+#if defined(__GNUC__) && defined(__x86_64__)
+#define ORVANTA_HAS_AVX2
+
+#include <array>
+#include <cstdint>
+
+#include <immintrin.h>
+
+/// On a function that may be called only where `isAvailable`.
+#define ORVANTA_AVX2 gnu::target("avx2,popcnt")
+/// On a helper of such functions.
+#define ORVANTA_AVX2_INLINE gnu::target("avx2,popcnt"), gnu::always_inline
+
+namespace orvanta::strings::avx2 {
+
+/// Whether this processor has AVX2.
+[[nodiscard]] inline bool isAvailable() noexcept {
+  return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("popcnt") != 0;
+}
+
+/// What a byte shuffle puts into each byte of a vector of sixteen: the byte at an index.
+using Shuffle = std::array<std::uint8_t, 16>;
+/// Gives 0 instead of a byte.
+inline constexpr std::uint8_t kNothing = 0x80;
+
+[[ORVANTA_AVX2_INLINE]] inline __m256i load(const void* at) noexcept {
+  return _mm256_loadu_si256(static_cast<const __m256i*>(at));
+}
+
+[[ORVANTA_AVX2_INLINE]] inline __m128i loadHalf(const void* at) noexcept {
+  return _mm_loadu_si128(static_cast<const __m128i*>(at));
+}
+
+/// Writes sixteen bytes.
+[[ORVANTA_AVX2_INLINE]] inline void storeShuffled(char* out, __m128i bytes,
+                                                  const Shuffle& shuffle) noexcept {
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(out),
+                   _mm_shuffle_epi8(bytes, loadHalf(shuffle.data())));
+}
+
+}  // namespace orvanta::strings::avx2
+
+#endif
