@@ -68,7 +68,7 @@ constexpr std::array<Shuffle, 256> kKept = makeShuffles();
 
 [[ORVANTA_AVX2_INLINE]] inline char* putKept(__m128i units, unsigned kept, char* out) noexcept {
   storeShuffled(out, units, kKept[kept]);
-  return out + 2 * std::popcount(kept);
+  return out + std::ptrdiff_t{2} * std::popcount(kept);
 }
 
 }  // namespace
