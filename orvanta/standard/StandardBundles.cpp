@@ -69,7 +69,7 @@ class StandardBundle final : public platform::Bundle {
       const String folder = path::lastPathComponent(path);
       std::string_view name = folder.view();
       if (name.ends_with(kLanguageFolderExtension) && !name.starts_with('.') &&
-          isFolder(*services_.files, path)) {
+          (entry.hasDirectoryPath() || isFolder(*services_.files, path))) {
         name.remove_suffix(kLanguageFolderExtension.size());
         names.emplace_back(name);
       }
