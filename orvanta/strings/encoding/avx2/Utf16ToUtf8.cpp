@@ -14,42 +14,16 @@ namespace {
 constexpr std::ptrdiff_t kBlock = 32;  // Bytes.
 constexpr std::ptrdiff_t kRoom = 64;
 
-// Eight characters of one or two bytes, each in a field of two bytes. A bit of the index is set for
-// one of a single byte.
-constexpr std::array<Shuffle, 256> makeShufflesOfPairs() {
-  std::array<Shuffle, 256> shuffles = {};
-  for (unsigned index = 0; index < shuffles.size(); ++index) {
-    shuffles[index].fill(kNothing);
-    std::size_t size = 0;
-    for (unsigned character = 0; character < 8; ++character) {
-      shuffles[index][size++] = static_cast<std::uint8_t>(2 * character);
-      if ((index >> character & 1U) == 0) {
-        shuffles[index][size++] = static_cast<std::uint8_t>(2 * character + 1);
-      }
-    }
-  }
-  return shuffles;
-}
+// Eight characters of one or two bytes, each in a field of two. A bit of the index is set for one
+// of a single byte.
+constexpr auto kPairs = makePackingShuffles<2>(
+    [](unsigned index, unsigned character) { return 2 - (index >> character & 1U); });
 
-// Four characters of up to three bytes, each in a field of four bytes. The lower four bits of the
-// index are set for those of more than one byte, the upper for those of more than two.
-constexpr std::array<Shuffle, 256> makeShufflesOfTriples() {
-  std::array<Shuffle, 256> shuffles = {};
-  for (unsigned index = 0; index < shuffles.size(); ++index) {
-    shuffles[index].fill(kNothing);
-    std::size_t size = 0;
-    for (unsigned character = 0; character < 4; ++character) {
-      const unsigned more = (index >> character & 1U) + (index >> (4 + character) & 1U);
-      for (unsigned byte = 0; byte <= more; ++byte) {
-        shuffles[index][size++] = static_cast<std::uint8_t>(4 * character + byte);
-      }
-    }
-  }
-  return shuffles;
-}
-
-constexpr std::array<Shuffle, 256> kPairs = makeShufflesOfPairs();
-constexpr std::array<Shuffle, 256> kTriples = makeShufflesOfTriples();
+// Four characters of up to three bytes, each in a field of four. The lower four bits of the index
+// are set for those of more than one byte, the upper for those of more than two.
+constexpr auto kTriples = makePackingShuffles<4>([](unsigned index, unsigned character) {
+  return 1 + (index >> character & 1U) + (index >> (4 + character) & 1U);
+});
 
 [[ORVANTA_AVX2_INLINE]] inline __m256i all16(int bits) noexcept {
   return _mm256_set1_epi16(static_cast<short>(bits));

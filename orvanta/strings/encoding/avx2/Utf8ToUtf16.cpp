@@ -16,22 +16,8 @@ constexpr std::ptrdiff_t kBlock = 16;
 constexpr std::ptrdiff_t kLookAhead = 2;
 
 // Of eight units, those whose bit in the index is set.
-constexpr std::array<Shuffle, 256> makeShuffles() {
-  std::array<Shuffle, 256> shuffles = {};
-  for (unsigned index = 0; index < shuffles.size(); ++index) {
-    shuffles[index].fill(kNothing);
-    std::size_t size = 0;
-    for (unsigned unit = 0; unit < 8; ++unit) {
-      if ((index >> unit & 1U) != 0) {
-        shuffles[index][size++] = static_cast<std::uint8_t>(2 * unit);
-        shuffles[index][size++] = static_cast<std::uint8_t>(2 * unit + 1);
-      }
-    }
-  }
-  return shuffles;
-}
-
-constexpr std::array<Shuffle, 256> kKept = makeShuffles();
+constexpr auto kKept =
+    makePackingShuffles<2>([](unsigned index, unsigned unit) { return 2 * (index >> unit & 1U); });
 
 [[ORVANTA_AVX2_INLINE]] inline __m256i all(int bits) noexcept {
   return _mm256_set1_epi16(static_cast<short>(bits));

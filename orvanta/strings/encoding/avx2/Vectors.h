@@ -7,6 +7,7 @@
 #define ORVANTA_HAS_AVX2
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include <immintrin.h>
@@ -25,8 +26,24 @@ namespace orvanta::strings::avx2 {
 
 /// What a byte shuffle puts into each byte of a vector of sixteen: the byte at an index.
 using Shuffle = std::array<std::uint8_t, 16>;
-/// Gives 0 instead of a byte.
-inline constexpr std::uint8_t kNothing = 0x80;
+
+/// For each index, the shuffle that moves fields of `kField` bytes together and leaves out what is
+/// not used of them: `sizeOf(index, field)` tells how many bytes are.
+template <std::size_t kField, typename SizeOf>
+[[nodiscard]] constexpr std::array<Shuffle, 256> makePackingShuffles(SizeOf sizeOf) {
+  constexpr std::uint8_t kZero = 0x80;
+  std::array<Shuffle, 256> shuffles = {};
+  for (unsigned index = 0; index < shuffles.size(); ++index) {
+    shuffles[index].fill(kZero);
+    std::size_t size = 0;
+    for (unsigned field = 0; field < sizeof(Shuffle) / kField; ++field) {
+      for (unsigned byte = 0; byte < sizeOf(index, field); ++byte) {
+        shuffles[index][size++] = static_cast<std::uint8_t>(kField * field + byte);
+      }
+    }
+  }
+  return shuffles;
+}
 
 [[ORVANTA_AVX2_INLINE]] inline __m256i load(const void* at) noexcept {
   return _mm256_loadu_si256(static_cast<const __m256i*>(at));
