@@ -1,6 +1,5 @@
 #include <QMetaProperty>
 #include <QVariant>
-#include <utility>
 
 #include <orvanta/locale/Localizer.h>
 #include <orvanta/qt/Localize.h>
@@ -30,18 +29,19 @@ bool canBeWritten(const QObject& object, const char* property) {
 
 }  // namespace
 
-void localize(QObject* object, const QByteArray& name, std::function<void(const QString&)> set,
-              const QString& key, const QVariantMap& arguments) {
+void localize(QObject* object, const QByteArray& name,
+              const std::function<void(const QString&)>& set, const QString& key,
+              const QVariantMap& arguments) {
   if (key.isEmpty()) {
     TextBindings::shared().unbind(object, name);
   } else {
-    TextBindings::shared().bind(object, name, translationOf(key, arguments), std::move(set));
+    TextBindings::shared().bind(object, name, translationOf(key, arguments), set);
   }
 }
 
-void localize(QObject* object, std::function<void(const QString&)> set, const QString& key,
+void localize(QObject* object, const std::function<void(const QString&)>& set, const QString& key,
               const QVariantMap& arguments) {
-  TextBindings::shared().bind(object, {}, translationOf(key, arguments), std::move(set));
+  TextBindings::shared().bind(object, {}, translationOf(key, arguments), set);
 }
 
 bool localize(QObject* object, const char* property, const QString& key,

@@ -30,13 +30,13 @@ ORVANTA_QT_EXPORT bool localize(QObject* object, const char* property, const QSt
                                 const QVariantMap& arguments = {});
 
 /// Binds what `set` does. Every call adds a binding.
-ORVANTA_QT_EXPORT void localize(QObject* object, std::function<void(const QString&)> set,
+ORVANTA_QT_EXPORT void localize(QObject* object, const std::function<void(const QString&)>& set,
                                 const QString& key, const QVariantMap& arguments = {});
 
 /// Binds under a name of the caller's: in place of an earlier binding of the object under it. A
 /// null or empty key takes that away.
 ORVANTA_QT_EXPORT void localize(QObject* object, const QByteArray& name,
-                                std::function<void(const QString&)> set, const QString& key,
+                                const std::function<void(const QString&)>& set, const QString& key,
                                 const QVariantMap& arguments = {});
 
 /// Binds a setter of the object, in place of an earlier binding of the same one.
