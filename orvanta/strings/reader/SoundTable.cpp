@@ -34,8 +34,11 @@ std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_
     return nullptr;
   }
   TextWindow window(file);
-  // An XML property list begins with a character that no statement has.
-  if (!window.isSound() || looksLikeBinaryTable(window.lines())) {
+  const std::string_view lines = window.lines();
+  // A first line that is too long has not been looked at. An XML property list begins with a
+  // character that no statement has.
+  const bool isKnown = window.atEnd() || !lines.empty();
+  if (!window.isSound() || !isKnown || looksLikeBinaryTable(lines)) {
     return nullptr;
   }
   StringTableBuilder table(expectedIn(window, size));

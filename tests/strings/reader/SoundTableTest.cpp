@@ -77,6 +77,7 @@ TEST(SoundTable, LeavesEverythingElseToAFullRead) {
       {"a lone surrogate at the end", encode(test::kUtf16Little, sound) + "\x01\xD8", false},
       {"XML", "<plist><dict><key>a</key><string>b</string></dict></plist>", false},
       {"the word that begins a binary list", "bplist00;", false},
+      {"the same in a long line", "bplist00;" + std::string(kPiece, ' ') + "\n", false},
   };
   for (const auto& row : kRows) {
     EXPECT_EQ(isSound(row.bytes), row.isSound) << row.name;
