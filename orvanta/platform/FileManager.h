@@ -82,8 +82,7 @@ class ORVANTA_EXPORT FileManager {
     /// Why the folder could not be listed.
     Status status;
   };
-  /// The entries of a folder, hidden ones included, not those of its sub-folders. The URLs of
-  /// folders end in "/"; those of links need not, whatever they lead to.
+  /// The entries of a folder, hidden ones included, not those of its sub-folders.
   [[nodiscard]] virtual Contents contentsOfDirectoryAtURL(const URL& url) = 0;
 
   /// Called with each entry.

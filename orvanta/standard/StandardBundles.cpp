@@ -21,7 +21,8 @@ namespace {
 constexpr std::string_view kLanguageFolderExtension = ".lproj";
 constexpr String kDefaultTable = "Localizable";
 
-// True for a link to a folder, too: a "." behind it asks what it leads to.
+// True for a link to a folder, too: a "." behind it asks what it leads to. False for a folder that
+// may not be entered: none of its files can be read.
 bool isFolder(platform::FileManager& files, const String& path) {
   return files.itemKindAtPath(path::stringByAppendingPathComponent(path, ".")) ==
          platform::ItemKind::directory;
@@ -69,7 +70,7 @@ class StandardBundle final : public platform::Bundle {
       const String folder = path::lastPathComponent(path);
       std::string_view name = folder.view();
       if (name.ends_with(kLanguageFolderExtension) && !name.starts_with('.') &&
-          (entry.hasDirectoryPath() || isFolder(*services_.files, path))) {
+          isFolder(*services_.files, path)) {
         name.remove_suffix(kLanguageFolderExtension.size());
         names.emplace_back(name);
       }

@@ -40,9 +40,6 @@ class ORVANTA_EXPORT URL {
   /// Whether the scheme is "file:".
   [[nodiscard]] bool isFileURL() const noexcept { return text_.view().starts_with("file:"); }
 
-  /// Whether the text ends in "/", as that of a folder does.
-  [[nodiscard]] bool hasDirectoryPath() const noexcept { return text_.view().ends_with('/'); }
-
   /// The whole text; absent when the URL is.
   [[nodiscard]] const String& absoluteString() const& noexcept ORVANTA_LIFETIME_BOUND {
     return text_;
