@@ -1,15 +1,13 @@
 #include <algorithm>
-#include <limits>
 #include <new>
 #include <utility>
 
 #include <orvanta/strings/ReadBuffer.h>
+#include <orvanta/strings/ReadFully.h>
 
 namespace orvanta::strings {
 
 namespace {
-
-constexpr std::size_t kLargestFile = std::numeric_limits<std::uint32_t>::max();
 
 // Large enough for few system calls, small enough for the second-level cache.
 constexpr std::size_t kObservedPiece = std::size_t{256} * 1024;
@@ -33,7 +31,7 @@ void ReadBuffer::reserve(std::size_t capacity) {
 }
 
 bool ReadBuffer::readToEnd(ByteSource& file, const Observer& observer) {
-  const std::size_t piece = observer ? kObservedPiece : kLargestFile;
+  const std::size_t piece = observer ? kObservedPiece : std::size_t{kTooLargeFile};
   for (;;) {
     while (size_ < capacity_) {
       const auto count = file.read({data_.get() + size_, std::min(piece, capacity_ - size_)});
@@ -45,7 +43,7 @@ bool ReadBuffer::readToEnd(ByteSource& file, const Observer& observer) {
         observer(view());
       }
     }
-    if (capacity_ > kLargestFile / 2) {
+    if (capacity_ > kTooLargeFile / 2) {
       return false;
     }
     reserve(2 * capacity_);
@@ -54,7 +52,7 @@ bool ReadBuffer::readToEnd(ByteSource& file, const Observer& observer) {
 
 bool ReadBuffer::read(ByteSource& file, std::uint64_t expectedSize, const Observer& observer) {
   size_ = 0;
-  if (expectedSize >= kLargestFile) {
+  if (expectedSize >= kTooLargeFile) {
     return false;
   }
   // One byte more than expected, so that the end of the file is seen without enlarging the buffer.

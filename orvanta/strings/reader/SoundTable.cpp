@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 
+#include <orvanta/strings/ReadFully.h>
 #include <orvanta/strings/reader/SoundTable.h>
 #include <orvanta/strings/reader/binary/BinaryTable.h>
 #include <orvanta/strings/reader/text/TextTable.h>
@@ -10,8 +10,6 @@ namespace orvanta::strings {
 
 namespace {
 
-constexpr double kLargestFile = std::numeric_limits<std::uint32_t>::max();
-
 // Estimated from the lines that the file begins with.
 StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSize) {
   // The rest may have shorter entries, or be somewhat less like ASCII.
@@ -19,8 +17,9 @@ StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSiz
   // The first lines may be full of semicolons.
   constexpr double kShortEntry = 16;
   constexpr std::size_t kSample = 4096;
+  constexpr auto kMost = static_cast<double>(kTooLargeFile);
   const std::string_view lines = window.lines().substr(0, kSample);
-  const double bytes = std::min(fileSize * window.growth() * kMargin, kLargestFile);
+  const double bytes = std::min(fileSize * window.growth() * kMargin, kMost);
   const auto statements = static_cast<double>(std::count(lines.begin(), lines.end(), ';'));
   const double each = std::max(static_cast<double>(lines.size()) / (statements + 1), kShortEntry);
   return {static_cast<std::size_t>(bytes / each), static_cast<std::size_t>(bytes)};
@@ -29,8 +28,7 @@ StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSiz
 }  // namespace
 
 std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_t expectedSize) {
-  const auto size = static_cast<double>(expectedSize);
-  if (size > kLargestFile) {
+  if (expectedSize >= kTooLargeFile) {
     return nullptr;
   }
   TextWindow window(file);
@@ -41,7 +39,7 @@ std::shared_ptr<const StringTable> readSoundTable(ByteSource& file, std::uint64_
   if (!window.isSound() || !isKnown || looksLikeBinaryTable(lines)) {
     return nullptr;
   }
-  StringTableBuilder table(expectedIn(window, size));
+  StringTableBuilder table(expectedIn(window, static_cast<double>(expectedSize)));
   return readSoundText(window, table) ? table.build() : nullptr;
 }
 

@@ -68,8 +68,9 @@ bool TextWindow::advance(std::size_t consumed) {
 
 void TextWindow::readOn(char* bytes, std::size_t& size, std::size_t limit) {
   const std::optional<std::size_t> count = readFully(file_, {bytes + size, limit - size});
-  isSound_ = isSound_ && count.has_value();
   size += count.value_or(0);
+  read_ += count.value_or(0);
+  isSound_ = isSound_ && count.has_value() && read_ < kTooLargeFile;
   atEnd_ = size < limit;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -27,7 +28,7 @@ class TextWindow {
   [[nodiscard]] bool atEnd() const noexcept { return atEnd_; }
 
   /// False when the file could not be read so far, a character of `lines` or before is damaged, or
-  /// the file is in another encoding.
+  /// the file is in another encoding or too large for a table.
   [[nodiscard]] bool isSound() const noexcept { return isSound_; }
 
   /// Drops the first `consumed` bytes of `lines` and refills the window. False, with nothing done,
@@ -42,6 +43,7 @@ class TextWindow {
   void endAtLineBreak(std::size_t checked) noexcept;
 
   ByteSource& file_;
+  std::uint64_t read_ = 0;  // Bytes of the file.
   TextEncoding encoding_ = TextEncoding::kUtf8;
   std::unique_ptr<char[]> encoded_;  // Of a file in UTF-16, what is not yet converted.
   std::size_t encodedSize_ = 0;
