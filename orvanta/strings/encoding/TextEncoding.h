@@ -28,8 +28,8 @@ struct EncodedText {
 };
 
 /// Detects the encoding by the byte-order mark or, without one, by the zero bytes of the first
-/// characters, which are ASCII in a strings file. Everything else is UTF-8. Its validity is checked
-/// here and nowhere else.
+/// characters, which are ASCII in a strings file. Everything else is UTF-8, whose validity is
+/// checked.
 [[nodiscard]] EncodedText detectEncoding(std::string_view bytes) noexcept;
 
 /// The same, without the check of UTF-8, from the beginning of a text: at least 64 bytes of it, or

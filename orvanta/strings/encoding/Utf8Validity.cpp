@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -56,9 +57,9 @@ constexpr std::size_t kLookBack = 3;
   return isAscii(block) && !expectsContinuation(block) ? true : isValidBlock(block);
 }
 
-// Whether the bytes from `at` to `end`, a multiple of a block, are valid. Which error of a
-// character that continues behind `end` is found only there differs: all blocks of a text are to be
-// judged here.
+// Whether the bytes from `at` to `end`, a multiple of a block, are valid, given the three bytes
+// before `at`. Of a character that begins before `end` and is invalid, the error may be found here
+// or in the block behind `end`, so every block of a text has to be checked.
 bool areValidBlocks(const Byte* at, const Byte* end) noexcept {
 #ifdef ORVANTA_HAS_AVX2
   if (avx2::isAvailable()) {
@@ -83,7 +84,7 @@ bool isValidUtf8(std::string_view text) noexcept {
   };
   const auto* const begin = reinterpret_cast<const Byte*>(text.data());
   if (text.size() < kBlock) {
-    std::memcpy(edge.data() + kLookBack, begin, text.size());
+    std::copy_n(begin, text.size(), edge.data() + kLookBack);  // `begin` may be null.
     return isValidEdge();
   }
   std::memcpy(edge.data() + kLookBack, begin, kBlock);

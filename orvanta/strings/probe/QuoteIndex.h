@@ -75,7 +75,8 @@ class QuoteIndex {
       quotes = withoutEscaped(marks.bits);
     }
     // Most blocks have at most this many quotes. So many are always written; `more` of them count.
-    // Counting them here is faster than `std::popcount`, a call on processors of no certain kind.
+    // Counting them here is faster than `std::popcount`, which is a function call unless the
+    // compiler may assume the instruction.
     constexpr std::size_t kUsual = 4;
     std::size_t* const out = found_.data() + count_;
     std::size_t more = 0;
