@@ -30,7 +30,7 @@ class StandardNotificationCenter : public testing::Test {
 
   // Observers and senders are identified by their addresses.
   std::array<int, 4> things_{};
-  const void* const anna_ = &things_[0];
+  const void* const anna_ = things_.data();
   const void* const berta_ = &things_[1];
   const void* const carla_ = &things_[2];
   const void* const sender_ = &things_[3];
@@ -185,11 +185,9 @@ TEST_F(StandardNotificationCenter, MayBeUsedFromSeveralThreads) {
   const std::array<int, 50> observers{};
   for (int round = 0; round < 200; ++round) {
     for (const int& observer : observers) {
-      center_->addObserver(
-          &observer, "change", nullptr,
-          [&told, state = std::make_shared<int>(0)](const platform::Notification&) {
-            told += static_cast<std::size_t>(1 + *state);
-          });
+      center_->addObserver(&observer, "change", nullptr,
+                           [&told, state = std::make_shared<std::size_t>(1)](
+                               const platform::Notification&) { told += *state; });
     }
     for (const int& observer : observers) {
       center_->removeObserver(&observer);

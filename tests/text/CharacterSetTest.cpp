@@ -14,7 +14,8 @@ TEST(CharacterSet, HoldsExactlyTheWhiteSpaceOfUnicode) {
   for (char32_t character = 0; character < 0x11000; ++character) {
     std::string text;
     utf8::append(text, character);
-    const std::string between = text + "x" + text;
+    std::string between = text;
+    between.append("x").append(text);
     const bool isSpace = kSpaces.find(character) != std::u32string_view::npos;
     const bool isBreak = kLineBreaks.find(character) != std::u32string_view::npos;
     ASSERT_EQ(stringByTrimming(between, CharacterSet::whitespace), isSpace ? "x" : between)

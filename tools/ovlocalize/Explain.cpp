@@ -54,7 +54,7 @@ std::string tableOf(const TextExplanation& why) {
   if (why.source == TextSource::key) {
     return "none: no table in use has the key, so it is shown itself";
   }
-  const std::string table = oneLine(why.locale) + (why.isDownloaded ? ", downloaded" : ", shipped");
+  std::string table = oneLine(why.locale) + (why.isDownloaded ? ", downloaded" : ", shipped");
   switch (why.source) {
     case TextSource::english:
       return table + "; it stands in for " + current + ", which lacks the key";
