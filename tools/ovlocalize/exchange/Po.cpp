@@ -118,7 +118,7 @@ po_message_t messageFrom(const Unit& unit) {
   if (unit.target) {
     alignLineFeeds(source, target);
   }
-  po_message_t const message = po_message_create();
+  auto* const message = po_message_create();
   po_message_set_msgctxt(message, keyInNotation(unit.key).c_str());
   po_message_set_msgid(message, source.c_str());
   po_message_set_msgstr(message, target.c_str());
@@ -175,7 +175,7 @@ std::string poFrom(const Catalog& catalog) {
   const OpenPo file(po_file_create(), po_file_free);
   {
     const Messages messages(po_message_iterator(file.get(), nullptr), po_message_iterator_free);
-    po_message_t const first = po_message_create();
+    auto* const first = po_message_create();
     po_message_set_msgid(first, "");
     po_message_set_msgstr(first, header(catalog).c_str());
     po_message_insert(messages.get(), first);
@@ -207,7 +207,7 @@ Catalog catalogFromPo(const std::string& bytes, const std::string& name) {
   Catalog catalog;
   catalog.language = headerField(file.get(), "Language");
   const Messages messages(po_message_iterator(file.get(), nullptr), po_message_iterator_free);
-  while (po_message_t const message = po_next_message(messages.get())) {
+  while (auto* const message = po_next_message(messages.get())) {
     addUnit(catalog, message, name);
   }
   return catalog;
