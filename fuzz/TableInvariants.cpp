@@ -1,12 +1,11 @@
 #include "TableInvariants.h"
 
-#include <algorithm>
 #include <ctime>
 #include <memory>
-#include <optional>
-#include <span>
 #include <string>
 #include <vector>
+
+#include <tests/support/MemorySource.h>
 
 #include <orvanta/strings/document/StringsDocument.h>
 #include <orvanta/strings/reader/SoundTable.h>
@@ -51,22 +50,6 @@ Reading read(std::string_view bytes) {
 }
 
 const StringTable kNone;
-
-// Reads in pieces of sizes that depend on what was read.
-class Pieces final : public strings::ByteSource {
- public:
-  explicit Pieces(std::string_view bytes) : bytes_(bytes) {}
-
-  std::optional<std::size_t> read(std::span<char> buffer) override {
-    const std::size_t wanted = 1 + bytes_.size() % 251;
-    const std::size_t count = bytes_.copy(buffer.data(), std::min(buffer.size(), wanted));
-    bytes_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view bytes_;
-};
 
 std::string described(const Reading& reading) {
   std::string text = reading.table ? "table\n" : "no table\n";
@@ -138,8 +121,9 @@ void checkTable(std::string_view bytes) {
   require(once == described(read(bytes)), "reading again gives the same");
   require(once.starts_with(described({readStringTable(bytes), {}})),
           "nobody listening changes nothing");
-  Pieces pieces(bytes);
-  if (const auto sound = strings::readSoundTable(pieces, bytes.size())) {
+  constexpr std::size_t kPiece = 251;
+  test::MemorySource file(bytes, kPiece);
+  if (const auto sound = strings::readSoundTable(file, bytes.size())) {
     require(once == described({sound, {}}), "a table read through a window is the same, and sound");
   }
 }

@@ -16,7 +16,7 @@ namespace orvanta {
 
 /// Asks the system for the pages of memory that is about to be filled, all in one call where it can
 /// do that: page faults at the first accesses take twice as long (benchmark rows `load-500` to
-/// `load-5k`). Provides for the first megabytes alone: a size may be a wrong guess. Thread-safe.
+/// `load-5k`). Provides the first 16 MiB alone: a size may be a wrong guess. Thread-safe.
 void providePages(char* bytes, std::size_t size) noexcept;
 
 /// The deleter of `Bytes`.

@@ -103,7 +103,7 @@ char* utf8ToUtf16Little(const char* in, const char* inEnd, char* out) noexcept {
 #ifdef ORVANTA_HAS_AVX2
     if (avx2::isAvailable()) {
       at = avx2::utf8BlocksToUtf16Little(at.in, inEnd, at.out);
-      // The last character may have been converted from its beginning.
+      // The bytes that continue a character of the last block have been converted with it.
       while (at.in != inEnd && continues(static_cast<Byte>(*at.in))) {
         ++at.in;
       }

@@ -19,7 +19,8 @@ StringTableBuilder::Expected expectedIn(const TextWindow& window, double fileSiz
   constexpr std::size_t kSample = 4096;
   constexpr auto kMost = static_cast<double>(kTooLargeFile);
   const std::string_view lines = window.lines().substr(0, kSample);
-  const double bytes = std::min(fileSize * window.growth() * kMargin, kMost);
+  const double bytes = window.atEnd() ? static_cast<double>(window.lines().size())
+                                      : std::min(fileSize * window.growth() * kMargin, kMost);
   const auto statements = static_cast<double>(std::count(lines.begin(), lines.end(), ';'));
   const double each = std::max(static_cast<double>(lines.size()) / (statements + 1), kShortEntry);
   return {static_cast<std::size_t>(bytes / each), static_cast<std::size_t>(bytes)};

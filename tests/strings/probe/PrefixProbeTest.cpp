@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <tests/support/BinaryList.h>
 #include <tests/support/MemorySource.h>
+#include <tests/support/SoundTables.h>
 
 #include <orvanta/strings/probe/PrefixProbe.h>
 #include <orvanta/strings/reader/StringTableReader.h>

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <tests/support/Bytes.h>
-#include <tests/support/MemorySource.h>
+#include <tests/support/SoundTables.h>
 
 #include <orvanta/strings/reader/StringTableReader.h>
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <tests/support/MemorySource.h>
+#include <tests/support/SoundTables.h>
 
 #include <orvanta/strings/reader/StringTableReader.h>
 

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// Each error of two adjacent bytes shows in three half bytes. A shuffle of a vector looks each of
+// Each error of two adjacent bytes shows in three nibbles. A shuffle of a vector looks each of
 // them up in a table of sixteen, for all bytes at once. The method is that of J. Keiser and
 // D. Lemire, "Validating UTF-8 In Less Than One Instruction Per Byte", 2021.
 
@@ -14,14 +14,14 @@ namespace orvanta::strings::avx2 {
 
 namespace {
 
-// Sets of values of a half byte, one bit for each.
-constexpr unsigned from(unsigned first, unsigned last) {
+// Sets of values of a nibble, one bit for each.
+constexpr unsigned range(unsigned first, unsigned last) {
   return (2U << last) - (1U << first);
 }
-constexpr unsigned kAny = from(0x0, 0xF);
-constexpr unsigned kAscii = from(0x0, 0x7);
-constexpr unsigned kContinuation = from(0x8, 0xB);
-constexpr unsigned kLead = from(0xC, 0xF);
+constexpr unsigned kAny = range(0x0, 0xF);
+constexpr unsigned kAscii = range(0x0, 0x7);
+constexpr unsigned kContinuation = range(0x8, 0xB);
+constexpr unsigned kLead = range(0xC, 0xF);
 
 struct Error {
   unsigned upperBefore;  // Of the byte before.
@@ -30,22 +30,22 @@ struct Error {
 };
 
 constexpr std::array<Error, 8> kErrors = {{
-    {kLead, kAny, kAscii | kLead},                          // A character that is cut off.
-    {kAscii, kAny, kContinuation},                          // A continuation of nothing.
-    {from(0xC, 0xC), from(0x0, 0x1), kContinuation},        // Two bytes for one.
-    {from(0xE, 0xE), from(0x0, 0x0), from(0x8, 0x9)},       // Three bytes for two.
-    {from(0xE, 0xE), from(0xD, 0xD), from(0xA, 0xB)},       // A surrogate.
-    {from(0xF, 0xF), from(0x4, 0xF), from(0x9, 0xB)},       // Beyond U+10FFFF.
-    {from(0xF, 0xF), 1U | from(0x5, 0xF), from(0x8, 0x8)},  // The same, or four bytes for three.
+    {kLead, kAny, kAscii | kLead},                             // A character that is cut off.
+    {kAscii, kAny, kContinuation},                             // A continuation of nothing.
+    {range(0xC, 0xC), range(0x0, 0x1), kContinuation},         // Two bytes for one.
+    {range(0xE, 0xE), range(0x0, 0x0), range(0x8, 0x9)},       // Three bytes for two.
+    {range(0xE, 0xE), range(0xD, 0xD), range(0xA, 0xB)},       // A surrogate.
+    {range(0xF, 0xF), range(0x4, 0xF), range(0x9, 0xB)},       // Beyond U+10FFFF.
+    {range(0xF, 0xF), 1U | range(0x5, 0xF), range(0x8, 0x8)},  // The same, or four bytes for three.
     {kContinuation, kAny, kContinuation},  // Wrong unless the byte is a third or fourth one.
 }};
 constexpr int kThirdOrFourth = 0x80;  // The bit of the last row.
 
-constexpr Shuffle tableOf(unsigned Error::*halfByte) {
+constexpr Shuffle tableOf(unsigned Error::*nibble) {
   Shuffle table = {};
   for (unsigned value = 0; value < table.size(); ++value) {
     for (unsigned row = 0; row < kErrors.size(); ++row) {
-      table[value] |= static_cast<std::uint8_t>(((kErrors[row].*halfByte >> value) & 1U) << row);
+      table[value] |= static_cast<std::uint8_t>(((kErrors[row].*nibble >> value) & 1U) << row);
     }
   }
   return table;

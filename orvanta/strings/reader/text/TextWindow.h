@@ -27,8 +27,8 @@ class TextWindow {
   /// Whether `lines` reach to the end of the file.
   [[nodiscard]] bool atEnd() const noexcept { return atEnd_; }
 
-  /// False when the file could not be read so far, a character of `lines` or before is damaged, or
-  /// the file is in another encoding or too large for a table.
+  /// False when the file could not be read so far, a character that was read is damaged, or the
+  /// file is in another encoding or too large for a table.
   [[nodiscard]] bool isSound() const noexcept { return isSound_; }
 
   /// Drops the first `consumed` bytes of `lines` and refills the window. False, with nothing done,
