@@ -2,7 +2,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include <orvanta/strings/encoding/Utf8ToUtf16.h>
 #include <orvanta/strings/encoding/Utf8Validity.h>
 #include <orvanta/strings/writer/Utf16Writer.h>
 
@@ -30,26 +29,18 @@ Status invalidUtf8() {
 
 }  // namespace
 
-struct Utf16Writer::Buffers {
-  static constexpr std::size_t kSize = std::size_t{32} * 1024;
-  char utf8[kSize];
-  char utf16[2 * kSize + kUtf16Slack];
-};
-
 Utf16Writer::Utf16Writer(ByteSink& file)
     : file_(file), buffers_(std::make_unique_for_overwrite<Buffers>()) {
   append("\uFEFF");
 }
 
-Utf16Writer::~Utf16Writer() = default;
-
-void Utf16Writer::append(std::string_view utf8) {
+void Utf16Writer::appendAndFlush(std::string_view utf8) {
   while (!utf8.empty()) {
-    const std::size_t part = std::min(utf8.size(), Buffers::kSize - size_);
+    const std::size_t part = std::min(utf8.size(), kSize - size_);
     std::memcpy(buffers_->utf8 + size_, utf8.data(), part);
     size_ += part;
     utf8.remove_prefix(part);
-    if (size_ == Buffers::kSize) {
+    if (size_ == kSize) {
       flush();
     }
   }
