@@ -56,10 +56,6 @@ std::size_t leadingAscii(std::uint64_t block) noexcept {
          8;
 }
 
-bool continues(Byte byte) noexcept {
-  return (byte & 0xC0) == 0x80;
-}
-
 // Converts the character at `in`, which is not ASCII.
 Transcoded putNotAscii(const char* in, const char* inEnd, char* out) noexcept {
   const auto byte = [in](std::size_t index) { return static_cast<Byte>(in[index]); };
@@ -103,10 +99,6 @@ char* utf8ToUtf16Little(const char* in, const char* inEnd, char* out) noexcept {
 #ifdef ORVANTA_HAS_AVX2
     if (avx2::isAvailable()) {
       at = avx2::utf8BlocksToUtf16Little(at.in, inEnd, at.out);
-      // The bytes that continue a character of the last block have been converted with it.
-      while (at.in != inEnd && continues(static_cast<Byte>(*at.in))) {
-        ++at.in;
-      }
       if (at.in == inEnd) {
         break;
       }

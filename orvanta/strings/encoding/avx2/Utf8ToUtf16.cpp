@@ -75,6 +75,10 @@ constexpr auto kKept =
       break;
     }
   }
+  // The bytes that continue a character of the last block have been converted with it.
+  while (in != inEnd && (static_cast<unsigned char>(*in) & 0xC0) == 0x80) {
+    ++in;
+  }
   return {in, out};
 }
 

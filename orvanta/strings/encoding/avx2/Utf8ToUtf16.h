@@ -8,9 +8,9 @@
 namespace orvanta::strings::avx2 {
 
 /// Converts blocks of sixteen bytes of valid UTF-8 to UTF-16, little-endian: the characters that
-/// begin in them. Stops before a block in which a character of four bytes begins, and when less
-/// than a block and two bytes are left. What it has written needs at most twice the room, but it
-/// may overwrite 32 bytes more.
+/// begin in them. `in` must be the beginning of a character, and so is where it stops: before a
+/// block in which a character of four bytes begins, and when less than a block and two bytes are
+/// left. What it has written needs at most twice the room, but it may overwrite 32 bytes more.
 [[nodiscard]] Transcoded utf8BlocksToUtf16Little(const char* in, const char* inEnd,
                                                  char* out) noexcept;
 

@@ -1,8 +1,9 @@
 #pragma once
 
 // Compilers that can build single functions for processors with AVX2, whether or not the rest of
-// the program is. Tables of half a megabyte take a third less time to load with these functions
-// (benchmark rows `load-*` and `update`); without them the portable code does the same.
+// the program is. With these functions a table in UTF-8 takes a quarter less time to load, one in
+// UTF-16 6 % less, and a fifth less to be written (benchmark rows `load-2500-utf8`, `load-2500` and
+// `update-40`). Without them the portable code does the same.
 #if defined(__GNUC__) && defined(__x86_64__)
 #define ORVANTA_HAS_AVX2
 
