@@ -10,8 +10,8 @@ namespace orvanta {
 /// `std::realloc`; null when memory is short. They begin at a cache line: systems copy files faster
 /// to such addresses. Thread-safe.
 ///
-/// For large sizes the system is asked for huge pages. New memory is cleared page by page as it is
-/// first touched, which with small pages took more time than all the rest of reading a table.
+/// For large sizes the system is asked for huge pages: with small ones, reading a table of 10,000
+/// strings takes some 15 % longer (benchmark rows `load-utf16`, `load-utf8`).
 [[nodiscard]] char* allocateBytes(std::size_t size) noexcept;
 
 /// Asks the system for the pages of memory that is about to be filled, all in one call where it can

@@ -12,7 +12,7 @@ namespace orvanta::strings::avx2 {
 namespace {
 
 constexpr std::ptrdiff_t kBlock = 32;  // Bytes.
-constexpr std::ptrdiff_t kRoom = 64;
+constexpr auto kRoom = static_cast<std::ptrdiff_t>(kUtf16Room);
 
 // Eight characters of one or two bytes, each in a field of two. A bit of the index is set for one
 // of a single byte.
